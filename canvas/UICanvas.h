@@ -1,0 +1,216 @@
+// The canvas: a child window that shows one page of a document and takes the user's input for it.
+#pragma once
+
+#include "core/Platform.h"
+
+#include <deque>
+#include <map>
+
+namespace Lumo {
+
+class CUIDocument;
+class CUIEdit;
+class CUIObject;
+class CUIObjectTextEdit;
+class CUIToolBase;
+
+/// What the mouse does on a canvas.
+enum CanvasMode : int {
+    CM_DRAW = 0,      ///< the current drawing shape's tool: drawing and selecting
+    CM_POLY = 1,      ///< the same
+    CM_TEXT = 2,      ///< the text tool: in-place editing
+    CM_PROPERTY = 3,  ///< the property tool, which only a host can register
+    CM_RUNNING = 4,   ///< the current drawing shape's tool, while the screen is operated
+};
+
+/// Shows a page and passes mouse messages to the tools. The window belongs to the host, which destroys it and deletes
+/// the canvas; a canvas that is deleted takes its page out of every document. One page unit is one pixel.
+class AFX_EXT_CLASS CUICanvas : public CWnd {
+    DECLARE_DYNAMIC(CUICanvas)
+
+public:
+    CUICanvas();
+    /// A canvas of `document`, which is not owned.
+    explicit CUICanvas(CUIDocument* document);
+    ~CUICanvas() override;
+    CUICanvas(const CUICanvas&) = delete;
+    CUICanvas& operator=(const CUICanvas&) = delete;
+
+    /// Sets the page size in pixels (0: the screen's) and switches interaction off. Always 1.
+    int Init(int bSkipDisplayQuery, CSize& size);
+    /// Switches interaction off and empties the selection without repainting.
+    void Clear();
+
+    /// The document, not owned; null when there is none or it is gone.
+    CUIDocument* GetDocument() const { return m_pDocument; }
+    /// Sets the document; not owned.
+    void SetDocument(CUIDocument* document) { m_pDocument = document; }
+    /// Whether mouse messages reach the tools: 1 or 0.
+    int GetInteractive() const { return m_bInteractive; }
+    /// Switches the mouse on (1) or off (0).
+    void SetInteractive(int interactive) { m_bInteractive = interactive; }
+
+    /// Client pixels to page units, in place; rectangles come back normalised.
+    void ClientToDoc(CPoint& point);
+    void ClientToDoc(CRect& rect);
+    void ClientToDoc(Gdiplus::PointF& point);
+    void ClientToDoc(Gdiplus::RectF& rect);
+    /// Page units to client pixels, in place; rectangles come back normalised.
+    void DocToClient(CPoint& point);
+    void DocToClient(CRect& rect);
+    void DocToClient(Gdiplus::PointF& point);
+    void DocToClient(Gdiplus::RectF& rect);
+
+    /// Stores the scale factor of `step` (0 to 8: 0.25 to 4) and repaints; an unknown step changes nothing. Painting
+    /// does not apply the factor.
+    void OnCanvasScale(UINT step);
+
+    /// Draws the page and the selection's handles on a black ground of `cx` by `cy` pixels.
+    void Draw(Gdiplus::Graphics* g, int cx, int cy);
+    /// A diagnostic picture of curves and an icon on `hdc`; reached by no message.
+    void OnPaintTest(HDC hdc);
+
+    /// The document's update call; `hint` 0 whole window, 1 the object `data`, 2 the selection, 3 the objects of the
+    /// list `data`, 4 those of them that are embedded objects, 5 whole window and empty selection.
+    void UpdateCanvas(CWnd* sender, long hint, void* data);
+
+    /// Union of the selected objects' rectangles and the origin; all zero when nothing is selected.
+    CRect GetSelectionRect();
+    /// Rectangle of the object selected last; all zero when nothing is selected.
+    CRect GetSelectionLastRect();
+    /// True when both corners of `inner` lie in `outer`, right and bottom edges excluded.
+    BOOL IsInRect(CRect outer, CRect inner);
+
+    /// Adds `obj` to the front of the selection; with `add` 0 the selection is emptied first. Null just empties.
+    void Select(CUIObject* obj, int add);
+    /// Takes `obj` out of the selection.
+    void Deselect(CUIObject* obj);
+    /// Whether `obj` is selected.
+    BOOL IsSelected(const CUIObject* obj);
+    /// Empties the selection unless `add` is set; selects nothing.
+    void SelectWithinRect(CRect rect, int add, int whole);
+
+    /// Opens the in-place editor over `obj`, closing one that is open; null closes it without saving.
+    void EditText(CUIObjectTextEdit* obj);
+
+    /// Registers keyboard and mouse for raw input sent to `target`, in the background too. 0 on failure, which is
+    /// also shown.
+    int RegisterRawInput(HWND target);
+    /// Removes the mouse registration; the keyboard stays. 0 on failure.
+    int UnRegisterRawInput();
+
+    // Mode commands: each stores its mode and nothing else.
+    void OnModeDraw() { m_nMode = CM_DRAW; }
+    void OnModePoly() { m_nMode = CM_POLY; }
+    void OnModeText() { m_nMode = CM_TEXT; }
+    void OnModeProperty() { m_nMode = CM_PROPERTY; }
+    void OnModeRunning() { m_nMode = CM_RUNNING; }
+
+    // Editing commands.
+    /// Puts the selected objects on the clipboard.
+    void OnEditObjectCopy();
+    /// Copies, then deletes.
+    void OnEditObjectCut();
+    /// Takes objects off the page, one for each selected object.
+    void OnEditObjectDelete();
+    /// Empties the selection and marks the document modified; adds nothing.
+    void OnEditObjectPaste();
+
+    // Arrangement commands. The reference of an alignment is the object selected last.
+    void OnToolsAlignLeft();
+    void OnToolsAlignRight();
+    void OnToolsAlignTop();
+    void OnToolsAlignBottom();
+    /// Moves sideways onto the reference's vertical axis.
+    void OnToolsAlignVCenter();
+    /// Moves up or down onto the reference's horizontal axis.
+    void OnToolsAlignHCenter();
+    void OnToolsAlignCenter();
+    /// Turns the selection by -90 degrees.
+    void OnToolsRotateLeft();
+    /// Turns the selection by 90 degrees (clockwise).
+    void OnToolsRotateRight();
+    // Stacking of the object selected last.
+    void OnToolsPositionBack();
+    void OnToolsPositionBackward();
+    void OnToolsPositionForward();
+    void OnToolsPositionFront();
+    /// Puts the selected objects into a new group.
+    void OnToolsMakeGroup();
+    /// Dissolves the group selected last; its children stay selected.
+    void OnToolsMakeUngroup();
+
+    /// Asks for an embedded object and puts it on the page.
+    void OnInsertOleObject();
+
+    /// Window procedure of the class "Tessel Canvas".
+    static LRESULT CALLBACK WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+    /// The private clipboard format "Tessel GUI Object ".
+    static CLIPFORMAT m_cfObject;
+
+    // Slot order is part of the contract.
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    BOOL PreTranslateMessage(MSG* msg) override;
+    /// Repaints the rectangle of `obj` with its outline and, when it is selected, its handles.
+    virtual void InvalidateObject(CUIObject* obj);
+    /// Moves handle `how` (8: the whole object) of every selected object by `to` - `from` (page units).
+    virtual void MoveTo(const int& how, CPoint& from, CPoint& to, int);
+    /// Prepares `dc` so that logical units are page units; `info` is null on the screen.
+    virtual void OnPrepareDC(CDC* dc, CPrintInfo* info);
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnPaint();
+    afx_msg void OnContextMenu(CWnd* wnd, CPoint point);
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnNcDestroy();
+
+    int m_nReserved1[2] = {};
+    int m_nWidth;   // page size in pixels, not set before Init
+    int m_nHeight;
+    int m_nReserved2[6] = {};
+
+public:
+    /// The selected objects, the one selected last in front; not owned, each at most once.
+    std::deque<CUIObject*> m_selection;
+    /// A `CanvasMode`.
+    int m_nMode = CM_DRAW;
+    /// Mouse messages reach the tools only while this is not 0.
+    int m_bInteractive = 1;
+    /// The popup menu for the host to show and route; the canvas never opens it.
+    CMenu m_contextMenu;
+    /// The open in-place editor, or null; it deletes itself when its window goes.
+    CUIEdit* m_pEdit = nullptr;
+
+protected:
+    CUIDocument* m_pDocument = nullptr;
+    float m_fScaleX = 0.0f;
+    float m_fScaleY = 0.0f;
+    std::map<int, void*> m_map;  // unused, for hosts compiled against the layout
+
+private:
+    friend class CUIDocument;
+
+    CUIToolBase* FindModeTool() const;
+    void BuildContextMenu();
+    void InvalidateObjects(const std::deque<CUIObject*>& objects);
+    void ForgetObject(CUIObject* object);
+    template <class Shift>
+    void AlignSelection(Shift shift);
+    void RotateSelection(float angle);
+    template <class Restack>
+    void RestackFront(Restack restack);
+    void CopySelection();
+
+    static std::deque<CUICanvas*>& Canvases();
+};
+
+}  // namespace Lumo
