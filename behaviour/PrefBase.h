@@ -1,0 +1,54 @@
+// The common base of the behaviour records, and the condition under which a behaviour acts.
+//
+// A behaviour record says how an object is to react at run time. The library stores, copies and archives the
+// records; the host evaluates them, and gives every field its meaning and its range. No field is checked
+// here.
+//
+// All records copy alike: an assignment copies the record's own fields and leaves the target's name, a copy
+// constructor starts from an empty name. A behaviour copied onto another object so keeps that object's
+// binding.
+#pragma once
+
+#include "core/Platform.h"
+
+/// The base of every behaviour record.
+class AFX_EXT_CLASS CPrefBase {
+public:
+    CPrefBase();
+    /// Copies the name, unlike the derived records.
+    CPrefBase(const CPrefBase& source);
+    /// Copies the name, unlike the derived records.
+    CPrefBase& operator=(const CPrefBase& source);
+    virtual ~CPrefBase();
+    /// Stores or loads the name and, in a derived record, its fields in order of declaration.
+    virtual void Serialize(CArchive& ar);
+
+    /// What the behaviour is bound to, a tag or a parameter of the host; empty when it is not bound.
+    CString m_strName;
+};
+
+/// One comparison of a condition.
+struct CPrefComparison {
+    /// Comparison code.
+    int m_nCompare = 0;
+    /// The value compared with, or the lower limit.
+    int m_nLowValue = 0;
+    /// The upper limit.
+    int m_nHighValue = 0;
+    /// How the result is joined with the next comparison.
+    int m_nJoin = 0;
+};
+
+/// The condition under which an object's behaviours act: up to four joined comparisons.
+class AFX_EXT_CLASS CPrefCondition : public CPrefBase {
+public:
+    CPrefCondition();
+    CPrefCondition(const CPrefCondition& source);
+    CPrefCondition& operator=(const CPrefCondition& source);
+    ~CPrefCondition() override;
+    /// The name, then each of the sixteen values as its low 16 bits; a value outside 0 to 65535 comes back
+    /// reduced to them.
+    void Serialize(CArchive& ar) override;
+
+    CPrefComparison m_comparisons[4];
+};

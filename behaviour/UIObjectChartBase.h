@@ -1,0 +1,33 @@
+// The base of a host's chart objects.
+#pragma once
+
+#include "behaviour/UIObjectList.h"
+
+namespace Lumo {
+
+/// The base class of the host's charts: a symbol that draws nothing and handles no event by itself.
+class AFX_EXT_CLASS CUIObjectChartBase : public CUIObjectSymbol {
+public:
+    /// A chart on `rect` (page units) of the given kind; the shape name is "ChartBase".
+    CUIObjectChartBase(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectChartBase(const CUIObjectChartBase& source) = default;
+    CUIObjectChartBase& operator=(const CUIObjectChartBase& source) = default;
+
+    /// Does nothing: the geometry stays as constructed.
+    void Init(DrawShape kind, Gdiplus::RectF& rect) override;
+    /// Does nothing.
+    void RelayEvent(CUICanvas* canvas, unsigned int message, unsigned int flags, long lParam) override;
+    /// The group's, unchanged.
+    void Serialize(CArchive& ar) override;
+    /// Draws nothing, the children neither.
+    void Draw(Gdiplus::Graphics* g) override;
+    /// The group's, unchanged.
+    void Release() override;
+    ~CUIObjectChartBase() override;
+
+protected:
+    /// Kind 14, name "ChartBase".
+    CUIObjectChartBase();
+};
+
+}  // namespace Lumo

@@ -1,0 +1,122 @@
+// Groups and symbols: objects that hold other objects and treat them as one.
+#pragma once
+
+#include <deque>
+
+#include "core/UIObject.h"
+
+namespace Lumo {
+
+class CUIDocument;
+
+/// A group. While an object is a child, the X and Y of its position are measured from the group's position
+/// point; its width and height stay as they are.
+///
+/// Lifetime: `Release` destroys the children and leaves the group itself alive, unlike the base object's; the
+/// document deletes the emptied group afterwards. A class derived from the group must keep that rule: an
+/// override of `Release` never deletes the object itself. The destructor and the copies destroy no child.
+class AFX_EXT_CLASS CUIObjectList : public CUIObject {
+public:
+    /// A group on `bounds` (page units), marked as grouped although it has no children yet; the shape name is
+    /// "List" whatever the kind.
+    CUIObjectList(Gdiplus::RectF& bounds, DrawShape kind);
+    /// Shares the children: both groups then refer to the same objects. The first of them that is released
+    /// destroys these objects, and they leave every other group as they go.
+    CUIObjectList(const CUIObjectList& source);
+    /// Shares the source's children like the copy constructor; the former children are let go, not destroyed.
+    CUIObjectList& operator=(const CUIObjectList& source);
+
+    using CUIObject::DrawDragImage;
+    using CUIObject::HitTest;
+    using CUIObject::Rotate;
+
+    /// The base object's, unchanged.
+    void Init(DrawShape kind, Gdiplus::RectF& rect) override;
+    /// TRUE at the first child that is hit at its stored position. Every child asked has a dragging offset of
+    /// its coordinate record folded into its stored point.
+    BOOL HitTest(Gdiplus::RectF& rect) override;
+    /// The base data, the number of children (32 bits), the grouped flag (16 bits), then kind (32 bits) and
+    /// data of each child. Loading consumes the children's data and keeps none of them.
+    void Serialize(CArchive& ar) override;
+    /// Moves every child to page coordinates and draws it there; the child stays where it was drawn. Nothing
+    /// is drawn for the group itself.
+    void Draw(Gdiplus::Graphics* g) override;
+    /// Turns every child about the centre of the group by `angle` degrees, clockwise.
+    void Rotate(float angle) override;
+    /// The shape kind.
+    int GetType() override;
+    /// Destroys the children and forgets them. The group itself stays alive.
+    void Release() override;
+    /// Destroys no child.
+    ~CUIObjectList() override;
+
+    /// Slot 32: takes `child` as the last (topmost) one and makes its position relative to the group. Null,
+    /// the group itself and a group that holds this one are ignored. The group's own bounds stay.
+    virtual void MakeGroup(CUIObject* child);
+    /// Slot 33: gives the children back in page coordinates, appended to `out`, and destroys the group, which
+    /// must not be touched after the call. Without children, or without `out`, nothing happens.
+    virtual void MakeUnGroup(std::deque<CUIObject*>* out);
+    /// Slot 34: outlines the group where it stands, in black, 2 units wide; `point` is not used.
+    virtual void DrawDragImage(Gdiplus::Graphics* g, POINT point);
+
+    /// Turns a rectangle relative to the group into page coordinates.
+    void NormalizeRect(Gdiplus::RectF& rect);
+
+    /// The children in drawing order (the first is drawn first). Owned by the group, never null entries.
+    const std::deque<CUIObject*>& GetChildren() const { return m_children; }
+    /// Width and height at construction, rounded to whole units.
+    int GetInitialWidth() const { return m_nInitialWidth; }
+    int GetInitialHeight() const { return m_nInitialHeight; }
+    /// 1 from construction with a rectangle or the first child on, 0 after ungrouping.
+    BOOL GetGrouped() const { return m_bGrouped; }
+
+    /// Takes `object` out of every group that holds it. Whoever is about to destroy an object calls this, so
+    /// that no group keeps a pointer to it; for an object in no group it costs one look-up.
+    static void ForgetChild(CUIObject* object);
+
+protected:
+    /// Kind 18, name "List", no size, not grouped.
+    CUIObjectList();
+
+    /// Takes `child` as the last one without touching its position.
+    void AppendChild(CUIObject* child);
+    /// Lets all children go without destroying them.
+    void DetachChildren();
+
+    /// What the constructors with a rectangle have in common: the initial size and the grouped flag.
+    void SetInitialSize(const Gdiplus::RectF& bounds);
+
+private:
+    friend class CUIDocument;
+
+    bool Holds(const CUIObject* object) const;
+    void StoreChildren(CArchive& ar);
+    void SkipStoredChildren(CArchive& ar);
+
+    std::deque<CUIObject*> m_children;
+
+protected:
+    int m_nInitialWidth = 0;
+    int m_nInitialHeight = 0;
+    BOOL m_bGrouped = FALSE;
+};
+
+/// A group that was inserted from a symbol file. It differs from a group in its name and default kind only.
+class AFX_EXT_CLASS CUIObjectSymbol : public CUIObjectList {
+public:
+    /// A symbol on `bounds` (page units) of the given kind; the shape name is "Symbol".
+    CUIObjectSymbol(Gdiplus::RectF& bounds, DrawShape kind);
+    CUIObjectSymbol(const CUIObjectSymbol& source) = default;
+    CUIObjectSymbol& operator=(const CUIObjectSymbol& source) = default;
+
+    /// The group's, unchanged.
+    void Serialize(CArchive& ar) override;
+    /// The group's, unchanged.
+    void Release() override;
+
+protected:
+    /// Kind 14, name "Symbol", no size, not grouped.
+    CUIObjectSymbol();
+};
+
+}  // namespace Lumo
