@@ -7,10 +7,10 @@
 /// Input of a value.
 class AFX_EXT_CLASS CPrefInput : public CPrefBase {
 public:
-    CPrefInput();
-    CPrefInput(CPrefInput& source);
+    CPrefInput() = default;
+    CPrefInput(CPrefInput& source) : CPrefBase() { *this = source; }
     CPrefInput& operator=(const CPrefInput& source);
-    ~CPrefInput() override;
+    ~CPrefInput() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Kind of value.
@@ -22,10 +22,10 @@ public:
 /// Action of a button.
 class AFX_EXT_CLASS CPrefButton : public CPrefBase {
 public:
-    CPrefButton();
-    CPrefButton(CPrefButton& source);
+    CPrefButton() = default;
+    CPrefButton(CPrefButton& source) : CPrefBase() { *this = source; }
     CPrefButton& operator=(const CPrefButton& source);
-    ~CPrefButton() override;
+    ~CPrefButton() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Captions of the button while it is off and on.
@@ -46,10 +46,10 @@ public:
 /// Switch to another page.
 class AFX_EXT_CLASS CPrefPage : public CPrefBase {
 public:
-    CPrefPage();
-    CPrefPage(CPrefPage& source);
+    CPrefPage() = default;
+    CPrefPage(CPrefPage& source) : CPrefBase() { *this = source; }
     CPrefPage& operator=(const CPrefPage& source);
-    ~CPrefPage() override;
+    ~CPrefPage() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Way of switching.
@@ -64,10 +64,10 @@ public:
 /// Display of the bound value as text.
 class AFX_EXT_CLASS CPrefText : public CPrefBase {
 public:
-    CPrefText();
-    CPrefText(CPrefText& source);
+    CPrefText() = default;
+    CPrefText(CPrefText& source) : CPrefBase() { *this = source; }
     CPrefText& operator=(const CPrefText& source);
-    ~CPrefText() override;
+    ~CPrefText() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Kind of value.
@@ -79,10 +79,10 @@ public:
 /// Slider.
 class AFX_EXT_CLASS CPrefSlider : public CPrefBase {
 public:
-    CPrefSlider();
-    CPrefSlider(CPrefSlider& source);
+    CPrefSlider() = default;
+    CPrefSlider(CPrefSlider& source) : CPrefBase() { *this = source; }
     CPrefSlider& operator=(const CPrefSlider& source);
-    ~CPrefSlider() override;
+    ~CPrefSlider() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Direction code.

@@ -14,12 +14,12 @@
 /// The base of every behaviour record.
 class AFX_EXT_CLASS CPrefBase {
 public:
-    CPrefBase();
+    CPrefBase() = default;
     /// Copies the name, unlike the derived records.
-    CPrefBase(const CPrefBase& source);
+    CPrefBase(const CPrefBase& source) = default;
     /// Copies the name, unlike the derived records.
-    CPrefBase& operator=(const CPrefBase& source);
-    virtual ~CPrefBase();
+    CPrefBase& operator=(const CPrefBase& source) = default;
+    virtual ~CPrefBase() = default;
     /// Stores or loads the name and, in a derived record, its fields in order of declaration.
     virtual void Serialize(CArchive& ar);
 
@@ -42,10 +42,10 @@ struct CPrefComparison {
 /// The condition under which an object's behaviours act: up to four joined comparisons.
 class AFX_EXT_CLASS CPrefCondition : public CPrefBase {
 public:
-    CPrefCondition();
-    CPrefCondition(const CPrefCondition& source);
+    CPrefCondition() = default;
+    CPrefCondition(const CPrefCondition& source) : CPrefBase() { *this = source; }
     CPrefCondition& operator=(const CPrefCondition& source);
-    ~CPrefCondition() override;
+    ~CPrefCondition() override = default;
     /// The name, then each of the sixteen values as its low 16 bits; a value outside 0 to 65535 comes back
     /// reduced to them.
     void Serialize(CArchive& ar) override;

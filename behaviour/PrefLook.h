@@ -7,10 +7,10 @@
 /// Blinking.
 class AFX_EXT_CLASS CPrefBlink : public CPrefBase {
 public:
-    CPrefBlink();
-    CPrefBlink(CPrefBlink& source);
+    CPrefBlink() = default;
+    CPrefBlink(CPrefBlink& source) : CPrefBase() { *this = source; }
     CPrefBlink& operator=(const CPrefBlink& source);
-    ~CPrefBlink() override;
+    ~CPrefBlink() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Speed code.
@@ -28,10 +28,10 @@ public:
 /// Change of colours. All fields are ARGB.
 class AFX_EXT_CLASS CPrefColor : public CPrefBase {
 public:
-    CPrefColor();
-    CPrefColor(CPrefColor& source);
+    CPrefColor() = default;
+    CPrefColor(CPrefColor& source) : CPrefBase() { *this = source; }
     CPrefColor& operator=(const CPrefColor& source);
-    ~CPrefColor() override;
+    ~CPrefColor() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Interior while the bound value is on and off.
@@ -50,10 +50,10 @@ public:
 /// Hiding.
 class AFX_EXT_CLASS CPrefHide : public CPrefBase {
 public:
-    CPrefHide();
-    CPrefHide(CPrefHide& source);
+    CPrefHide() = default;
+    CPrefHide(CPrefHide& source) : CPrefBase() { *this = source; }
     CPrefHide& operator=(const CPrefHide& source);
-    ~CPrefHide() override;
+    ~CPrefHide() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Hiding mode.
@@ -71,10 +71,10 @@ public:
 /// Filling of a part of the object in proportion to the bound value.
 class AFX_EXT_CLASS CPrefFill : public CPrefBase {
 public:
-    CPrefFill();
-    CPrefFill(CPrefFill& source);
+    CPrefFill() = default;
+    CPrefFill(CPrefFill& source) : CPrefBase() { *this = source; }
     CPrefFill& operator=(const CPrefFill& source);
-    ~CPrefFill() override;
+    ~CPrefFill() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Filling mode.

@@ -7,10 +7,10 @@
 /// Movement; an object has two of them.
 class AFX_EXT_CLASS CPrefMove : public CPrefBase {
 public:
-    CPrefMove();
-    CPrefMove(CPrefMove& source);
+    CPrefMove() = default;
+    CPrefMove(CPrefMove& source) : CPrefBase() { *this = source; }
     CPrefMove& operator=(const CPrefMove& source);
-    ~CPrefMove() override;
+    ~CPrefMove() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Direction code.
@@ -27,10 +27,10 @@ public:
 /// Resizing; an object has two of them.
 class AFX_EXT_CLASS CPrefSize : public CPrefBase {
 public:
-    CPrefSize();
-    CPrefSize(CPrefSize& source);
+    CPrefSize() = default;
+    CPrefSize(CPrefSize& source) : CPrefBase() { *this = source; }
     CPrefSize& operator=(const CPrefSize& source);
-    ~CPrefSize() override;
+    ~CPrefSize() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Direction code.
@@ -48,10 +48,10 @@ public:
 /// Rotation.
 class AFX_EXT_CLASS CPrefRotate : public CPrefBase {
 public:
-    CPrefRotate();
-    CPrefRotate(CPrefRotate& source);
+    CPrefRotate() = default;
+    CPrefRotate(CPrefRotate& source) : CPrefBase() { *this = source; }
     CPrefRotate& operator=(const CPrefRotate& source);
-    ~CPrefRotate() override;
+    ~CPrefRotate() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Angle at the lower and at the upper value, in degrees.

@@ -8,10 +8,10 @@
 /// One line of a trend graph.
 class AFX_EXT_CLASS CPrefTrendLine : public CPrefBase {
 public:
-    CPrefTrendLine();
-    CPrefTrendLine(CPrefTrendLine& source);
+    CPrefTrendLine() = default;
+    CPrefTrendLine(CPrefTrendLine& source) : CPrefBase() { *this = source; }
     CPrefTrendLine& operator=(const CPrefTrendLine& source);
-    ~CPrefTrendLine() override;
+    ~CPrefTrendLine() override = default;
     void Serialize(CArchive& ar) override;
 
     /// Width of the line.
@@ -25,12 +25,12 @@ public:
 /// overwritten.
 class AFX_EXT_CLASS CPrefTrend : public CPrefBase {
 public:
-    CPrefTrend();
-    CPrefTrend(CPrefTrend& source);
+    CPrefTrend() = default;
+    CPrefTrend(CPrefTrend& source) : CPrefBase() { *this = source; }
     /// Copies the fields and puts a new, nameless line into the list for every line of the source; a null
     /// entry is skipped.
     CPrefTrend& operator=(const CPrefTrend& source);
-    ~CPrefTrend() override;
+    ~CPrefTrend() override = default;
     /// The name, the eight fields, the number of lines and every line. Loading appends to the list; load into
     /// a new record. A number of lines below 0 raises the archive exception.
     void Serialize(CArchive& ar) override;

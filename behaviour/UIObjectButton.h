@@ -12,7 +12,7 @@ public:
     /// Kind 4, name "Button".
     CUIObjectButton();
     /// A button on `rect` (page units) of the given kind; the shape name is "Button".
-    CUIObjectButton(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectButton(const Gdiplus::RectF& rect, DrawShape kind);
     CUIObjectButton(const CUIObjectButton& source) = default;
     CUIObjectButton& operator=(const CUIObjectButton& source) = default;
 
@@ -23,9 +23,9 @@ public:
     void Init(DrawShape kind, Gdiplus::RectF& rect) override;
     /// Enlarges `rect` in place by half the line width plus 1 on every side and tells whether it touches the
     /// ellipse inscribed in the position, for rectangular buttons too.
-    BOOL HitTest(Gdiplus::RectF& rect) override;
+    int HitTest(Gdiplus::RectF& rect) override;
     /// Does nothing; a host reacts to run-mode events here.
-    void RelayEvent(CUICanvas* canvas, unsigned int message, unsigned int flags, long lParam) override;
+    void RelayEvent(CUICanvas* canvas, unsigned int message, unsigned int wParam, long lParam) override;
     /// The base data, then the fourteen fields; the checked field is written twice.
     void Serialize(CArchive& ar) override;
     /// Turns the button state into the flags and calls the state operation of every flag that is set: states
@@ -59,7 +59,7 @@ public:
     void SetTracking(BOOL tracking) { m_bTracking = tracking; }
     /// Tooltip text; the reference is to the stored string.
     CString& GetTooltip() { return m_strTooltip; }
-    void SetTooltip(CString& tooltip) { m_strTooltip = tooltip; }
+    void SetTooltip(const CString& tooltip) { m_strTooltip = tooltip; }
     /// Whether the mouse is over the button. A paint sets it in state 3 and clears it in the other states up
     /// to 5.
     BOOL GetOver() const { return m_bOver; }
@@ -98,7 +98,7 @@ public:
     /// Kind 4, name "ButtonRect".
     CUIObjectButtonRect();
     /// A button on `rect` (page units) of the given kind; the shape name is "ButtonRect".
-    CUIObjectButtonRect(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectButtonRect(const Gdiplus::RectF& rect, DrawShape kind);
     CUIObjectButtonRect(const CUIObjectButtonRect& source) = default;
     CUIObjectButtonRect& operator=(const CUIObjectButtonRect& source) = default;
 
@@ -116,7 +116,7 @@ public:
     /// Kind 4, name "ButtonRectRound".
     CUIObjectButtonRectRound();
     /// A button on `rect` (page units) of the given kind; the shape name is "ButtonRectRound".
-    CUIObjectButtonRectRound(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectButtonRectRound(const Gdiplus::RectF& rect, DrawShape kind);
     CUIObjectButtonRectRound(const CUIObjectButtonRectRound& source) = default;
     CUIObjectButtonRectRound& operator=(const CUIObjectButtonRectRound& source) = default;
 
@@ -131,7 +131,7 @@ public:
     /// Kind 4, name "ButtonEllipse".
     CUIObjectButtonEllipse();
     /// A button on `rect` (page units) of the given kind; the shape name is "ButtonEllipse".
-    CUIObjectButtonEllipse(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectButtonEllipse(const Gdiplus::RectF& rect, DrawShape kind);
     CUIObjectButtonEllipse(const CUIObjectButtonEllipse& source) = default;
     CUIObjectButtonEllipse& operator=(const CUIObjectButtonEllipse& source) = default;
 

@@ -9,14 +9,14 @@ namespace Lumo {
 class AFX_EXT_CLASS CUIObjectChartBase : public CUIObjectSymbol {
 public:
     /// A chart on `rect` (page units) of the given kind; the shape name is "ChartBase".
-    CUIObjectChartBase(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectChartBase(const Gdiplus::RectF& rect, DrawShape kind);
     CUIObjectChartBase(const CUIObjectChartBase& source) = default;
     CUIObjectChartBase& operator=(const CUIObjectChartBase& source) = default;
 
     /// Does nothing: the geometry stays as constructed.
     void Init(DrawShape kind, Gdiplus::RectF& rect) override;
     /// Does nothing.
-    void RelayEvent(CUICanvas* canvas, unsigned int message, unsigned int flags, long lParam) override;
+    void RelayEvent(CUICanvas* canvas, unsigned int message, unsigned int wParam, long lParam) override;
     /// The group's, unchanged.
     void Serialize(CArchive& ar) override;
     /// Draws nothing, the children neither.

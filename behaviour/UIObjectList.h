@@ -19,7 +19,7 @@ class AFX_EXT_CLASS CUIObjectList : public CUIObject {
 public:
     /// A group on `bounds` (page units), marked as grouped although it has no children yet; the shape name is
     /// "List" whatever the kind.
-    CUIObjectList(Gdiplus::RectF& bounds, DrawShape kind);
+    CUIObjectList(const Gdiplus::RectF& bounds, DrawShape kind);
     /// Shares the children: both groups then refer to the same objects. The first of them that is released
     /// destroys these objects, and they leave every other group as they go.
     CUIObjectList(const CUIObjectList& source);
@@ -32,9 +32,9 @@ public:
 
     /// The base object's, unchanged.
     void Init(DrawShape kind, Gdiplus::RectF& rect) override;
-    /// TRUE at the first child that is hit at its stored position. Every child asked has a dragging offset of
+    /// 1 at the first child that is hit at its stored position. Every child asked has a dragging offset of
     /// its coordinate record folded into its stored point.
-    BOOL HitTest(Gdiplus::RectF& rect) override;
+    int HitTest(Gdiplus::RectF& rect) override;
     /// The base data, the number of children (32 bits), the grouped flag (16 bits), then kind (32 bits) and
     /// data of each child. Loading consumes the children's data and keeps none of them.
     void Serialize(CArchive& ar) override;
@@ -105,7 +105,7 @@ protected:
 class AFX_EXT_CLASS CUIObjectSymbol : public CUIObjectList {
 public:
     /// A symbol on `bounds` (page units) of the given kind; the shape name is "Symbol".
-    CUIObjectSymbol(Gdiplus::RectF& bounds, DrawShape kind);
+    CUIObjectSymbol(const Gdiplus::RectF& bounds, DrawShape kind);
     CUIObjectSymbol(const CUIObjectSymbol& source) = default;
     CUIObjectSymbol& operator=(const CUIObjectSymbol& source) = default;
 

@@ -13,7 +13,7 @@ public:
     /// Both values 0, no client item, the kind not set.
     CUIObjectOle();
     /// An embedded object on `rect` (page units); both values 0, no client item.
-    CUIObjectOle(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectOle(const Gdiplus::RectF& rect, DrawShape kind);
     /// Shares the client item, which neither of the two owns.
     CUIObjectOle(const CUIObjectOle& source) = default;
     CUIObjectOle& operator=(const CUIObjectOle& source) = default;

@@ -12,7 +12,7 @@ public:
     /// Kind 13, name "TextEdit", the default position.
     CUIObjectTextEdit();
     /// A text box on `rect` (page units) of the given kind; the shape name is "TextEdit".
-    CUIObjectTextEdit(Gdiplus::RectF& rect, DrawShape kind);
+    CUIObjectTextEdit(const Gdiplus::RectF& rect, DrawShape kind);
     CUIObjectTextEdit(const CUIObjectTextEdit& source) = default;
     CUIObjectTextEdit& operator=(const CUIObjectTextEdit& source) = default;
 
@@ -22,7 +22,7 @@ public:
     void Init(DrawShape kind, Gdiplus::RectF& rect) override;
     /// Enlarges `rect` in place by half the line width plus 1 on every side and tells whether it touches the
     /// ellipse inscribed in the position.
-    BOOL HitTest(Gdiplus::RectF& rect) override;
+    int HitTest(Gdiplus::RectF& rect) override;
     /// The base object's data only.
     void Serialize(CArchive& ar) override;
     /// Draws nothing.

@@ -1,0 +1,167 @@
+#include "behaviour/UIObjectButton.h"
+
+#include "behaviour/src/EllipseHit.h"
+
+namespace Lumo {
+namespace {
+
+template <class Value>
+void Archive(CArchive& ar, Value& value) {
+    if (ar.IsStoring())
+        ar << value;
+    else
+        ar >> value;
+}
+
+}  // namespace
+
+CUIObjectButton::CUIObjectButton() {
+    m_nDrawShape = DS_ELLIPSE;
+    m_strShapeName = L"Button";
+}
+
+CUIObjectButton::CUIObjectButton(const Gdiplus::RectF& rect, DrawShape kind) : CUIObject(rect, kind) {
+    m_strShapeName = L"Button";
+}
+
+CUIObjectButton::~CUIObjectButton() = default;
+
+void CUIObjectButton::Init(DrawShape kind, Gdiplus::RectF& rect) {
+    CUIObject::Init(kind, rect);
+    m_bRectMode = TRUE;
+    m_dwButtonStyle = 0;
+    m_dwRadioGroup = 0;
+    m_dwButtonState = 0;
+    m_bChecked = FALSE;
+    m_bTracking = TRUE;
+    m_strTooltip.Empty();
+    m_bDrawNormal = TRUE;
+    m_bDrawDown = FALSE;
+    m_bDrawFocus = FALSE;
+    m_bSpare = TRUE;
+    m_bOver = FALSE;
+    m_bDrawDisabled = FALSE;
+    m_bBorder = FALSE;
+    m_dwDrawStyle = 0;
+}
+
+// kept: rectangular buttons are tested by their inscribed ellipse too.
+int CUIObjectButton::HitTest(Gdiplus::RectF& rect) {
+    return HitEllipse(rect, GetPosition(), GetLineWidth());
+}
+
+void CUIObjectButton::RelayEvent(CUICanvas*, unsigned int, unsigned int, long) {}
+
+void CUIObjectButton::Serialize(CArchive& ar) {
+    CUIObject::Serialize(ar);
+    Archive(ar, m_dwButtonStyle);
+    Archive(ar, m_dwRadioGroup);
+    Archive(ar, m_dwButtonState);
+    Archive(ar, m_bChecked);
+    Archive(ar, m_bTracking);
+    Archive(ar, m_strTooltip);
+    Archive(ar, m_bDrawNormal);
+    Archive(ar, m_bDrawDown);
+    Archive(ar, m_bDrawFocus);
+    Archive(ar, m_bSpare);
+    Archive(ar, m_bOver);
+    Archive(ar, m_bDrawDisabled);
+    // kept: the checked field stands in the archive twice, and the second one remains.
+    Archive(ar, m_bChecked);
+    Archive(ar, m_bBorder);
+    Archive(ar, m_dwDrawStyle);
+}
+
+void CUIObjectButton::ApplyButtonState() {
+    BOOL* const flags[] = {&m_bDrawNormal, &m_bDrawDown,     &m_bDrawFocus,
+                           &m_bOver,       &m_bDrawDisabled, &m_bChecked};
+    if (m_dwButtonState >= std::size(flags))
+        return;
+    for (BOOL* flag : flags)
+        *flag = flag == flags[m_dwButtonState];
+}
+
+void CUIObjectButton::Draw(Gdiplus::Graphics* g) {
+    ApplyButtonState();
+    if (m_bDrawNormal)
+        DrawNormal(g);
+    if (m_bDrawDown)
+        DrawDown(g);
+    if (m_bDrawFocus)
+        DrawFocus(g);
+    if (m_bOver)
+        DrawOver(g);
+    if (m_bDrawDisabled)
+        DrawDisabled(g);
+    if (m_bChecked)
+        DrawChecked(g, 0);
+}
+
+void CUIObjectButton::DrawNormal(Gdiplus::Graphics*) {}
+void CUIObjectButton::DrawDown(Gdiplus::Graphics*) {}
+void CUIObjectButton::DrawFocus(Gdiplus::Graphics*) {}
+void CUIObjectButton::DrawOver(Gdiplus::Graphics*) {}
+void CUIObjectButton::DrawDisabled(Gdiplus::Graphics*) {}
+void CUIObjectButton::DrawChecked(Gdiplus::Graphics*, int) {}
+
+CUIObjectButtonRect::CUIObjectButtonRect() {
+    m_strShapeName = L"ButtonRect";
+    SetAllDrawFlags();
+}
+
+CUIObjectButtonRect::CUIObjectButtonRect(const Gdiplus::RectF& rect, DrawShape kind)
+    : CUIObjectButton(rect, kind) {
+    m_strShapeName = L"ButtonRect";
+    SetAllDrawFlags();
+}
+
+CUIObjectButtonRect::~CUIObjectButtonRect() = default;
+
+void CUIObjectButtonRect::Init(DrawShape kind, Gdiplus::RectF& rect) {
+    CUIObjectButton::Init(kind, rect);
+    SetAllDrawFlags();
+}
+
+// kept: unlike the other shapes, a rectangular button starts with every draw flag set, the over flag
+// included.
+void CUIObjectButtonRect::SetAllDrawFlags() {
+    m_bDrawNormal = TRUE;
+    m_bDrawDown = TRUE;
+    m_bDrawFocus = TRUE;
+    m_bSpare = TRUE;
+    m_bOver = TRUE;
+    m_bDrawDisabled = TRUE;
+}
+
+CUIObjectButtonRectRound::CUIObjectButtonRectRound() {
+    m_strShapeName = L"ButtonRectRound";
+}
+
+CUIObjectButtonRectRound::CUIObjectButtonRectRound(const Gdiplus::RectF& rect, DrawShape kind)
+    : CUIObjectButton(rect, kind) {
+    m_strShapeName = L"ButtonRectRound";
+}
+
+CUIObjectButtonRectRound::~CUIObjectButtonRectRound() = default;
+
+void CUIObjectButtonRectRound::Init(DrawShape kind, Gdiplus::RectF& rect) {
+    CUIObjectButton::Init(kind, rect);
+    m_bRectMode = TRUE;
+}
+
+CUIObjectButtonEllipse::CUIObjectButtonEllipse() {
+    m_strShapeName = L"ButtonEllipse";
+}
+
+CUIObjectButtonEllipse::CUIObjectButtonEllipse(const Gdiplus::RectF& rect, DrawShape kind)
+    : CUIObjectButton(rect, kind) {
+    m_strShapeName = L"ButtonEllipse";
+}
+
+CUIObjectButtonEllipse::~CUIObjectButtonEllipse() = default;
+
+void CUIObjectButtonEllipse::Init(DrawShape kind, Gdiplus::RectF& rect) {
+    CUIObjectButton::Init(kind, rect);
+}
+
+}  // namespace Lumo

@@ -1,0 +1,189 @@
+#include "behaviour/UIObjectList.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "core/Geometry.h"
+#include "core/GraphicsStateScope.h"
+#include "core/UIDocument.h"
+
+namespace Lumo {
+namespace {
+
+/// Which groups hold an object, one entry for every time that it is held. With it an object that is destroyed
+/// leaves its groups without a search through all of them.
+using GroupsOfChild = std::unordered_multimap<CUIObject*, CUIObjectList*>;
+
+GroupsOfChild& Groups() {
+    static GroupsOfChild groups;
+    return groups;
+}
+
+Gdiplus::RectF Moved(Gdiplus::RectF rect, float dx, float dy) {
+    rect.Offset(dx, dy);
+    return rect;
+}
+
+}  // namespace
+
+CUIObjectList::CUIObjectList() {
+    m_nDrawShape = DS_LIST;
+    m_strShapeName = L"List";
+}
+
+CUIObjectList::CUIObjectList(const Gdiplus::RectF& bounds, DrawShape kind) : CUIObject(bounds, kind) {
+    m_strShapeName = L"List";
+    SetInitialSize(bounds);
+}
+
+CUIObjectList::CUIObjectList(const CUIObjectList& source) : CUIObject(source) {
+    *this = source;
+}
+
+CUIObjectList& CUIObjectList::operator=(const CUIObjectList& source) {
+    if (this == &source)
+        return *this;
+    CUIObject::operator=(source);
+    DetachChildren();
+    // kept: a copy shares the children of its source.
+    for (CUIObject* child : source.m_children)
+        AppendChild(child);
+    m_nInitialWidth = source.m_nInitialWidth;
+    m_nInitialHeight = source.m_nInitialHeight;
+    m_bGrouped = source.m_bGrouped;
+    return *this;
+}
+
+CUIObjectList::~CUIObjectList() {
+    DetachChildren();
+}
+
+void CUIObjectList::SetInitialSize(const Gdiplus::RectF& bounds) {
+    m_nInitialWidth = RoundToInt(bounds.Width);
+    m_nInitialHeight = RoundToInt(bounds.Height);
+    m_bGrouped = TRUE;
+}
+
+void CUIObjectList::Init(DrawShape kind, Gdiplus::RectF& rect) {
+    CUIObject::Init(kind, rect);
+}
+
+int CUIObjectList::GetType() {
+    return m_nDrawShape;
+}
+
+void CUIObjectList::AppendChild(CUIObject* child) {
+    if (!child)
+        return;
+    m_children.push_back(child);
+    Groups().emplace(child, this);
+}
+
+void CUIObjectList::DetachChildren() {
+    for (CUIObject* child : m_children) {
+        auto [entry, end] = Groups().equal_range(child);
+        entry = std::find_if(entry, end, [this](const auto& held) { return held.second == this; });
+        if (entry != end)
+            Groups().erase(entry);
+    }
+    std::deque<CUIObject*>().swap(m_children);
+}
+
+void CUIObjectList::ForgetChild(CUIObject* object) {
+    const auto [first, last] = Groups().equal_range(object);
+    if (first == last)
+        return;
+    for (auto entry = first; entry != last; ++entry) {
+        std::deque<CUIObject*>& children = entry->second->m_children;
+        const auto place = std::find(children.begin(), children.end(), object);
+        if (place != children.end())
+            children.erase(place);
+    }
+    Groups().erase(first, last);
+}
+
+bool CUIObjectList::Holds(const CUIObject* object) const {
+    return std::any_of(m_children.begin(), m_children.end(), [object](const CUIObject* child) {
+        const auto* group = dynamic_cast<const CUIObjectList*>(child);
+        return child == object || (group && group->Holds(object));
+    });
+}
+
+void CUIObjectList::MakeGroup(CUIObject* child) {
+    if (!child || child == this)
+        return;
+    const auto* group = dynamic_cast<const CUIObjectList*>(child);
+    if (group && group->Holds(this))
+        return;
+    AppendChild(child);
+    const Gdiplus::RectF own = GetPosition();
+    child->SetPosition(Moved(child->GetPosition(), -own.X, -own.Y));
+    m_bGrouped = TRUE;
+}
+
+void CUIObjectList::MakeUnGroup(std::deque<CUIObject*>* out) {
+    if (m_children.empty() || !out)
+        return;
+    const Gdiplus::RectF own = GetPosition();
+    for (CUIObject* child : m_children) {
+        child->SetPosition(Moved(child->GetPosition(), own.X, own.Y));
+        out->push_back(child);
+    }
+    DetachChildren();
+    m_bGrouped = FALSE;
+    CUIDocument::ForgetObject(this);
+    delete this;
+}
+
+void CUIObjectList::NormalizeRect(Gdiplus::RectF& rect) {
+    const Gdiplus::RectF own = GetPosition();
+    rect.Offset(own.X, own.Y);
+}
+
+void CUIObjectList::Draw(Gdiplus::Graphics* g) {
+    const Gdiplus::RectF own = GetPosition();
+    for (CUIObject* child : m_children) {
+        // kept: the child is not set back after drawing, so every paint moves it on by the group's position.
+        child->SetPosition(Moved(child->GetPosition(), own.X, own.Y));
+        child->Draw(g);
+    }
+}
+
+int CUIObjectList::HitTest(Gdiplus::RectF& rect) {
+    for (CUIObject* child : m_children) {
+        const Gdiplus::RectF position = child->GetPosition();
+        const int hit = child->HitTest(rect);
+        // kept: storing the position again folds a dragging offset into the stored point.
+        child->SetPosition(position);
+        if (hit)
+            return 1;
+    }
+    return 0;
+}
+
+void CUIObjectList::Rotate(float angle) {
+    const Gdiplus::RectF own = GetPosition();
+    Gdiplus::PointF centre = CentreOf(own);
+    for (CUIObject* child : m_children) {
+        Gdiplus::RectF turned = Moved(child->GetPosition(), own.X, own.Y);
+        child->Rotate(angle, turned, centre);
+        child->SetPosition(Moved(turned, -own.X, -own.Y));
+    }
+}
+
+void CUIObjectList::DrawDragImage(Gdiplus::Graphics* g, POINT) {
+    const GraphicsStateScope scope(*g);
+    const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 2.0f);
+    g->DrawRectangle(&pen, GetPosition());
+}
+
+void CUIObjectList::Release() {
+    while (!m_children.empty()) {
+        CUIObject* child = m_children.front();
+        ForgetChild(child);
+        CUIDocument::DestroyObject(child);
+    }
+    std::deque<CUIObject*>().swap(m_children);
+}
+
+}  // namespace Lumo
