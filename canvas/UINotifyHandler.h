@@ -1,0 +1,102 @@
+// Callback classes for run mode: they turn the mouse messages of a window into the notifications of a drag.
+#pragma once
+
+#include "core/Platform.h"
+
+namespace Lumo {
+
+/// Where a handler stands in a drag.
+enum DragState : int {
+    DRAG_IDLE = 0,      ///< no drag
+    DRAG_STARTING = 1,  ///< while `OnDragEnter` runs
+    DRAG_DRAGGING = 2,  ///< every move is a part of the drag
+    DRAG_ENDED = 3,     ///< the button was released
+};
+
+/// Mouse and key events of one window, with drags told by the messages' points. The host derives, overrides what it
+/// needs, and calls the handlers with the messages of its window: `wnd` is that window, `message` the message number,
+/// `flags` the MK_ key-state flags, `packed` the client point with x in the low and y in the high 16 bits, both
+/// unsigned. `OnKeyDown` gets the key data instead. Handlers without a comment do nothing here.
+///
+/// A handler serves one window at a time. Call `OnLButtonDown` of this class before the first move: only it puts the
+/// drag state into a new handler.
+class AFX_EXT_CLASS CUINotifyHandler {
+public:
+    CUINotifyHandler();
+    CUINotifyHandler(const CUINotifyHandler&) = default;
+    CUINotifyHandler& operator=(const CUINotifyHandler&) = default;
+
+    // Slot order is part of the contract.
+    /// Remembers the press; no drag is in progress then.
+    virtual void OnLButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// Ends a drag, unless the release is within 2 pixels of the press: then the drag stays open.
+    virtual void OnLButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnLButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnRButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnRButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnRButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// Starts a drag when MK_LBUTTON is set and the point has left the press point; continues one.
+    virtual void OnMouseMove(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMouseWheel(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// A drag starts; `point` is where the button went down.
+    virtual void OnDragEnter(CWnd* wnd, UINT flags, const CPoint& point);
+    /// A drag goes on; `point` is where the mouse is.
+    virtual void OnDrag(CWnd* wnd, UINT flags, const CPoint& point);
+    /// A drag ends; `point` is where the button was released.
+    virtual void OnDragLeave(CWnd* wnd, UINT flags, const CPoint& point);
+    virtual void OnKeyDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+
+protected:
+    CPoint m_ptPress;   // client point of the last press
+    CPoint m_ptLast;    // client point of the last event
+    CPoint m_ptCursor;  // screen point of the last press or move
+    int m_nReserved[2];
+    int m_nDragState;  // a `DragState`
+};
+
+/// The same notifications, told by the cursor on the screen and the physical button, whatever the messages say.
+/// `OnDragEnter` and `OnDragLeave` get screen points, `OnDrag` the message's client point.
+///
+/// The current position is read when the button is released: a drag starts with the first move after a press that
+/// finds it apart from the previous one. Call `OnLButtonDown` of this class before the first move.
+class AFX_EXT_CLASS CUINotifyHandlerEx {
+public:
+    CUINotifyHandlerEx();
+    CUINotifyHandlerEx(const CUINotifyHandlerEx&) = default;
+    CUINotifyHandlerEx& operator=(const CUINotifyHandlerEx&) = default;
+
+    // Slot order is part of the contract.
+    /// The previous position becomes the current one; no drag is in progress then.
+    virtual void OnLButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// Ends a drag; both positions become the cursor's.
+    virtual void OnLButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnLButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnRButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnRButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnRButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// Starts a drag when the left button is down and the positions differ; continues one.
+    virtual void OnMouseMove(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    virtual void OnMouseWheel(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// A drag starts; `point` is the current position.
+    virtual void OnDragEnter(CWnd* wnd, UINT flags, const CPoint& point);
+    /// A drag goes on; `point` is the message's client point.
+    virtual void OnDrag(CWnd* wnd, UINT flags, const CPoint& point);
+    /// A drag ends; `point` is the previous position.
+    virtual void OnDragLeave(CWnd* wnd, UINT flags, const CPoint& point);
+    virtual void OnKeyDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+
+protected:
+    CPoint m_ptCurrent;   // screen position read at the last release
+    CPoint m_ptPrevious;  // screen position read at the last move or release
+    int m_nMarker;        // -1 after every press and release
+    int m_nReserved;
+    int m_nDragState;  // a `DragState`
+};
+
+}  // namespace Lumo
