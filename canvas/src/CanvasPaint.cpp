@@ -1,0 +1,128 @@
+// Painting a page off-screen, and asking for it.
+#include "canvas/UICanvas.h"
+
+#include "canvas/UITool.h"
+#include "core/Geometry.h"
+#include "core/PaintScope.h"
+#include "core/UIDocument.h"
+#include "core/UIObject.h"
+
+namespace Lumo {
+
+namespace {
+
+constexpr Gdiplus::ARGB kGround = 0xFF000000;
+constexpr int kTrackerMargin = 4;  // room for the handles around a selected object
+constexpr int kPlainMargin = 1;
+
+Gdiplus::RectF UpdateRect(const CPaintDC& dc) {
+    CRect update = dc.m_ps.rcPaint;
+    update.InflateRect(1, 1);
+    return RectGdiFromAtl(update);
+}
+
+}  // namespace
+
+BOOL CUICanvas::OnEraseBkgnd(CDC*) { return FALSE; }
+
+void CUICanvas::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    if (client.IsRectEmpty())
+        return;
+    Gdiplus::Graphics window(dc.m_hDC);
+    Gdiplus::Bitmap bitmap(client.Width(), client.Height(), PixelFormat32bppPARGB);
+    {
+        Gdiplus::Graphics page(&bitmap);
+        const Gdiplus::RectF update = UpdateRect(dc);
+        const PaintScope scope(update);
+        page.SetClip(update);
+        Draw(&page, client.Width(), client.Height());
+    }
+    Gdiplus::CachedBitmap cached(&bitmap, &window);
+    window.DrawCachedBitmap(&cached, 0, 0);
+}
+
+void CUICanvas::Draw(Gdiplus::Graphics* g, int cx, int cy) {
+    const Gdiplus::SolidBrush ground{Gdiplus::Color(kGround)};
+    g->FillRectangle(&ground, 0, 0, cx, cy);
+    if (m_pDocument)
+        m_pDocument->DrawCanvas(g, this);
+    for (CUIObject* object : m_selection) {
+        CUIToolBase::FindTool(DS_SELECT);  // kept: the tool is looked up and the answer not used
+        object->DrawTracker(g);
+    }
+}
+
+void CUICanvas::OnPaintTest(HDC hdc) {
+    Default();
+    Gdiplus::Graphics g(hdc);
+    const Gdiplus::Pen pen(Gdiplus::Color(0xFF90EE90), 1.0f);
+    g.DrawBezier(&pen, 200, 400, 280, 380, 320, 360, 400, 200);
+    const Gdiplus::Point spline[] = {{20, 50}, {100, 10}, {200, 100}, {300, 50}, {400, 80}};
+    g.DrawCurve(&pen, spline, std::size(spline), 1.0f);
+    Gdiplus::Image icon(L"res\\test.ico");
+    g.DrawImage(&icon, 200, 200);
+}
+
+void CUICanvas::InvalidateObject(CUIObject* obj) {
+    if (!obj || !m_hWnd)
+        return;
+    Gdiplus::RectF position = obj->GetPosition();
+    CRect rect = RectAtlFromGdi(position);
+    DocToClient(rect);
+    const int margin = static_cast<int>(obj->GetLineWidth() + (IsSelected(obj) ? kTrackerMargin : kPlainMargin));
+    rect.InflateRect(margin, margin);
+    InvalidateRect(rect, TRUE);
+}
+
+void CUICanvas::InvalidateObjects(const std::deque<CUIObject*>& objects) {
+    for (CUIObject* object : objects)
+        InvalidateObject(object);
+}
+
+void CUICanvas::UpdateCanvas(CWnd*, long hint, void* data) {
+    switch (hint) {
+        case 0:
+            if (m_hWnd)
+                Invalidate(FALSE);
+            break;
+        case 1:
+            InvalidateObject(static_cast<CUIObject*>(data));
+            break;
+        case 2:
+            InvalidateObjects(m_selection);
+            break;
+        case 3:
+            if (data && data != &m_selection)
+                InvalidateObjects(*static_cast<std::deque<CUIObject*>*>(data));
+            break;
+        case 4:
+            if (data && data != &m_selection)
+                for (CUIObject* object : *static_cast<std::deque<CUIObject*>*>(data))
+                    if (object && object->GetDrawShape() == DS_OLE)
+                        InvalidateObject(object);
+            break;
+        case 5:
+            if (m_hWnd)
+                Invalidate(FALSE);
+            m_selection.clear();
+            break;
+        default:
+            break;
+    }
+}
+
+void CUICanvas::MoveTo(const int& how, CPoint& from, CPoint& to, int) {
+    const Gdiplus::PointF delta(static_cast<float>(to.x - from.x), static_cast<float>(to.y - from.y));
+    if (delta.X == 0 && delta.Y == 0)
+        return;
+    for (CUIObject* object : m_selection) {
+        InvalidateObject(object);
+        object->MoveTo(how, delta);
+        InvalidateObject(object);
+    }
+}
+
+}  // namespace Lumo

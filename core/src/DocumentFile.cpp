@@ -1,0 +1,94 @@
+// The archive file: dialogs, file and archive set-up, the order of the records, errors.
+#include "core/UIDocument.h"
+
+#include "core/UIObject.h"
+
+#include <afxdlgs.h>
+
+#include <memory>
+
+namespace Lumo {
+
+namespace {
+
+constexpr int kArchiveBuffer = 4096;
+constexpr int kErrorTextLength = 260;
+
+// Kept: saving, too, asks with the dialog for opening, and the filter shows every file whatever its label says.
+bool AskForPath(CString& path) {
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, L"Symbol Files(*.cbf)|*.*||", nullptr, 0, TRUE);
+    if (dialog.DoModal() != IDOK)
+        return false;
+    path = dialog.GetPathName();
+    return true;
+}
+
+void ReportError(LPCTSTR format, const CString& path, CException* error) {
+    TCHAR text[kErrorTextLength] = {};
+    error->GetErrorMessage(text, kErrorTextLength);
+    error->Delete();
+    CString message;
+    message.Format(format, static_cast<LPCTSTR>(path), text);
+    AfxMessageBox(message);
+}
+
+// Runs `transfer` on an archive over `file`; a class-library exception aborts the file and is reported.
+template <class Transfer>
+int Archive(CFile& file, UINT mode, const CString& path, LPCTSTR errorFormat, Transfer transfer) {
+    try {
+        CArchive ar(&file, mode | CArchive::bNoFlushOnDelete, kArchiveBuffer);
+        transfer(ar);
+        ar.Close();
+        file.Close();
+        return 1;
+    } catch (CException* error) {
+        file.Abort();
+        ReportError(errorFormat, path, error);
+        return 0;
+    }
+}
+
+}  // namespace
+
+void CUIDocument::Serialize(CArchive& ar) {
+    for (auto& [canvas, objects] : m_pages) {
+        if (!objects)
+            continue;
+        for (CUIObject* object : *objects)
+            if (object)
+                object->Serialize(ar);
+    }
+}
+
+int CUIDocument::Save(CString& path) {
+    CFile file;
+    if (!file.Open(path, CFile::modeCreate | CFile::shareExclusive | CFile::modeReadWrite))
+        return 0;
+    return Archive(file, CArchive::store, path, L"파일(%s) 쓰기중 오류가 발생하였습니다.\n\n%s",
+                   [this](CArchive& ar) { Serialize(ar); });
+}
+
+int CUIDocument::Load(CString& path) {
+    CFile file;
+    if (!file.Open(path, CFile::modeRead | CFile::shareDenyWrite))
+        return 0;
+    ClearCanvas();
+    return Archive(file, CArchive::load, path, L"파일(%s) 형식을 알수 없습니다.\n\n%s", [&](CArchive& ar) {
+        if (file.GetLength() != 0)
+            Serialize(ar);
+    });
+}
+
+void CUIDocument::SaveDocument() {
+    CString path;
+    if (AskForPath(path))
+        Save(path);
+}
+
+void CUIDocument::LoadDocument() {
+    CString path;
+    if (AskForPath(path))
+        Load(path);
+}
+
+}  // namespace Lumo

@@ -1,0 +1,197 @@
+// Objects of a page: adding and removing, finding, naming, drawing.
+#include "core/UIDocument.h"
+
+#include "appearance/UIObjectRectangle.h"
+#include "behaviour/UIObjectList.h"
+#include "behaviour/UIObjectTextEdit.h"
+#include "canvas/UICanvas.h"
+#include "core/Geometry.h"
+#include "core/UIObject.h"
+
+#include <algorithm>
+
+namespace Lumo {
+
+namespace {
+
+CUIObject* MakeObject(DrawShape kind, Gdiplus::RectF rect) {
+    switch (kind) {
+        case DS_RECTANGLE:
+            return new CUIObjectRectangle(rect, kind);
+        case DS_ELLIPSE:
+            return new CUIObjectEllipse(rect, kind);
+        case DS_TEXTEDIT:
+            return new CUIObjectTextEdit(rect, kind);
+        case DS_SYMBOL:
+            return new CUIObjectSymbol(rect, kind);
+        case DS_LIST:
+            return new CUIObjectList(rect, kind);
+        default:
+            return nullptr;
+    }
+}
+
+// Whether two names are the same but for case. Length and last character tell most different names apart.
+bool SameName(const CString& a, const CString& b) {
+    const int length = a.GetLength();
+    if (length != b.GetLength())
+        return false;
+    if (length == 0)
+        return true;
+    const wchar_t lastA = a[length - 1];
+    const wchar_t lastB = b[length - 1];
+    if (lastA < 0x80 && lastB < 0x80 && (lastA | 0x20) != (lastB | 0x20))
+        return false;
+    return a.CompareNoCase(b) == 0;
+}
+
+CUIObject* FindByName(const CUIObjectDeque* objects, const CString& name) {
+    if (!objects)
+        return nullptr;
+    for (CUIObject* object : *objects)
+        if (object && SameName(object->GetShapeName(), name))
+            return object;
+    return nullptr;
+}
+
+}  // namespace
+
+CUIObject* CUIDocument::CreateObject(DrawShape kind, CRect rect) {
+    CUIObject* object = MakeObject(kind, RectGdiFromAtl(rect));
+    if (object) {
+        object->SetDocument(this);
+        object->SetCanvas(GetCurrentCanvas());
+    } else if (GetCurrentCanvas()) {
+        m_bModified = 1;  // kept: a kind that makes no object still marks a document with a page as modified
+    }
+    AppendObject(object, nullptr);
+    return object;
+}
+
+void CUIDocument::AppendObject(CUIObject* object, CUICanvas* canvas) {
+    if (!object)
+        return;
+    const auto page = canvas ? m_pages.find(canvas) : CurrentPage();
+    if (page != m_pages.end()) {
+        if (!page->first || !page->second)
+            return;
+        page->second->push_back(object);
+    }
+    m_bModified = 1;
+}
+
+// Kept: the argument only has to be there; the object acted on is the first one of the current page.
+template <class Action>
+void CUIDocument::ActOnFirstObject(CUIObject* object, Action action) {
+    if (!object || m_pages.empty())
+        return;
+    const auto page = CurrentPage();
+    if (page != m_pages.end()) {
+        CUIObjectDeque* objects = page->second;
+        if (!page->first || !objects || objects->empty())
+            return;
+        const auto first = std::find_if(objects->begin(), objects->end(), [](CUIObject* entry) { return entry; });
+        if (first != objects->end())
+            action(*first);
+    }
+    m_bModified = 1;
+}
+
+void CUIDocument::DeleteObject(CUIObject* object) {
+    ActOnFirstObject(object, [](CUIObject* first) {
+        DestroyObject(first);
+    });
+}
+
+void CUIDocument::RemoveObject(CUIObject* object, int destroy) {
+    if (destroy)
+        DeleteObject(object);
+    else
+        ActOnFirstObject(object, [](CUIObject* first) { first->SetRemoved(1); });
+}
+
+CUIObject* CUIDocument::FindObject(CString& name, CUICanvas* canvas) {
+    return FindByName(GetCanvasObjectList(canvas ? canvas : GetCurrentCanvas()), name);
+}
+
+CUIObject* CUIDocument::ObjectAt(Gdiplus::PointF& pt) {
+    const CUIObjectDeque* objects = GetCanvasObjectList();
+    if (!objects)
+        return nullptr;
+    for (auto entry = objects->rbegin(); entry != objects->rend(); ++entry) {
+        CUIObject* object = *entry;
+        if (!object || object->GetRemoved())
+            continue;
+        const int handle = object->HitTest(pt, 0);
+        if (handle >= 0 && handle == object->GetHandleCount() - 1)
+            return object;
+    }
+    return nullptr;
+}
+
+CUIObject* CUIDocument::ObjectAt(CPoint& pt) {
+    Gdiplus::PointF point = PointGdiFromAtl(pt);
+    return ObjectAt(point);
+}
+
+int CUIDocument::GetShapeCount(DrawShape kind) {
+    const CUIObjectDeque* objects = GetCanvasObjectList();
+    if (!objects)
+        return 0;
+    return static_cast<int>(std::count_if(objects->begin(), objects->end(), [kind](const CUIObject* object) {
+        return object && object->GetDrawShape() == kind;
+    }));
+}
+
+int CUIDocument::CheckShapeName(CString& name) {
+    return !name.IsEmpty() && FindByName(GetCanvasObjectList(), name) != nullptr;
+}
+
+void CUIDocument::SetShapeName(CUIObject* object) {
+    const CUIObjectDeque* objects = GetCanvasObjectList();
+    if (!object || !objects || objects->empty())
+        return;
+    const DrawShape kind = object->GetDrawShape();
+    CString name;
+    for (int n = GetShapeCount(kind);; ++n) {
+        name.Format(L"%s%d", static_cast<LPCTSTR>(GetDrawShapeName(kind)), n);
+        if (!CheckShapeName(name))
+            break;
+    }
+    object->SetShapeName(name);
+}
+
+void CUIDocument::DrawCanvas(Gdiplus::Graphics* g, CUICanvas* canvas) {
+    const CUIObjectDeque* objects = canvas ? GetCanvasObjectList(canvas) : nullptr;
+    if (!objects)
+        return;
+    for (CUIObject* object : *objects)
+        if (object && !object->GetRemoved())
+            object->Draw(g);
+}
+
+void CUIDocument::DrawCanvas(Gdiplus::Graphics* g) { DrawCanvas(g, GetCurrentCanvas()); }
+
+void CUIDocument::DrawObject(Gdiplus::Graphics* g, CUIObject* focus) {
+    const CUIObjectDeque* objects = focus ? GetCanvasObjectList() : nullptr;
+    if (!objects)
+        return;
+    for (CUIObject* object : *objects)
+        if (object && (!object->GetRemoved() || object == focus))
+            object->Draw(g);
+}
+
+void CUIDocument::UpdateAllCanvas(CUICanvas* canvas, long hint, void* data) {
+    if (!canvas)
+        return;
+    if (hint == 0)
+        canvas->UpdateCanvas(canvas, 0, data);
+    else if (hint == 1)
+        canvas->UpdateCanvas(canvas, hint, data);
+    else if (hint == 2)
+        for (CUICanvas* entry : m_auxiliary)
+            if (entry)
+                entry->UpdateCanvas(canvas, hint, data);
+}
+
+}  // namespace Lumo

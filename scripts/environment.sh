@@ -1,0 +1,32 @@
+# Sourced by run and test from the root of the tree: packages, a display, Wine's prefix and one wineserver that is
+# kept while the script runs and ended with it.
+
+scripts/packages.sh
+
+export WINEPREFIX="$PWD/build/wine" WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
+headless=no
+xvfb_pid=
+
+finish_environment() {
+    wineserver -k >/dev/null 2>&1 || true
+    [ -z "$xvfb_pid" ] || kill "$xvfb_pid" 2>/dev/null || true
+}
+trap finish_environment EXIT
+
+if [ -z "${DISPLAY:-}" ] || ! xdpyinfo >/dev/null 2>&1; then
+    headless=yes
+    display_file=$(mktemp)
+    Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$display_file" >/dev/null 2>&1 &
+    xvfb_pid=$!
+    for _ in $(seq 100); do
+        [ -s "$display_file" ] && break
+        sleep 0.05
+    done
+    DISPLAY=":$(tr -d '[:space:]' <"$display_file")"
+    export DISPLAY
+    rm -f "$display_file"
+fi
+
+mkdir -p build
+scripts/wine-prefix.sh
+wineserver -p >/dev/null 2>&1 || true

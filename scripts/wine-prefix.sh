@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Makes the Wine prefix that the environment names, with the fonts mapped: GDI+ and menus show Latin and Korean text
+# only when the prefix knows which installed font stands for which Windows font. Needs WINEPREFIX and a display.
+set -euo pipefail
+
+stamp="$WINEPREFIX/.tessel-fonts-1"
+[ -f "$stamp" ] && exit 0
+
+rm -rf "$WINEPREFIX"
+mkdir -p "$WINEPREFIX"
+echo "Making the Wine prefix"
+WINEDLLOVERRIDES="mscoree,mshtml=" wineboot -i >/dev/null 2>&1
+wineserver -p
+
+add() { wine reg add "$@" /f >/dev/null 2>&1; }
+
+replacements='HKCU\Software\Wine\Fonts\Replacements'
+add "$replacements" /v "Arial" /t REG_SZ /d "Liberation Sans"
+add "$replacements" /v "Segoe UI" /t REG_SZ /d "Liberation Sans"
+add "$replacements" /v "Malgun Gothic" /t REG_SZ /d "NanumGothic"
+
+links='HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontLink\SystemLink'
+for font in "Tahoma" "MS Shell Dlg" "MS Shell Dlg 2" "Segoe UI" "Microsoft Sans Serif" "MS Sans Serif" "System" \
+    "Arial" "Liberation Sans"; do
+    add "$links" /v "$font" /t REG_MULTI_SZ /d "NanumGothic.ttf,NanumGothic"
+done
+
+# Without a window manager Wine draws caption and frame itself.
+add 'HKCU\Software\Wine\X11 Driver' /v "Managed" /t REG_SZ /d "N"
+
+# The symbols of the caption buttons; Tahoma stays out, or bold captions lose their Korean.
+marlett=$(find /usr/share/wine /usr/share/fonts -name marlett.ttf 2>/dev/null | head -n 1 || true)
+[ -z "$marlett" ] || cp "$marlett" "$WINEPREFIX/drive_c/windows/Fonts/"
+
+touch "$stamp"
