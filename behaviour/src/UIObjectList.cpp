@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "core/Geometry.h"
 #include "core/GraphicsStateScope.h"
@@ -178,10 +179,13 @@ void CUIObjectList::DrawDragImage(Gdiplus::Graphics* g, POINT) {
 }
 
 void CUIObjectList::Release() {
+    if (m_children.empty())
+        return;
+    CUIDocument::ForgetObjects({m_children.begin(), m_children.end()});
     while (!m_children.empty()) {
         CUIObject* child = m_children.front();
         ForgetChild(child);
-        CUIDocument::DestroyObject(child);
+        CUIDocument::ReleaseForgotten(child);
     }
     std::deque<CUIObject*>().swap(m_children);
 }
