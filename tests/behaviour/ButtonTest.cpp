@@ -121,7 +121,7 @@ TEST(Button, IsHitWithinItsEllipseOnly) {
         bool hit;
     } cases[] = {
         {{49, 49, 2, 2}, true},   {{3, 3, 2, 2}, false},      {{-10, 49, 8, 2}, false},
-        {{-10, 49, 10, 2}, true}, {{101, 49, 2, 2}, true},    {{103, 49, 2, 2}, false},
+        {{-10, 49, 10, 2}, true}, {{100, 49, 2, 2}, true},    {{103, 49, 2, 2}, false},
         {{95, 95, 2, 2}, false},  {{-5, -5, 200, 200}, true}, {{500, 500, 2, 2}, false},
     };
     for (const auto& test : cases) {

@@ -97,7 +97,7 @@ TEST(Group, TestsItsChildrenAtTheirStoredPositionsAndFoldsTheirOffsets) {
     RectF outside(134, 75, 2, 2);
     EXPECT_EQ(0, group->HitTest(outside));
     EXPECT_EQ(3, second->GetPositionPoint().X);
-    PointF point(38, 30);
+    PointF point(45, 36);
     EXPECT_EQ(8, group->HitTest(point, 0));
 }
 

@@ -4,6 +4,8 @@
 #include <memory>
 #include <ostream>
 
+#include <gtest/gtest.h>
+
 #include "behaviour/UIObjectList.h"
 
 inline bool Same(const Gdiplus::RectF& rect, float x, float y, float width, float height) {

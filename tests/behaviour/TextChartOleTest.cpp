@@ -68,13 +68,13 @@ TEST(Chart, IsASymbolThatDrawsNothing) {
 }
 
 TEST(Ole, ArchivesItsTwoValuesAndNoClientItem) {
-    auto* item = reinterpret_cast<COleClientItem*>(&item);
     CUIObjectOle ole(RectF(1, 2, 3, 4), DS_OLE);
     EXPECT_STREQ(L"Ole", ole.GetShapeName());
     const Bytes bytes = ObjectBase(19, L"Ole", 1, 2, 3, 4).Fs({1.5f, -2.25f});
     EXPECT_EQ(0u, Load(ole, bytes));
     EXPECT_EQ(nullptr, ole.GetClientItem());
     EXPECT_EQ(-2.25f, ole.GetSecondValue());
+    auto* item = reinterpret_cast<COleClientItem*>(&ole);
     ole.SetClientItem(item);
     CUIObjectOle copy(ole);
     EXPECT_EQ(item, copy.GetClientItem());
