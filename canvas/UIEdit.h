@@ -7,9 +7,9 @@ namespace Lumo {
 
 class CUIObjectTextEdit;
 
-/// Edits the text of one text object where it stands. Enter stores the text, Escape drops it; both destroy the
-/// window. The editor lives on the heap and deletes itself when its window is gone, clearing its owner's pointer
-/// to it. `CUICanvas::EditText` opens and closes it.
+/// Edits the text of one text object where it stands. Enter stores the text, Escape drops it; both destroy
+/// the window. The editor lives on the heap and deletes itself when its window is gone, clearing its owner's
+/// pointer to it. `CUICanvas::EditText` opens and closes it.
 class AFX_EXT_CLASS CUIEdit : public CEdit {
     DECLARE_DYNAMIC(CUIEdit)
 
@@ -19,8 +19,9 @@ public:
 
     using CEdit::Create;
     /// Creates the control over `obj` as a child of `parent`, a canvas, and sets the object's editing flag.
-    /// `ownerSlot` (may be null) is the owner's pointer to the editor; it is set to null when the editor goes. Neither
-    /// is owned. When the window cannot be created the editor is already deleted and the result is FALSE.
+    /// `ownerSlot` (may be null) is the owner's pointer to the editor; it is set to null when the editor
+    /// goes. Neither is owned. When the window cannot be created the editor is already deleted and the result
+    /// is FALSE.
     BOOL Create(CWnd* parent, CUIEdit** ownerSlot, CUIObjectTextEdit* obj);
 
     /// Shows the object's text, all of it selected, and measures the font.

@@ -13,13 +13,14 @@ enum DragState : int {
     DRAG_ENDED = 3,     ///< the button was released
 };
 
-/// Mouse and key events of one window, with drags told by the messages' points. The host derives, overrides what it
-/// needs, and calls the handlers with the messages of its window: `wnd` is that window, `message` the message number,
-/// `flags` the MK_ key-state flags, `packed` the client point with x in the low and y in the high 16 bits, both
-/// unsigned. `OnKeyDown` gets the key data instead. Handlers without a comment do nothing here.
+/// Mouse and key events of one window, with drags told by the messages' points. The host derives, overrides
+/// what it needs, and calls the handlers with the messages of its window: `wnd` is that window, `message` the
+/// message number, `flags` the MK_ key-state flags, `packed` the client point with x in the low and y in the
+/// high 16 bits, both unsigned. `OnKeyDown` gets the key data instead. Handlers without a comment do nothing
+/// here.
 ///
-/// A handler serves one window at a time. Call `OnLButtonDown` of this class before the first move: only it puts the
-/// drag state into a new handler.
+/// A handler serves one window at a time. Call `OnLButtonDown` of this class before the first move: only it
+/// puts the drag state into a new handler.
 class AFX_EXT_CLASS CUINotifyHandler {
 public:
     CUINotifyHandler();
@@ -57,11 +58,11 @@ protected:
     int m_nDragState;  // a `DragState`
 };
 
-/// The same notifications, told by the cursor on the screen and the physical button, whatever the messages say.
-/// `OnDragEnter` and `OnDragLeave` get screen points, `OnDrag` the message's client point.
+/// The same notifications, told by the cursor on the screen and the physical button, whatever the messages
+/// say. `OnDragEnter` and `OnDragLeave` get screen points, `OnDrag` the message's client point.
 ///
-/// The current position is read when the button is released: a drag starts with the first move after a press that
-/// finds it apart from the previous one. Call `OnLButtonDown` of this class before the first move.
+/// The current position is read when the button is released: a drag starts with the first move after a press
+/// that finds it apart from the previous one. Call `OnLButtonDown` of this class before the first move.
 class AFX_EXT_CLASS CUINotifyHandlerEx {
 public:
     CUINotifyHandlerEx();

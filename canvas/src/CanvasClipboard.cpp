@@ -1,0 +1,124 @@
+// Copying, cutting, deleting and pasting the selection.
+#include "canvas/UICanvas.h"
+
+#include "core/UIDocument.h"
+#include "core/UIObject.h"
+
+#include <afxadv.h>
+#include <afxole.h>
+
+#include <Loggable.h>
+
+#include <memory>
+
+namespace Lumo {
+
+CLIPFORMAT CUICanvas::m_cfObject = static_cast<CLIPFORMAT>(::RegisterClipboardFormat(L"Tessel GUI Object "));
+
+namespace {
+
+// The clipboard needs OLE on this thread. A host that has started it is left alone; for one that has not, OLE
+// is started once and stays, since what was copied lives as long as the thread.
+void EnsureOle() {
+    thread_local bool started = false;
+    if (!started)
+        started = SUCCEEDED(::OleInitialize(nullptr));
+}
+
+// The records of the objects one after the other, without count or header, in moveable memory of just their
+// size. The caller owns it.
+HGLOBAL ArchiveObjects(const CUIObjectDeque& objects) {
+    CSharedFile file(GMEM_MOVEABLE, 4096);
+    // An exception must not make the archive flush while it is unwound.
+    CArchive archive(&file, CArchive::store | CArchive::bNoFlushOnDelete, 4096);
+    for (CUIObject* object : objects)
+        object->Serialize(archive);
+    archive.Close();
+    if (file.GetLength() == 0) {
+        // The clipboard takes no empty block; a byte is too short for any record.
+        return ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 1);
+    }
+    const auto size = static_cast<SIZE_T>(file.GetLength());
+    HGLOBAL block = file.Detach();
+    HGLOBAL trimmed = ::GlobalReAlloc(block, size, GMEM_MOVEABLE);
+    return trimmed != nullptr ? trimmed : block;
+}
+
+HGLOBAL TextBlock(const CString& text) {
+    const SIZE_T size = (static_cast<SIZE_T>(text.GetLength()) + 1) * sizeof(WCHAR);
+    HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, size);
+    if (block == nullptr)
+        AfxThrowMemoryException();
+    ::CopyMemory(::GlobalLock(block), text.GetString(), size);
+    ::GlobalUnlock(block);
+    return block;
+}
+
+void LogCopyException(CException* exception) {
+    WCHAR text[260] = L"";
+    exception->GetErrorMessage(text, _countof(text));
+    const CRuntimeClass* type = exception->GetRuntimeClass();
+    const CString name(type != nullptr ? type->m_lpszClassName : "CException");
+    CLoggable::AddLogLine(5, 0, L"[예외] Unknown %s exception in OnEditObjectCopy - %s", name.GetString(),
+                          text);
+}
+
+}  // namespace
+
+void CUICanvas::CopySelection() {
+    EnsureOle();
+    auto source = std::make_unique<COleDataSource>();
+    source->CacheGlobalData(m_cfObject, ArchiveObjects(m_selection));
+    if (m_selection.size() == 1)
+        source->CacheGlobalData(CF_UNICODETEXT, TextBlock(m_selection.front()->GetText()));
+    source->SetClipboard();
+    source.release();  // the clipboard's from here on
+}
+
+void CUICanvas::OnEditObjectCopy() {
+    try {
+        CopySelection();
+    } catch (CException* exception) {
+        LogCopyException(exception);
+        exception->Delete();
+    }
+}
+
+void CUICanvas::OnEditObjectCut() {
+    OnEditObjectCopy();
+    OnEditObjectDelete();
+}
+
+void CUICanvas::OnEditObjectDelete() {
+    if (m_pDocument == nullptr)
+        return;
+    // kept: each call hides the first object of the page, whatever object is passed.
+    const CUIObjectDeque selected = m_selection;
+    for (CUIObject* object : selected)
+        m_pDocument->RemoveObject(object, 0);
+    m_pDocument->UpdateAllCanvas(nullptr, 3, &m_selection);
+}
+
+void CUICanvas::OnEditObjectPaste() {
+    EnsureOle();
+    COleDataObject clipboard;
+    {
+        CWaitCursor wait;
+        clipboard.AttachClipboard();
+        UpdateCanvas(nullptr, 2, nullptr);
+        m_selection.clear();
+        if (m_pDocument != nullptr) {
+            // kept: what a paste adds are the objects still selected, and there are none.
+            if (clipboard.IsDataAvailable(m_cfObject)) {
+                for (CUIObject* object : m_selection)
+                    m_pDocument->AppendObject(object, nullptr);
+            }
+            m_pDocument->SetModifiedFlag(1);
+            m_pDocument->UpdateAllCanvas(nullptr, 2, &m_selection);
+        }
+    }
+    OnEditObjectCopy();
+    clipboard.Release();
+}
+
+}  // namespace Lumo
