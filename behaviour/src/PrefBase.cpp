@@ -1,25 +1,21 @@
 #include "behaviour/PrefBase.h"
 
+#include "appearance/src/ArchiveFields.h"
+
 namespace {
 
 // kept: the archive holds only the low 16 bits of a value; files depend on it.
 void ArchiveNarrow(CArchive& ar, int& value) {
     WORD word = static_cast<WORD>(value);
-    if (ar.IsStoring()) {
-        ar << word;
-        return;
-    }
-    ar >> word;
-    value = word;
+    Lumo::ArchiveFields(ar, word);
+    if (ar.IsLoading())
+        value = word;
 }
 
 }  // namespace
 
 void CPrefBase::Serialize(CArchive& ar) {
-    if (ar.IsStoring())
-        ar << m_strName;
-    else
-        ar >> m_strName;
+    Lumo::ArchiveFields(ar, m_strName);
 }
 
 CPrefCondition& CPrefCondition::operator=(const CPrefCondition& source) {

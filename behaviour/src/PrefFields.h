@@ -4,7 +4,7 @@
 
 #include <tuple>
 
-#include "core/Platform.h"
+#include "appearance/src/ArchiveFields.h"
 
 namespace pref {
 
@@ -21,15 +21,11 @@ void CopyField(Value (&target)[count], const Value (&source)[count]) {
 
 template <class Value>
 void ArchiveField(CArchive& ar, Value& value) {
-    if (ar.IsStoring())
-        ar << value;
-    else
-        ar >> value;
+    Lumo::ArchiveFields(ar, value);
 }
 
 inline void ArchiveField(CArchive& ar, POINT& point) {
-    ArchiveField(ar, point.x);
-    ArchiveField(ar, point.y);
+    Lumo::ArchiveFields(ar, point.x, point.y);
 }
 
 template <class Value, size_t count>

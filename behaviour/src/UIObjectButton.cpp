@@ -1,19 +1,9 @@
 #include "behaviour/UIObjectButton.h"
 
+#include "appearance/src/ArchiveFields.h"
 #include "behaviour/src/EllipseHit.h"
 
 namespace Lumo {
-namespace {
-
-template <class Value>
-void Archive(CArchive& ar, Value& value) {
-    if (ar.IsStoring())
-        ar << value;
-    else
-        ar >> value;
-}
-
-}  // namespace
 
 CUIObjectButton::CUIObjectButton() {
     m_nDrawShape = DS_ELLIPSE;
@@ -54,22 +44,11 @@ void CUIObjectButton::RelayEvent(CUICanvas*, unsigned int, unsigned int, long) {
 
 void CUIObjectButton::Serialize(CArchive& ar) {
     CUIObject::Serialize(ar);
-    Archive(ar, m_dwButtonStyle);
-    Archive(ar, m_dwRadioGroup);
-    Archive(ar, m_dwButtonState);
-    Archive(ar, m_bChecked);
-    Archive(ar, m_bTracking);
-    Archive(ar, m_strTooltip);
-    Archive(ar, m_bDrawNormal);
-    Archive(ar, m_bDrawDown);
-    Archive(ar, m_bDrawFocus);
-    Archive(ar, m_bSpare);
-    Archive(ar, m_bOver);
-    Archive(ar, m_bDrawDisabled);
+    ArchiveFields(ar, m_dwButtonStyle, m_dwRadioGroup, m_dwButtonState, m_bChecked, m_bTracking,
+                  m_strTooltip);
+    ArchiveFields(ar, m_bDrawNormal, m_bDrawDown, m_bDrawFocus, m_bSpare, m_bOver, m_bDrawDisabled);
     // kept: the checked field stands in the archive twice, and the second one remains.
-    Archive(ar, m_bChecked);
-    Archive(ar, m_bBorder);
-    Archive(ar, m_dwDrawStyle);
+    ArchiveFields(ar, m_bChecked, m_bBorder, m_dwDrawStyle);
 }
 
 void CUIObjectButton::ApplyButtonState() {

@@ -1,5 +1,7 @@
 #include "behaviour/UIObjectOle.h"
 
+#include "appearance/src/ArchiveFields.h"
+
 namespace Lumo {
 
 BOOL CUIObjectOle::c_bShowItems = TRUE;
@@ -16,13 +18,7 @@ void CUIObjectOle::ShowPreferenceDialog(CUICanvas*) {
 
 void CUIObjectOle::Serialize(CArchive& ar) {
     CUIObject::Serialize(ar);
-    if (ar.IsStoring()) {
-        ar << m_fFirstValue;
-        ar << m_fSecondValue;
-    } else {
-        ar >> m_fFirstValue;
-        ar >> m_fSecondValue;
-    }
+    ArchiveFields(ar, m_fFirstValue, m_fSecondValue);
 }
 
 void CUIObjectOle::MoveTo(const int& handle, const Gdiplus::PointF& offset) {
