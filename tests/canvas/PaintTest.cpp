@@ -1,0 +1,117 @@
+#include "canvas/CanvasFixture.h"
+
+#include "appearance/UIObjectRectangle.h"
+#include "core/PaintScope.h"
+
+using namespace Lumo;
+
+namespace {
+
+using PaintTest = CanvasFixture;
+
+// A rectangle that counts the draws that reach pixels.
+class Watched : public CUIObjectRectangle {
+public:
+    explicit Watched(const Gdiplus::RectF& rect) : CUIObjectRectangle(rect, DS_RECTANGLE) {}
+    void Draw(Gdiplus::Graphics* g) override {
+        drawn += !PaintScope::Misses(GetPosition());
+        CUIObjectRectangle::Draw(g);
+    }
+    int drawn = 0;
+};
+
+COLORREF WindowPixel(CWnd& wnd, int x, int y) {
+    CClientDC dc(&wnd);
+    return ::GetPixel(dc.m_hDC, x, y);
+}
+
+TEST_F(PaintTest, TheGroundIsBlackAndSelectedObjectsShowHandles) {
+    CUIObject* object = AddRectangle(100, 100, 80, 60);
+    object->SetFillShapeMode(0);
+    EXPECT_EQ(PixelAt(5, 5), 0xFF000000u);
+    EXPECT_EQ(PixelAt(98, 98), 0xFF000000u);
+    m_canvas->Select(object, 0);
+    EXPECT_EQ(PixelAt(98, 98), 0xFF87CEEBu);
+}
+
+TEST_F(PaintTest, TheWindowShowsWhatDrawGives) {
+    AddRectangle(100, 100, 80, 60)->SetText(CString(L" "));
+    m_canvas->Invalidate();
+    m_canvas->UpdateWindow();
+    for (const CPoint pt : {CPoint(5, 5), CPoint(110, 110), CPoint(100, 130), CPoint(179, 159), CPoint(200, 200)}) {
+        const Gdiplus::ARGB argb = PixelAt(pt.x, pt.y);
+        EXPECT_EQ(WindowPixel(*m_canvas, pt.x, pt.y),
+                  RGB((argb >> 16) & 0xFF, (argb >> 8) & 0xFF, argb & 0xFF))
+            << pt.x << ", " << pt.y;
+    }
+}
+
+TEST_F(PaintTest, OnlyObjectsThatTheUpdateTouchesAreDrawn) {
+    auto* near = new Watched({10, 10, 30, 30});
+    auto* far = new Watched({200, 200, 30, 30});
+    m_document->AppendObject(near, nullptr);
+    m_document->AppendObject(far, nullptr);
+    m_canvas->Invalidate();
+    m_canvas->UpdateWindow();
+    EXPECT_EQ(near->drawn, 1);
+    EXPECT_EQ(far->drawn, 1);
+    m_canvas->InvalidateObject(near);
+    m_canvas->UpdateWindow();
+    EXPECT_EQ(near->drawn, 2);
+    EXPECT_EQ(far->drawn, 1);
+    PixelAt(0, 0);  // outside a paint message everything is drawn
+    EXPECT_EQ(far->drawn, 2);
+}
+
+TEST_F(PaintTest, DraggingOneShapeOverManyRepaintsOnlyItsRectangle) {
+    std::vector<Watched*> all;
+    for (int i = 0; i < 10000; ++i) {
+        auto* object = new Watched({static_cast<float>(i % 100) * 4, static_cast<float>(i / 100) * 3, 3, 2});
+        object->SetText(CString(L" "));
+        m_document->AppendObject(object, nullptr);
+        all.push_back(object);
+    }
+    CUIObject* top = AddRectangle(100, 100, 20, 20);
+    m_canvas->UpdateWindow();
+    m_canvas->Select(top, 0);
+    m_canvas->UpdateWindow();
+    for (Watched* object : all)
+        object->drawn = 0;
+    Press(110, 110);
+    Move(112, 110);
+    m_canvas->UpdateWindow();
+    Release(112, 110);
+    int drawn = 0;
+    for (const Watched* object : all)
+        drawn += object->drawn;
+    EXPECT_GT(drawn, 0);
+    EXPECT_LT(drawn, 200);  // 34 by 34 units hold about 9 by 12 of them
+}
+
+TEST_F(PaintTest, RemovedObjectsAreNotDrawnUnlessTheyAreTheFocus) {
+    auto* object = new Watched({10, 10, 30, 30});
+    m_document->AppendObject(object, nullptr);
+    object->SetRemoved(1);
+    PixelAt(0, 0);
+    EXPECT_EQ(object->drawn, 0);
+    Gdiplus::Bitmap bitmap(50, 50, PixelFormat32bppPARGB);
+    Gdiplus::Graphics g(&bitmap);
+    m_document->DrawObject(&g, object);
+    EXPECT_EQ(object->drawn, 1);
+    m_document->DrawObject(&g, nullptr);
+    EXPECT_EQ(object->drawn, 1);
+}
+
+TEST_F(PaintTest, PaintingManyTimesLeaksNoHandles) {
+    AddRectangle(10, 10, 100, 100);
+    m_canvas->Invalidate();
+    m_canvas->UpdateWindow();
+    const DWORD before = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
+    for (int i = 0; i < 200; ++i) {
+        m_canvas->Invalidate();
+        m_canvas->UpdateWindow();
+    }
+    EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), before + 2);
+}
+
+}  // namespace

@@ -1,0 +1,122 @@
+#include "canvas/UICanvas.h"
+#include "core/UIDocument.h"
+#include "core/UIObject.h"
+#include "support/MessageBoxAnswerer.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+using namespace Lumo;
+
+namespace {
+
+class DocumentFileTest : public ::testing::Test {
+protected:
+    DocumentFileTest() {
+        wchar_t folder[MAX_PATH];
+        ::GetTempPath(MAX_PATH, folder);
+        m_path.Format(L"%stessel-document-%u.cbf", folder, ::GetCurrentProcessId());
+        m_document->AppendCanvas(m_canvas.get());
+    }
+    ~DocumentFileTest() override {
+        m_document->Release();
+        ::DeleteFile(m_path);
+    }
+
+    std::vector<uint8_t> Bytes() {
+        CFile file(m_path, CFile::modeRead | CFile::shareDenyNone);
+        std::vector<uint8_t> bytes(static_cast<size_t>(file.GetLength()));
+        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+        return bytes;
+    }
+
+    // Loads into a page of two objects, as a host does that rebuilds its pages first.
+    class Rebuilding : public CUIDocument {
+    public:
+        explicit Rebuilding(CUICanvas* canvas) : m_canvas(canvas) {}
+        void Serialize(CArchive& ar) override {
+            if (ar.IsLoading()) {
+                AppendCanvas(m_canvas);
+                for (int i = 0; i < 2; ++i)
+                    CreateObject(DS_RECTANGLE, CRect());
+            }
+            CUIDocument::Serialize(ar);
+        }
+
+    private:
+        CUICanvas* m_canvas;
+    };
+
+    std::unique_ptr<CUICanvas> m_canvas = std::make_unique<CUICanvas>();
+    CUIDocument* m_document = new CUIDocument;
+    CString m_path;
+};
+
+TEST_F(DocumentFileTest, AnEmptyDocumentMakesAnEmptyFile) {
+    EXPECT_EQ(m_document->Save(m_path), 1);
+    EXPECT_TRUE(Bytes().empty());
+    EXPECT_EQ(m_document->Load(m_path), 1);
+    EXPECT_TRUE(m_document->GetCanvasList().empty());
+}
+
+TEST_F(DocumentFileTest, RecordsStandBackToBackInListOrder) {
+    m_document->CreateObject(DS_ELLIPSE, CRect(0, 0, 5, 5))->SetShapeName(CString(L"Rect"));
+    ASSERT_EQ(m_document->Save(m_path), 1);
+    const std::vector<uint8_t> one = Bytes();
+    const std::vector<uint8_t> start = {4, 0, 0, 0, 0xFF, 0xFE, 0xFF, 4, 'R', 0, 'e', 0, 'c', 0, 't', 0, 1, 0, 0, 0};
+    ASSERT_GT(one.size(), start.size());
+    EXPECT_EQ(std::vector<uint8_t>(one.begin(), one.begin() + start.size()), start);
+
+    m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
+    m_document->GetCanvasObjectList()->push_front(nullptr);
+    ASSERT_EQ(m_document->Save(m_path), 1);
+    const std::vector<uint8_t> two = Bytes();
+    EXPECT_TRUE(std::equal(one.begin(), one.end(), two.begin()));
+    EXPECT_EQ(two[one.size()], 3);
+}
+
+TEST_F(DocumentFileTest, AFileThatCannotBeOpenedChangesNothing) {
+    m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
+    CString missing(L"Z:\\no\\such\\folder\\page.cbf");
+    MessageBoxAnswerer boxes;
+    EXPECT_EQ(m_document->Load(missing), 0);
+    EXPECT_EQ(m_document->Save(missing), 0);
+    EXPECT_EQ(m_document->GetCanvasObjectList()->size(), 1u);
+    EXPECT_TRUE(boxes.texts.empty());
+}
+
+TEST_F(DocumentFileTest, ATruncatedFileIsReportedAndLeavesWhatWasRead) {
+    for (int i = 0; i < 2; ++i)
+        m_document->CreateObject(DS_RECTANGLE, CRect(10, 10, 20 + i, 20))->SetText(CString(L"라벨"));
+    ASSERT_EQ(m_document->Save(m_path), 1);
+    auto canvas = std::make_unique<CUICanvas>();
+    auto* loaded = new Rebuilding(canvas.get());
+    EXPECT_EQ(loaded->Load(m_path), 1);
+    EXPECT_STREQ(loaded->GetCanvasObjectList()->back()->GetText(), L"라벨");
+    EXPECT_EQ(loaded->GetCanvasObjectList()->back()->GetSize().Width, 11.0f);
+    {
+        CFile file(m_path, CFile::modeReadWrite);
+        file.SetLength(file.GetLength() - 1);
+    }
+    MessageBoxAnswerer boxes;
+    EXPECT_EQ(loaded->Load(m_path), 0);
+    ASSERT_EQ(boxes.texts.size(), 1u);
+    CString start;
+    start.Format(L"파일(%s) 형식을 알수 없습니다.\n\n", static_cast<LPCTSTR>(m_path));
+    EXPECT_EQ(boxes.texts[0].Find(start), 0);
+    EXPECT_GT(boxes.texts[0].GetLength(), start.GetLength());
+    loaded->Release();
+}
+
+TEST_F(DocumentFileTest, AFileHeldByAnotherIsNotTouched) {
+    ASSERT_EQ(m_document->Save(m_path), 1);
+    CFile held(m_path, CFile::modeReadWrite | CFile::shareExclusive);
+    EXPECT_EQ(m_document->Save(m_path), 0);
+    EXPECT_EQ(m_document->Load(m_path), 0);
+    EXPECT_EQ(m_document->GetCanvasList().size(), 1u);
+}
+
+}  // namespace
