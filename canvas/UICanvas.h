@@ -5,6 +5,8 @@
 
 #include <deque>
 #include <map>
+#include <unordered_set>
+#include <vector>
 
 namespace Lumo {
 
@@ -203,6 +205,7 @@ private:
     void BuildContextMenu();
     void InvalidateObjects(const std::deque<CUIObject*>& objects);
     void ForgetObject(CUIObject* object);
+    void ForgetObjects(const std::unordered_set<CUIObject*>& doomed);
     template <class Shift>
     void AlignSelection(Shift shift);
     void RotateSelection(float angle);
@@ -210,7 +213,7 @@ private:
     void RestackFront(Restack restack);
     void CopySelection();
 
-    static std::deque<CUICanvas*>& Canvases();
+    static std::vector<CUICanvas*>& Canvases();
 };
 
 }  // namespace Lumo

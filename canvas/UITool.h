@@ -11,6 +11,7 @@ namespace Lumo {
 
 class CUICanvas;
 class CUIObject;
+class CUIObjectPoly;
 
 /// Base of all mouse tools. A tool registers itself when it is constructed and leaves the registry when it is
 /// destroyed; a canvas finds its tool by shape kind, first registered first. A host puts a tool of its own ahead
@@ -94,7 +95,11 @@ public:
     int m_nDragMode;
 
 private:
+    bool GrabSelected(CUIObject* object);
+    void PressOnPage(CUICanvas* canvas, UINT flags);
     void Hover(CUICanvas* canvas, const CPoint& pt);
+    void MoveSelection(CUICanvas* canvas, const CPoint& pt, int last);
+    void FinishDrag(CUICanvas* canvas, UINT flags, CPoint pt);
     void Constrain(CUIObject* object, UINT flags, CPoint& pt) const;
 };
 
@@ -157,8 +162,11 @@ public:
     void OnLButtonDblClk(CUICanvas* canvas, UINT flags, const CPoint& point) override;
 
 private:
+    static CUIObjectPoly* Figure(CUICanvas* canvas);
     void BeginFigure(CUICanvas* canvas, const CPoint& point);
-    void ContinueFigure(CUICanvas* canvas, UINT flags, const CPoint& client, const CPoint& point);
+    void ContinueFigure(CUICanvas* canvas, UINT flags, const CPoint& point, CPoint& pt);
+
+    static const CUIObject* s_figure;  // the figure being drawn; compared, never followed
 };
 
 /// Opens the in-place editor on the text object under the pointer; anything else goes to the select tool.

@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <map>
+#include <unordered_set>
 
 namespace Lumo {
 
@@ -17,9 +18,9 @@ using CUIObjectDeque = std::deque<CUIObject*>;
 /// Pages by their canvas; the ascending order of the pointers is the order of the pages.
 using CUIPageMap = std::map<CUICanvas*, CUIObjectDeque*>;
 
-/// Holds pages of objects. Owns the object lists and the objects in them, not the canvases. All calls come from
-/// the thread that owns the canvas windows. End a document with `Release`, which destroys its objects; the
-/// destructor alone does not.
+/// Holds pages of objects. Owns the object lists and the objects in them, not the canvases. All calls come
+/// from the thread that owns the canvas windows. End a document with `Release`, which destroys its objects;
+/// the destructor alone does not.
 class AFX_EXT_CLASS CUIDocument {
 public:
     CUIDocument();
@@ -28,8 +29,8 @@ public:
     CUIDocument& operator=(const CUIDocument& other);
 
     // Slot order is part of the contract.
-    /// Clears the document and reads `path` through `Serialize`. 1 on success, 0 on failure; a file that cannot be
-    /// opened leaves the document as it was.
+    /// Clears the document and reads `path` through `Serialize`. 1 on success, 0 on failure; a file that
+    /// cannot be opened leaves the document as it was.
     virtual int Load(CString& path);
     /// Writes the document to `path` through `Serialize`. 1 on success, 0 on failure.
     virtual int Save(CString& path);
@@ -45,9 +46,9 @@ public:
     /// Asks for a file and loads it.
     void LoadDocument();
 
-    /// Creates a canvas window as a child of `parent` and makes it the current page. `style` is the window style,
-    /// `rect` is in client coordinates of the parent; `name` is not used. 1 on success, else 0. The host destroys the
-    /// window and deletes the canvas.
+    /// Creates a canvas window as a child of `parent` and makes it the current page. `style` is the window
+    /// style, `rect` is in client coordinates of the parent; `name` is not used. 1 on success, else 0. The
+    /// host destroys the window and deletes the canvas.
     int CreateCanvas(DWORD style, CString& name, CRect& rect, HWND parent);
     /// Adds an empty page for `canvas` and makes it current; a page it already has is emptied.
     void AppendCanvas(CUICanvas* canvas);
@@ -68,8 +69,8 @@ public:
 
     /// The current page's canvas, or null.
     CUICanvas* GetCurrentCanvas();
-    /// Makes `canvas` current and returns it. Null gives null; a canvas without a page gives the old one; both change
-    /// nothing.
+    /// Makes `canvas` current and returns it. Null gives null; a canvas without a page gives the old one;
+    /// both change nothing.
     CUICanvas* SetCurrentCanvas(CUICanvas* canvas);
     /// The first page's canvas, or null.
     CUICanvas* GetFirstCanvas();
@@ -88,20 +89,25 @@ public:
     /// Makes the previous page current and returns it, or null.
     CUICanvas* MovePrevCanvas();
 
-    /// Makes a rectangle, ellipse, text, symbol or list object and appends it to the current page; null for every
-    /// other kind.
+    /// Makes a rectangle, ellipse, text, symbol or list object and appends it to the current page; null for
+    /// every other kind.
     CUIObject* CreateObject(DrawShape kind, CRect rect);
-    /// Puts `object` on top of the page of `canvas` (null: the current page); the document owns it from then on. Sets
-    /// no back pointers.
+    /// Puts `object` on top of the page of `canvas` (null: the current page); the document owns it from then
+    /// on. Sets no back pointers.
     void AppendObject(CUIObject* object, CUICanvas* canvas);
     /// Destroys the first object of the current page, whatever object is passed (null: nothing).
     void DeleteObject(CUIObject* object);
-    /// With `destroy` as `DeleteObject`; without, hides the first object of the current page by its removed mark.
+    /// With `destroy` as `DeleteObject`; without, hides the first object of the current page by its removed
+    /// mark.
     void RemoveObject(CUIObject* object, int destroy);
+    /// Destroys exactly this object, a group with its children, and takes it out of every page and selection first.
+    /// Null does nothing.
+    static void DestroyObject(CUIObject* object);
     /// Destroys the objects of a list and empties it.
     void ClearObject(CUIObjectDeque* objects);
 
-    /// The first object of the page of `canvas` (null: the current page) with that name, ignoring case; or null.
+    /// The first object of the page of `canvas` (null: the current page) with that name, ignoring case; or
+    /// null.
     CUIObject* FindObject(CString& name, CUICanvas* canvas);
     /// The topmost visible object of the current page whose body contains `pt` (page units), or null.
     CUIObject* ObjectAt(Gdiplus::PointF& pt);
@@ -120,8 +126,8 @@ public:
     void DrawCanvas(Gdiplus::Graphics* g);
     /// Draws the current page, with `focus` even when it is marked removed; a null `focus` draws nothing.
     void DrawObject(Gdiplus::Graphics* g, CUIObject* focus);
-    /// Repaints `canvas` (null: nothing): hint 0 the whole window; hint 1 by its `UpdateCanvas`; hint 2 by the
-    /// `UpdateCanvas` of every canvas of the auxiliary list.
+    /// Repaints `canvas` (null: nothing): hint 0 the whole window; hint 1 by its `UpdateCanvas`; hint 2 by
+    /// the `UpdateCanvas` of every canvas of the auxiliary list.
     void UpdateAllCanvas(CUICanvas* canvas, long hint, void* data);
 
     /// 1 when the document was changed since it was saved, loaded or cleared.
@@ -144,13 +150,17 @@ private:
 
     // The one way to make an object unreachable, and the roads to destruction that pass through it.
     static void ForgetObject(CUIObject* object);
-    static void DestroyObject(CUIObject* object);
+    static void ForgetObjects(const std::unordered_set<CUIObject*>& doomed);
+    static void ReleaseForgotten(CUIObject* object);
     static void ForgetCanvas(CUICanvas* canvas);
 
     bool RegisterCanvasClass();
+    void FreeLists();
+    bool HasList(const CUIObjectDeque* objects) const;
     void DropPage(CUIPageMap::iterator page);
-    CUIObjectDeque* FirstObjectPage(CUIObjectDeque::iterator& first);
-    bool OpenArchiveFile(CFile& file, const CString& path, UINT flags);
+    CUIPageMap::iterator CurrentPage();
+    template <class Action>
+    void ActOnFirstObject(CUIObject* object, Action action);
 };
 
 }  // namespace Lumo

@@ -1,7 +1,7 @@
 // Loading and unloading of the library.
 #include "module/Module.h"
 
-#include "core/CaptionCache.h"
+#include "core/src/CaptionCache.h"
 
 #include <afxdllx.h>
 
