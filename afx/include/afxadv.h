@@ -19,6 +19,9 @@ class AFX_CLASS_EXPORT CSharedFile : public CMemFile {
     /// its size.
     void SetHandle(HGLOBAL hGlobalMemory, BOOL bAllowGrow = TRUE);
 
+    /// Frees the block when it is the file's own, else only unlocks it.
+    void Close() override;
+
 protected:
     BYTE* Alloc(SIZE_T nBytes) override;
     BYTE* Realloc(BYTE* lpMem, SIZE_T nBytes) override;

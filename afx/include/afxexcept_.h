@@ -93,7 +93,8 @@ class AFX_CLASS_EXPORT CFileException : public CException {
     /// Throws the exception for an error code of the system; nothing for 0.
     static void PASCAL ThrowOsError(LONG lOsError, LPCWSTR lpszFileName = nullptr);
 
-    /// The cause as a sentence with the file's name, then the system's own text for the error code.
+    /// The cause as a sentence with the file's name; for a generic cause the system's own text for the error
+    /// code.
     BOOL GetErrorMessage(LPWSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const override;
 
     int m_cause;            ///< one of the causes above

@@ -104,7 +104,6 @@ class AFX_CLASS_EXPORT CMemFile : public CFile {
     /// is none.
     BYTE* Detach();
 
-    CString GetFilePath() const override;
     ULONGLONG GetPosition() const override;
     ULONGLONG GetLength() const override;
     ULONGLONG Seek(LONGLONG lOff, UINT nFrom) override;

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <compare>
 #include <cstdarg>
+#include <cstddef>
 #include <type_traits>
 
 /// What stands in front of the characters of a string; shared by all copies of the text.
@@ -208,7 +209,7 @@ private:
         if (text != Nil() && Data(text)->nRefs.fetch_sub(1, std::memory_order_acq_rel) == 1)
             Free(text);
     }
-    static wchar_t* Allocate(int capacity);
+    static wchar_t* Allocate(ptrdiff_t capacity);
     static void Free(wchar_t* text) noexcept;
     [[noreturn]] static void ThrowBadIndex();
 
@@ -219,13 +220,12 @@ private:
         Data(m_pszData)->nDataLength = length;
         m_pszData[length] = 0;
     }
-    LPWSTR PrepareWrite(int capacity);
+    LPWSTR PrepareWrite(ptrdiff_t capacity);
     void Convert(const char* pch, int nLength);
-    void KeepRange(int first, int count);
     void FormatArguments(LPCWSTR pszFormat, ...);
 };
 
-/// Sets the type-neutral names to the wide ones: this library is built for Unicode only.
+/// The same type by its explicit name: the library is built for Unicode only.
 using CStringW = CString;
 
 AFX_API_EXPORT CString AFXAPI operator+(const CString& a, const CString& b);
