@@ -25,8 +25,9 @@ enum CanvasMode : int {
     CM_RUNNING = 4,   ///< the current drawing shape's tool, while the screen is operated
 };
 
-/// Shows a page and passes mouse messages to the tools. The window belongs to the host, which destroys it and deletes
-/// the canvas; a canvas that is deleted takes its page out of every document. One page unit is one pixel.
+/// Shows a page and passes mouse messages to the tools. The window belongs to the host, which destroys it and
+/// deletes the canvas; a canvas that is deleted takes its page out of every document. One page unit is one
+/// pixel.
 class AFX_EXT_CLASS CUICanvas : public CWnd {
     DECLARE_DYNAMIC(CUICanvas)
 
@@ -63,8 +64,8 @@ public:
     void DocToClient(Gdiplus::PointF& point);
     void DocToClient(Gdiplus::RectF& rect);
 
-    /// Stores the scale factor of `step` (0 to 8: 0.25 to 4) and repaints; an unknown step changes nothing. Painting
-    /// does not apply the factor.
+    /// Stores the scale factor of `step` (0 to 8: 0.25 to 4) and repaints; an unknown step changes nothing.
+    /// Painting does not apply the factor.
     void OnCanvasScale(UINT step);
 
     /// Draws the page and the selection's handles on a black ground of `cx` by `cy` pixels.
@@ -72,8 +73,8 @@ public:
     /// A diagnostic picture of curves and an icon on `hdc`; reached by no message.
     void OnPaintTest(HDC hdc);
 
-    /// The document's update call; `hint` 0 whole window, 1 the object `data`, 2 the selection, 3 the objects of the
-    /// list `data`, 4 those of them that are embedded objects, 5 whole window and empty selection.
+    /// The document's update call; `hint` 0 whole window, 1 the object `data`, 2 the selection, 3 the objects
+    /// of the list `data`, 4 those of them that are embedded objects, 5 whole window and empty selection.
     void UpdateCanvas(CWnd* sender, long hint, void* data);
 
     /// Union of the selected objects' rectangles and the origin; all zero when nothing is selected.
@@ -83,7 +84,8 @@ public:
     /// True when both corners of `inner` lie in `outer`, right and bottom edges excluded.
     BOOL IsInRect(CRect outer, CRect inner);
 
-    /// Adds `obj` to the front of the selection; with `add` 0 the selection is emptied first. Null just empties.
+    /// Adds `obj` to the front of the selection; with `add` 0 the selection is emptied first. Null just
+    /// empties.
     void Select(CUIObject* obj, int add);
     /// Takes `obj` out of the selection.
     void Deselect(CUIObject* obj);
@@ -95,8 +97,8 @@ public:
     /// Opens the in-place editor over `obj`, closing one that is open; null closes it without saving.
     void EditText(CUIObjectTextEdit* obj);
 
-    /// Registers keyboard and mouse for raw input sent to `target`, in the background too. 0 on failure, which is
-    /// also shown.
+    /// Registers keyboard and mouse for raw input sent to `target`, in the background too. 0 on failure,
+    /// which is also shown.
     int RegisterRawInput(HWND target);
     /// Removes the mouse registration; the keyboard stays. 0 on failure.
     int UnRegisterRawInput();
@@ -176,7 +178,7 @@ protected:
     afx_msg void OnNcDestroy();
 
     int m_nReserved1[2] = {};
-    int m_nWidth;   // page size in pixels, not set before Init
+    int m_nWidth;  // page size in pixels, not set before Init
     int m_nHeight;
     int m_nReserved2[6] = {};
 

@@ -14,8 +14,8 @@ class CUIObject;
 class CUIObjectPoly;
 
 /// Base of all mouse tools. A tool registers itself when it is constructed and leaves the registry when it is
-/// destroyed; a canvas finds its tool by shape kind, first registered first. A host puts a tool of its own ahead
-/// of the library's by moving it to the front of `m_tools`.
+/// destroyed; a canvas finds its tool by shape kind, first registered first. A host puts a tool of its own
+/// ahead of the library's by moving it to the front of `m_tools`.
 class AFX_EXT_CLASS CUIToolBase {
 public:
     /// Registers the tool at the back of `m_tools` for `kind`.
@@ -25,7 +25,8 @@ public:
     CUIToolBase(const CUIToolBase&) = delete;
     CUIToolBase& operator=(const CUIToolBase&) = delete;
 
-    // Slot order is part of the contract. `flags` are the MK_ key-state flags, `point` is in client coordinates.
+    // Slot order is part of the contract. `flags` are the MK_ key-state flags, `point` is in client
+    // coordinates.
     /// Captures the mouse, stores the press point in `run_down` and `run_last`, shows the cross cursor.
     virtual void OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point);
     /// Does nothing.
@@ -81,8 +82,8 @@ public:
 
     CUISelectTool();
 
-    /// Grabs a handle or the body of the one selected object, else selects what is under the pointer, else starts
-    /// a rubber band.
+    /// Grabs a handle or the body of the one selected object, else selects what is under the pointer, else
+    /// starts a rubber band.
     void OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point) override;
     /// Ends the gesture: last displacement or end of the rubber band, capture released.
     void OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) override;
@@ -108,7 +109,8 @@ class AFX_EXT_CLASS CUIDownTool : public CUIToolBase {
 public:
     explicit CUIDownTool(DrawShape kind);
 
-    /// Creates an object of the current drawing shape at the press point; one that covers no area is destroyed.
+    /// Creates an object of the current drawing shape at the press point; one that covers no area is
+    /// destroyed.
     void OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point) override;
     /// Releases the capture and shows the arrow.
     void OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) override;
@@ -147,7 +149,8 @@ public:
     void OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& point) override;
 };
 
-/// Creates lines and polylines point by point: click, click, ... double click; or press, drag, release for a line.
+/// Creates lines and polylines point by point: click, click, ... double click; or press, drag, release for a
+/// line.
 class AFX_EXT_CLASS CUIMultiDownTool : public CUIToolBase {
 public:
     explicit CUIMultiDownTool(DrawShape kind);

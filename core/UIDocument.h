@@ -100,8 +100,8 @@ public:
     /// With `destroy` as `DeleteObject`; without, hides the first object of the current page by its removed
     /// mark.
     void RemoveObject(CUIObject* object, int destroy);
-    /// Destroys exactly this object, a group with its children, and takes it out of every page and selection first.
-    /// Null does nothing.
+    /// Destroys exactly this object, a group with its children, and takes it out of every page and selection
+    /// first. Null does nothing.
     static void DestroyObject(CUIObject* object);
     /// Destroys the objects of a list and empties it.
     void ClearObject(CUIObjectDeque* objects);

@@ -43,7 +43,9 @@ void CUICanvas::OnPrepareDC(CDC* dc, CPrintInfo* info) {
     dc->SetWindowExt(x * kZoomPercent / 100, y * kZoomPercent / 100);
 }
 
-void CUICanvas::ClientToDoc(CPoint& point) { MappedDC(this).DPtoLP(&point); }
+void CUICanvas::ClientToDoc(CPoint& point) {
+    MappedDC(this).DPtoLP(&point);
+}
 
 void CUICanvas::ClientToDoc(CRect& rect) {
     ConvertRect(this, rect, static_cast<void (CDC::*)(LPPOINT, int) const>(&CDC::DPtoLP));
@@ -61,7 +63,9 @@ void CUICanvas::ClientToDoc(Gdiplus::RectF& rect) {
     rect = RectGdiFromAtl(whole);
 }
 
-void CUICanvas::DocToClient(CPoint& point) { MappedDC(this).LPtoDP(&point); }
+void CUICanvas::DocToClient(CPoint& point) {
+    MappedDC(this).LPtoDP(&point);
+}
 
 void CUICanvas::DocToClient(CRect& rect) {
     ConvertRect(this, rect, static_cast<void (CDC::*)(LPPOINT, int) const>(&CDC::LPtoDP));

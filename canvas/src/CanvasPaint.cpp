@@ -23,7 +23,9 @@ Gdiplus::RectF UpdateRect(const CPaintDC& dc) {
 
 }  // namespace
 
-BOOL CUICanvas::OnEraseBkgnd(CDC*) { return FALSE; }
+BOOL CUICanvas::OnEraseBkgnd(CDC*) {
+    return FALSE;
+}
 
 void CUICanvas::OnPaint() {
     CPaintDC dc(this);
@@ -72,7 +74,8 @@ void CUICanvas::InvalidateObject(CUIObject* obj) {
     Gdiplus::RectF position = obj->GetPosition();
     CRect rect = RectAtlFromGdi(position);
     DocToClient(rect);
-    const int margin = static_cast<int>(obj->GetLineWidth() + (IsSelected(obj) ? kTrackerMargin : kPlainMargin));
+    const int margin =
+        static_cast<int>(obj->GetLineWidth() + (IsSelected(obj) ? kTrackerMargin : kPlainMargin));
     rect.InflateRect(margin, margin);
     InvalidateRect(rect, TRUE);
 }

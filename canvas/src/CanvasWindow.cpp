@@ -1,6 +1,7 @@
 // The canvas as a window: life, messages that are not the mouse's, raw input.
 #include "canvas/UICanvas.h"
 
+#include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UIEdit.h"
 #include "canvas/UITool.h"
 #include "core/UIDocument.h"
@@ -38,7 +39,9 @@ std::vector<CUICanvas*>& CUICanvas::Canvases() {
 
 CUICanvas::CUICanvas() : CUICanvas(nullptr) {}
 
-CUICanvas::CUICanvas(CUIDocument* document) : m_pDocument(document) { Canvases().push_back(this); }
+CUICanvas::CUICanvas(CUIDocument* document) : m_pDocument(document) {
+    Canvases().push_back(this);
+}
 
 CUICanvas::~CUICanvas() {
     if (m_hWnd)
@@ -80,9 +83,13 @@ void CUICanvas::OnSetFocus(CWnd*) {
 
 void CUICanvas::OnContextMenu(CWnd*, CPoint) {}
 
-void CUICanvas::OnNcDestroy() { CWnd::OnNcDestroy(); }
+void CUICanvas::OnNcDestroy() {
+    CWnd::OnNcDestroy();
+}
 
-BOOL CUICanvas::OnCommand(WPARAM wParam, LPARAM lParam) { return CWnd::OnCommand(wParam, lParam); }
+BOOL CUICanvas::OnCommand(WPARAM wParam, LPARAM lParam) {
+    return CWnd::OnCommand(wParam, lParam);
+}
 
 BOOL CUICanvas::PreTranslateMessage(MSG* msg) {
     const bool keyDown = msg->message == WM_KEYDOWN || msg->message == WM_SYSKEYDOWN;

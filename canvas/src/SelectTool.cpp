@@ -83,8 +83,8 @@ void CUISelectTool::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& poi
 }
 
 void CUISelectTool::MoveSelection(CUICanvas* canvas, const CPoint& pt, int last) {
-    CPoint from = run_last - run_down;
-    CPoint to = pt - run_down;
+    CPoint from(run_last - run_down);
+    CPoint to(pt - run_down);
     canvas->MoveTo(run_handle, from, to, last);
 }
 
@@ -144,8 +144,8 @@ void CUISelectTool::FinishDrag(CUICanvas* canvas, UINT flags, CPoint pt) {
             return;
         Constrain(canvas->m_selection.front(), flags, pt);
     }
-    // After a shape was drawn the top of an undo stack would be dropped here; that is an empty operation and the
-    // library makes no stack.
+    // After a shape was drawn the top of an undo stack would be dropped here; that is an empty operation and
+    // the library makes no stack.
     MoveSelection(canvas, pt, 1);
 }
 

@@ -40,11 +40,17 @@ CUIMultiDownTool g_polyLineTool(DS_POLYLINE);
 
 }  // namespace
 
-CUISelectTool& SelectTool() { return g_selectTool; }
+CUISelectTool& SelectTool() {
+    return g_selectTool;
+}
 
-CUIToolBase::CUIToolBase(DrawShape kind) : m_nDrawShape(kind) { m_tools.push_back(this); }
+CUIToolBase::CUIToolBase(DrawShape kind) : m_nDrawShape(kind) {
+    m_tools.push_back(this);
+}
 
-CUIToolBase::~CUIToolBase() { std::erase(m_tools, this); }
+CUIToolBase::~CUIToolBase() {
+    std::erase(m_tools, this);
+}
 
 void CUIToolBase::OnLButtonDown(CUICanvas* canvas, UINT, const CPoint& point) {
     canvas->SetCapture();
@@ -66,8 +72,8 @@ void CUIToolBase::OnLButtonDblClk(CUICanvas* canvas, UINT, const CPoint&) {
 void CUIToolBase::OnRButtonDown(CUICanvas*, UINT, const CPoint&) {}
 
 CUIToolBase* CUIToolBase::FindTool(DrawShape kind) {
-    const auto tool =
-        std::find_if(m_tools.begin(), m_tools.end(), [kind](CUIToolBase* t) { return t->m_nDrawShape == kind; });
+    const auto tool = std::find_if(m_tools.begin(), m_tools.end(),
+                                   [kind](CUIToolBase* t) { return t->m_nDrawShape == kind; });
     return tool == m_tools.end() ? nullptr : *tool;
 }
 

@@ -10,7 +10,9 @@ namespace Lumo {
 /// The select tool that the creating tools hand their drags to, whatever the host registered ahead of it.
 CUISelectTool& SelectTool();
 
-inline void ShowCursor(LPCTSTR systemCursor) { ::SetCursor(::LoadCursor(nullptr, systemCursor)); }
+inline void ShowCursor(LPCTSTR systemCursor) {
+    ::SetCursor(::LoadCursor(nullptr, systemCursor));
+}
 
 inline CPoint ToDoc(CUICanvas* canvas, const CPoint& client) {
     CPoint pt = client;
@@ -18,7 +20,9 @@ inline CPoint ToDoc(CUICanvas* canvas, const CPoint& client) {
     return pt;
 }
 
-inline bool HasCapture(const CUICanvas* canvas) { return canvas->m_hWnd && ::GetCapture() == canvas->m_hWnd; }
+inline bool HasCapture(const CUICanvas* canvas) {
+    return canvas->m_hWnd && ::GetCapture() == canvas->m_hWnd;
+}
 
 inline CUIObject* FrontSelected(const CUICanvas* canvas) {
     return canvas->m_selection.empty() ? nullptr : canvas->m_selection.front();

@@ -1,5 +1,5 @@
-// Life of documents, and the one way in which an object becomes unreachable: every road to its destruction takes it
-// out of all page lists and selections first, whatever document or canvas holds it.
+// Life of documents, and the one way in which an object becomes unreachable: every road to its destruction
+// takes it out of all page lists and selections first, whatever document or canvas holds it.
 #include "core/UIDocument.h"
 
 #include "behaviour/UIObjectList.h"
@@ -21,7 +21,9 @@ std::vector<CUIDocument*>& Documents() {
 
 }  // namespace
 
-CUIDocument::CUIDocument() { Documents().push_back(this); }
+CUIDocument::CUIDocument() {
+    Documents().push_back(this);
+}
 
 CUIDocument::CUIDocument(const CUIDocument& other)
     : m_auxiliary(other.m_auxiliary),
@@ -70,7 +72,8 @@ void CUIDocument::FreeLists() {
 }
 
 bool CUIDocument::HasList(const CUIObjectDeque* objects) const {
-    return std::any_of(m_pages.begin(), m_pages.end(), [&](const auto& page) { return page.second == objects; });
+    return std::any_of(m_pages.begin(), m_pages.end(),
+                       [&](const auto& page) { return page.second == objects; });
 }
 
 void CUIDocument::ForgetObject(CUIObject* object) {

@@ -14,9 +14,11 @@ namespace {
 constexpr int kArchiveBuffer = 4096;
 constexpr int kErrorTextLength = 260;
 
-// Kept: saving, too, asks with the dialog for opening, and the filter shows every file whatever its label says.
+// Kept: saving, too, asks with the dialog for opening, and the filter shows every file whatever its label
+// says.
 bool AskForPath(CString& path) {
-    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, L"Symbol Files(*.cbf)|*.*||", nullptr, 0, TRUE);
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, L"Symbol Files(*.cbf)|*.*||", nullptr, 0,
+                       TRUE);
     if (dialog.DoModal() != IDOK)
         return false;
     path = dialog.GetPathName();

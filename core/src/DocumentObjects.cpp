@@ -90,7 +90,8 @@ void CUIDocument::ActOnFirstObject(CUIObject* object, Action action) {
         CUIObjectDeque* objects = page->second;
         if (!page->first || !objects || objects->empty())
             return;
-        const auto first = std::find_if(objects->begin(), objects->end(), [](CUIObject* entry) { return entry; });
+        const auto first =
+            std::find_if(objects->begin(), objects->end(), [](CUIObject* entry) { return entry; });
         if (first != objects->end())
             action(*first);
     }
@@ -98,9 +99,7 @@ void CUIDocument::ActOnFirstObject(CUIObject* object, Action action) {
 }
 
 void CUIDocument::DeleteObject(CUIObject* object) {
-    ActOnFirstObject(object, [](CUIObject* first) {
-        DestroyObject(first);
-    });
+    ActOnFirstObject(object, [](CUIObject* first) { DestroyObject(first); });
 }
 
 void CUIDocument::RemoveObject(CUIObject* object, int destroy) {
@@ -170,7 +169,9 @@ void CUIDocument::DrawCanvas(Gdiplus::Graphics* g, CUICanvas* canvas) {
             object->Draw(g);
 }
 
-void CUIDocument::DrawCanvas(Gdiplus::Graphics* g) { DrawCanvas(g, GetCurrentCanvas()); }
+void CUIDocument::DrawCanvas(Gdiplus::Graphics* g) {
+    DrawCanvas(g, GetCurrentCanvas());
+}
 
 void CUIDocument::DrawObject(Gdiplus::Graphics* g, CUIObject* focus) {
     const CUIObjectDeque* objects = focus ? GetCanvasObjectList() : nullptr;

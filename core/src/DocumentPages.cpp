@@ -32,8 +32,8 @@ int CUIDocument::CreateCanvas(DWORD style, CString&, CRect& rect, HWND parent) {
     auto* canvas = new CUICanvas(this);
     const LPCTSTR wndClass =
         AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursor(nullptr, IDC_ARROW));
-    if (!canvas->CreateEx(0, wndClass, L"Canvas", style, rect.left, rect.top, rect.Width(), rect.Height(), parent,
-                          nullptr)) {
+    if (!canvas->CreateEx(0, wndClass, L"Canvas", style, rect.left, rect.top, rect.Width(), rect.Height(),
+                          parent, nullptr)) {
         delete canvas;
         return 0;
     }
@@ -71,18 +71,26 @@ void CUIDocument::ClearCanvasObject(CUICanvas* canvas) {
         DeleteCanvas(canvas);
 }
 
-void CUIDocument::ClearCanvasObject() { ClearCanvasObject(GetCurrentCanvas()); }
+void CUIDocument::ClearCanvasObject() {
+    ClearCanvasObject(GetCurrentCanvas());
+}
 
 CUIObjectDeque* CUIDocument::GetCanvasObjectList(CUICanvas* canvas) {
     const auto page = m_pages.find(canvas);
     return page == m_pages.end() ? nullptr : page->second;
 }
 
-CUIObjectDeque* CUIDocument::GetCanvasObjectList() { return GetCanvasObjectList(m_pCurrent); }
+CUIObjectDeque* CUIDocument::GetCanvasObjectList() {
+    return GetCanvasObjectList(m_pCurrent);
+}
 
-CUIPageMap::iterator CUIDocument::CurrentPage() { return m_pCurrent ? m_pages.find(m_pCurrent) : m_pages.end(); }
+CUIPageMap::iterator CUIDocument::CurrentPage() {
+    return m_pCurrent ? m_pages.find(m_pCurrent) : m_pages.end();
+}
 
-CUICanvas* CUIDocument::GetCurrentCanvas() { return CurrentPage() == m_pages.end() ? nullptr : m_pCurrent; }
+CUICanvas* CUIDocument::GetCurrentCanvas() {
+    return CurrentPage() == m_pages.end() ? nullptr : m_pCurrent;
+}
 
 CUICanvas* CUIDocument::SetCurrentCanvas(CUICanvas* canvas) {
     if (!canvas)
@@ -92,10 +100,14 @@ CUICanvas* CUIDocument::SetCurrentCanvas(CUICanvas* canvas) {
     return m_pCurrent;
 }
 
-CUICanvas* CUIDocument::GetFirstCanvas() { return m_pages.empty() ? nullptr : m_pages.begin()->first; }
+CUICanvas* CUIDocument::GetFirstCanvas() {
+    return m_pages.empty() ? nullptr : m_pages.begin()->first;
+}
 
 // Kept: unlike the first page's query, this one moves to the page it answers.
-CUICanvas* CUIDocument::GetLastCanvas() { return m_pages.empty() ? nullptr : m_pCurrent = m_pages.rbegin()->first; }
+CUICanvas* CUIDocument::GetLastCanvas() {
+    return m_pages.empty() ? nullptr : m_pCurrent = m_pages.rbegin()->first;
+}
 
 CUICanvas* CUIDocument::GetNextCanvas() {
     const auto page = CurrentPage();
@@ -112,12 +124,20 @@ CUICanvas* CUIDocument::GetPrevCanvas() {
     return page == m_pages.begin() ? page->first : std::prev(page)->first;
 }
 
-CUICanvas* CUIDocument::MoveFirstCanvas() { return SetCurrentCanvas(GetFirstCanvas()); }
+CUICanvas* CUIDocument::MoveFirstCanvas() {
+    return SetCurrentCanvas(GetFirstCanvas());
+}
 
-CUICanvas* CUIDocument::MoveLastCanvas() { return SetCurrentCanvas(GetLastCanvas()); }
+CUICanvas* CUIDocument::MoveLastCanvas() {
+    return SetCurrentCanvas(GetLastCanvas());
+}
 
-CUICanvas* CUIDocument::MoveNextCanvas() { return SetCurrentCanvas(GetNextCanvas()); }
+CUICanvas* CUIDocument::MoveNextCanvas() {
+    return SetCurrentCanvas(GetNextCanvas());
+}
 
-CUICanvas* CUIDocument::MovePrevCanvas() { return SetCurrentCanvas(GetPrevCanvas()); }
+CUICanvas* CUIDocument::MovePrevCanvas() {
+    return SetCurrentCanvas(GetPrevCanvas());
+}
 
 }  // namespace Lumo

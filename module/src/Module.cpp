@@ -14,7 +14,9 @@ CDynLinkLibrary* g_link = nullptr;
 ULONG_PTR g_gdiPlus = 0;
 
 // The texts the library shows are Korean; conversions to and from multi-byte text follow.
-void SetLocale() { std::setlocale(LC_ALL, "Korean"); }
+void SetLocale() {
+    std::setlocale(LC_ALL, "Korean");
+}
 
 bool StartGdiPlus() {
     const Gdiplus::GdiplusStartupInput input;  // version 1, background thread not suppressed
@@ -52,7 +54,9 @@ void Unload(HINSTANCE instance) {
 
 }  // namespace
 
-HINSTANCE Lumo::ModuleHandle() { return g_module.hModule; }
+HINSTANCE Lumo::ModuleHandle() {
+    return g_module.hModule;
+}
 
 extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH)

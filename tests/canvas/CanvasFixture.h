@@ -55,7 +55,9 @@ protected:
 
     const std::deque<Lumo::CUIObject*>& Objects() { return *m_document->GetCanvasObjectList(m_canvas); }
 
-    void Send(UINT message, int x, int y, UINT flags) { m_canvas->SendMessage(message, flags, MAKELPARAM(x, y)); }
+    void Send(UINT message, int x, int y, UINT flags) {
+        m_canvas->SendMessage(message, flags, MAKELPARAM(x, y));
+    }
     void Press(int x, int y, UINT flags = 0) { Send(WM_LBUTTONDOWN, x, y, flags | MK_LBUTTON); }
     void Move(int x, int y, UINT flags = MK_LBUTTON) { Send(WM_MOUSEMOVE, x, y, flags); }
     void Release(int x, int y, UINT flags = 0) { Send(WM_LBUTTONUP, x, y, flags); }

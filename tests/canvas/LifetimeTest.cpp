@@ -62,7 +62,9 @@ protected:
         m_canvas->UpdateWindow();
     }
 
-    CUIObject* FrontOrNull() { return m_canvas->m_selection.empty() ? nullptr : m_canvas->m_selection.front(); }
+    CUIObject* FrontOrNull() {
+        return m_canvas->m_selection.empty() ? nullptr : m_canvas->m_selection.front();
+    }
 
     void CheckInvariants() {
         const std::set<CUIObject*> page(Objects().begin(), Objects().end());

@@ -38,7 +38,8 @@ TEST_F(PaintTest, TheWindowShowsWhatDrawGives) {
     AddRectangle(100, 100, 80, 60)->SetText(CString(L" "));
     m_canvas->Invalidate();
     m_canvas->UpdateWindow();
-    for (const CPoint pt : {CPoint(5, 5), CPoint(110, 110), CPoint(100, 130), CPoint(179, 159), CPoint(200, 200)}) {
+    for (const CPoint pt :
+         {CPoint(5, 5), CPoint(110, 110), CPoint(100, 130), CPoint(179, 159), CPoint(200, 200)}) {
         const Gdiplus::ARGB argb = PixelAt(pt.x, pt.y);
         EXPECT_EQ(WindowPixel(*m_canvas, pt.x, pt.y),
                   RGB((argb >> 16) & 0xFF, (argb >> 8) & 0xFF, argb & 0xFF))
@@ -47,20 +48,20 @@ TEST_F(PaintTest, TheWindowShowsWhatDrawGives) {
 }
 
 TEST_F(PaintTest, OnlyObjectsThatTheUpdateTouchesAreDrawn) {
-    auto* near = new Watched({10, 10, 30, 30});
-    auto* far = new Watched({200, 200, 30, 30});
-    m_document->AppendObject(near, nullptr);
-    m_document->AppendObject(far, nullptr);
+    auto* inside = new Watched({10, 10, 30, 30});
+    auto* outside = new Watched({200, 200, 30, 30});
+    m_document->AppendObject(inside, nullptr);
+    m_document->AppendObject(outside, nullptr);
     m_canvas->Invalidate();
     m_canvas->UpdateWindow();
-    EXPECT_EQ(near->drawn, 1);
-    EXPECT_EQ(far->drawn, 1);
-    m_canvas->InvalidateObject(near);
+    EXPECT_EQ(inside->drawn, 1);
+    EXPECT_EQ(outside->drawn, 1);
+    m_canvas->InvalidateObject(inside);
     m_canvas->UpdateWindow();
-    EXPECT_EQ(near->drawn, 2);
-    EXPECT_EQ(far->drawn, 1);
+    EXPECT_EQ(inside->drawn, 2);
+    EXPECT_EQ(outside->drawn, 1);
     PixelAt(0, 0);  // outside a paint message everything is drawn
-    EXPECT_EQ(far->drawn, 2);
+    EXPECT_EQ(outside->drawn, 2);
 }
 
 TEST_F(PaintTest, DraggingOneShapeOverManyRepaintsOnlyItsRectangle) {

@@ -10,8 +10,9 @@ namespace {
 using ToolTest = CanvasFixture;
 
 TEST_F(ToolTest, TheThirteenToolsStandInTheirOrder) {
-    const DrawShape kinds[] = {DS_RECTANGLE,  DS_ELLIPSE, DS_TEXTEDIT,  DS_LIST,   DS_SYMBOL, DS_BUTTON,  DS_BUTTONBAND,
-                               DS_CHARTPEQ,   DS_SELECT,  DS_TOOL_TEXT, DS_SELECT, DS_LINE,   DS_POLYLINE};
+    const DrawShape kinds[] = {DS_RECTANGLE, DS_ELLIPSE,    DS_TEXTEDIT, DS_LIST,   DS_SYMBOL,
+                               DS_BUTTON,    DS_BUTTONBAND, DS_CHARTPEQ, DS_SELECT, DS_TOOL_TEXT,
+                               DS_SELECT,    DS_LINE,       DS_POLYLINE};
     ASSERT_GE(CUIToolBase::m_tools.size(), std::size(kinds));
     for (size_t i = 0; i < std::size(kinds); ++i)
         EXPECT_EQ(CUIToolBase::m_tools[i]->GetKind(), kinds[i]) << i;
@@ -27,12 +28,12 @@ TEST_F(ToolTest, TheThirteenToolsStandInTheirOrder) {
 TEST_F(ToolTest, SnapsToAxesAndDiagonals) {
     const struct {
         CPoint from, to;
-    } cases[] = {{{10, 4}, {10, 0}},  {{4, 10}, {0, 10}},   {{10, 6}, {6, 6}},   {{-10, 6}, {-6, 6}},
+    } cases[] = {{{10, 4}, {10, 0}},  {{4, 10}, {0, 10}},    {{10, 6}, {6, 6}},  {{-10, 6}, {-6, 6}},
                  {{10, -6}, {6, -6}}, {{-4, -10}, {0, -10}}, {{10, 5}, {10, 0}}, {{-7, -7}, {-7, -7}}};
     for (const auto& c : cases) {
-        CPoint pt = c.from + CPoint(100, 200);
+        CPoint pt = c.from + CSize(100, 200);
         CUIToolBase::MoveControl(CPoint(100, 200), pt);
-        EXPECT_EQ(pt - CPoint(100, 200), c.to) << c.from.x << ", " << c.from.y;
+        EXPECT_EQ(CPoint(pt - CPoint(100, 200)), c.to) << c.from.x << ", " << c.from.y;
     }
 }
 
@@ -123,7 +124,8 @@ TEST_F(ToolTest, TheRubberBandOnlyEmptiesTheSelection) {
 TEST_F(ToolTest, CtrlSnapsAHandleToItsNeighbour) {
     CUIObject* a = AddRectangle(50, 50, 40, 40);
     m_canvas->Select(a, 0);
-    Drag({90, 90}, {120, 95}, MK_CONTROL);  // handle 2 against handle 1 at (90, 50): (120, 95) goes to (120, 80)
+    Drag({90, 90}, {120, 95},
+         MK_CONTROL);  // handle 2 against handle 1 at (90, 50): (120, 95) goes to (120, 80)
     ExpectRect(a->GetPosition(), 50, 50, 70, 30);
 }
 
@@ -195,7 +197,8 @@ TEST_F(ToolTest, APolylineGrowsByClicksAndEndsWithADoubleClick) {
     EXPECT_EQ(CUIToolBase::run_handle, 2);
     Move(70, 40, 0);
     auto* figure = static_cast<CUIObjectPoly*>(Objects().front());
-    EXPECT_TRUE(figure->GetPendingOffset().Equals(Gdiplus::PointF(20, 30)));  // from the last point to the mouse
+    EXPECT_TRUE(
+        figure->GetPendingOffset().Equals(Gdiplus::PointF(20, 30)));  // from the last point to the mouse
     EXPECT_NE(PixelAt(60, 25), 0xFF000000u);
     Click(90, 60);
     DoubleClick(90, 60);

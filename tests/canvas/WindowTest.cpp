@@ -124,11 +124,9 @@ TEST_F(WindowTest, HintsSayWhatIsRepainted) {
         void* data;
         CRect expected;
     } cases[] = {
-        {0, nullptr, whole}, {1, a, aRect},
-        {1, nullptr, CRect()}, {2, nullptr, bRect},
-        {3, &list, aRect},     {3, &m_canvas->m_selection, CRect()},
-        {3, nullptr, CRect()}, {4, &list, CRect()},
-        {9, a, CRect()},
+        {0, nullptr, whole},   {1, a, aRect},       {1, nullptr, CRect()},
+        {2, nullptr, bRect},   {3, &list, aRect},   {3, &m_canvas->m_selection, CRect()},
+        {3, nullptr, CRect()}, {4, &list, CRect()}, {9, a, CRect()},
     };
     for (const auto& c : cases) {
         m_canvas->UpdateCanvas(nullptr, c.hint, c.data);

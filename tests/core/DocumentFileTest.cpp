@@ -66,7 +66,8 @@ TEST_F(DocumentFileTest, RecordsStandBackToBackInListOrder) {
     m_document->CreateObject(DS_ELLIPSE, CRect(0, 0, 5, 5))->SetShapeName(CString(L"Rect"));
     ASSERT_EQ(m_document->Save(m_path), 1);
     const std::vector<uint8_t> one = Bytes();
-    const std::vector<uint8_t> start = {4, 0, 0, 0, 0xFF, 0xFE, 0xFF, 4, 'R', 0, 'e', 0, 'c', 0, 't', 0, 1, 0, 0, 0};
+    const std::vector<uint8_t> start = {4,   0, 0,   0, 0xFF, 0xFE, 0xFF, 4, 'R', 0,
+                                        'e', 0, 'c', 0, 't',  0,    1,    0, 0,   0};
     ASSERT_GT(one.size(), start.size());
     EXPECT_EQ(std::vector<uint8_t>(one.begin(), one.begin() + start.size()), start);
 

@@ -21,7 +21,8 @@ TEST(LoadTest, SetsTheKoreanLocaleAtLoadAndAtUnload) {
 TEST(LoadTest, RegistersTheClipboardFormat) {
     const HMODULE library = ::LoadLibrary(kLibrary);
     ASSERT_NE(library, nullptr);
-    auto* format = reinterpret_cast<CLIPFORMAT*>(::GetProcAddress(library, "_ZN4Lumo9CUICanvas10m_cfObjectE"));
+    auto* format =
+        reinterpret_cast<CLIPFORMAT*>(::GetProcAddress(library, "_ZN4Lumo9CUICanvas10m_cfObjectE"));
     ASSERT_NE(format, nullptr);
     wchar_t name[64] = {};
     ::GetClipboardFormatName(*format, name, 64);
