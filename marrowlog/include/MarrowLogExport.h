@@ -1,0 +1,8 @@
+// Export macro of the support library's DLL, which defines MARROWLOG_BUILD while it is built.
+#pragma once
+
+#ifdef MARROWLOG_BUILD
+#define MARROWLOG_CLASS __declspec(dllexport)
+#else
+#define MARROWLOG_CLASS __declspec(dllimport)
+#endif
