@@ -1,0 +1,66 @@
+#include "core/src/Caption.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/Geometry.h"
+#include "core/GraphicsStateScope.h"
+#include "core/src/CaptionCache.h"
+
+namespace Lumo {
+
+namespace {
+
+// Line height of a tall font in ems, on the generous side.
+constexpr float kTallLine = 3.0f;
+
+// Page units in a unit of the font size, on the generous side: the resolution is not known here.
+float LargestUnit(int unit) {
+    switch (unit) {
+        case Gdiplus::UnitPoint:
+            return 8.0f;
+        case Gdiplus::UnitInch:
+            return 600.0f;
+        case Gdiplus::UnitDocument:
+            return 2.0f;
+        case Gdiplus::UnitMillimeter:
+            return 24.0f;
+        default:
+            return 1.0f;
+    }
+}
+
+}  // namespace
+
+Gdiplus::RectF CaptionBounds(const CUIShapeFormatText& text, const Gdiplus::RectF& position) {
+    const LPCWSTR begin = text.m_strText;
+    const auto lines = 1 + std::count_if(begin, begin + text.m_strText.GetLength(),
+                                         [](wchar_t c) { return c == L'\n' || c == L'\r'; });
+    const float em = std::fabs(text.m_fFontSize) * LargestUnit(text.m_nUnit);
+    const float reach = static_cast<float>(lines) * em * kTallLine / 2.0f;
+    const float middle = CentreOf(position).Y;
+    return {position.X - em, middle - reach, position.Width + 2.0f * em, 2.0f * reach};
+}
+
+void DrawCaption(Gdiplus::Graphics& graphics, const CUIShapeFormatText& text,
+                 const Gdiplus::RectF& position) {
+    CaptionCache& cache = CaptionCache::Get();
+    const Gdiplus::Font* font = cache.FontOf(text);
+    if (font == nullptr || position.Width <= 0.0f)
+        return;
+    const Gdiplus::SizeF size = cache.Measure(graphics, text, *font);
+    // Nothing has been saved or changed yet, so there is nothing to restore on this path.
+    if (size.Width > position.Width)
+        return;
+    // A box of the text's own size rather than a point: the alignment would move the text off a point.
+    const Gdiplus::PointF centre = CentreOf(position);
+    const Gdiplus::RectF box(centre.X - size.Width * 0.5f, centre.Y - size.Height * 0.5f, size.Width,
+                             size.Height);
+    GraphicsStateScope state(graphics);
+    graphics.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(text.m_nRenderHint));
+    Gdiplus::SolidBrush brush{Gdiplus::Color(text.m_dwTextColor)};
+    graphics.DrawString(text.m_strText, text.m_strText.GetLength(), font, box,
+                        cache.FormatOf(text.m_nAlignment), &brush);
+}
+
+}  // namespace Lumo

@@ -1,0 +1,82 @@
+// Caption, selection handles and rounded outline of the object base.
+#include "core/src/Caption.h"
+
+#include <algorithm>
+
+#include "core/Geometry.h"
+#include "core/PaintScope.h"
+#include "core/UIObject.h"
+
+namespace Lumo {
+
+namespace {
+
+constexpr Gdiplus::ARGB kTrackerLine = 0xFF000000;
+constexpr Gdiplus::ARGB kTrackerFill = 0xFF87CEEB;
+constexpr float kTrackerReach = 5.0f;
+constexpr int kCorners = 4;
+constexpr int kTrackedHandles = 8;
+
+}  // namespace
+
+void CUIObject::Draw(Gdiplus::Graphics* graphics) {
+    const auto& text = m_coordinate.Format<CUIShapeFormatText>();
+    if (graphics == nullptr || text.m_bEnabled == 0 || text.m_strText.IsEmpty())
+        return;
+    const Gdiplus::RectF position = m_coordinate.GetPosition();
+    if (PaintScope::Misses(CaptionBounds(text, position)))
+        return;
+    DrawCaption(*graphics, text, position);
+}
+
+void CUIObject::DrawType(Gdiplus::Graphics*) {}
+
+void CUIObject::DrawDragImage(Gdiplus::Graphics*, Gdiplus::PointF) {}
+
+void CUIObject::DrawTracker(Gdiplus::Graphics* graphics) {
+    if (graphics == nullptr ||
+        PaintScope::Misses(Inflated(Normalised(m_coordinate.GetPosition()), kTrackerReach)))
+        return;
+    Gdiplus::Pen pen{Gdiplus::Color(kTrackerLine), 1.0f};
+    Gdiplus::SolidBrush brush{Gdiplus::Color(kTrackerFill)};
+    const int count = std::min(GetHandleCount(), kTrackedHandles);
+    for (int handle = 0; handle < count; ++handle) {
+        const Gdiplus::RectF rect = GetHandleRect(handle);
+        const Gdiplus::RectF inside = Inflated(rect, -1.0f);
+        if (handle < kCorners) {
+            graphics->DrawEllipse(&pen, rect);
+            graphics->FillEllipse(&brush, inside);
+        } else {
+            graphics->DrawRectangle(&pen, rect);
+            graphics->FillRectangle(&brush, inside);
+        }
+    }
+}
+
+void CUIObject::GetRoundRectPath(Gdiplus::GraphicsPath* path, Gdiplus::RectF rect, int radius) {
+    if (path == nullptr)
+        return;
+    int diameter = radius;
+    if (static_cast<float>(diameter) > rect.Width)
+        diameter = TruncToInt(rect.Width);
+    if (static_cast<float>(diameter) > rect.Height)
+        diameter = TruncToInt(rect.Height);
+    const float d = static_cast<float>(diameter);
+    path->Reset();
+    path->AddArc(rect.X, rect.Y, d, d, 180.0f, 90.0f);
+    float e = d;
+    // Kept: a diameter of exactly 20 gets larger arcs on a smaller rectangle.
+    if (diameter == 20) {
+        e = d + 1.0f;
+        rect.Width -= 1.0f;
+        rect.Height -= 1.0f;
+    }
+    const float right = rect.X + (rect.Width - d - 1.0f);
+    const float bottom = rect.Y + rect.Height - d - 1.0f;
+    path->AddArc(right, rect.Y, e, e, 270.0f, 90.0f);
+    path->AddArc(right, bottom, e, e, 0.0f, 90.0f);
+    path->AddArc(rect.X, bottom, e, e, 90.0f, 90.0f);
+    path->CloseFigure();
+}
+
+}  // namespace Lumo

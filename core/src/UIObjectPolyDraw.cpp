@@ -1,0 +1,176 @@
+// The segments of lines and polylines: drawing and outline hit test.
+#include <cmath>
+#include <optional>
+
+#include "core/Geometry.h"
+#include "core/GraphicsStateScope.h"
+#include "core/PaintScope.h"
+#include "core/UIObjectPoly.h"
+
+namespace Lumo {
+
+namespace {
+
+constexpr Gdiplus::ARGB kTrackerLine = 0xFF000000;
+constexpr Gdiplus::ARGB kTrackerFill = 0xFF87CEEB;
+constexpr float kTrackerReach = 5.0f;
+constexpr float kLineWidthFactor = 3.0f;
+// How far an anchor cap reaches beyond the end of a line, in pen widths, on the generous side.
+constexpr float kCapReach = 2.0f;
+constexpr Gdiplus::ARGB kHitColour = 0xFF000000;
+constexpr float kHitSlack = 5.0f;
+
+Gdiplus::RectF SegmentBounds(const Gdiplus::PointF& from, const Gdiplus::PointF& to, float reach) {
+    return Inflated(Normalised({from.X, from.Y, to.X - from.X, to.Y - from.Y}), reach);
+}
+
+// The segments of a figure: its points joined in order, then the rubber segment when it has one.
+struct Segments {
+    const std::deque<Gdiplus::PointF>& points;
+    std::optional<Gdiplus::PointF> rubberEnd;
+    Gdiplus::PointF shift;
+
+    // Calls visit(from, to) for every segment until it returns false.
+    template <class Visit>
+    void ForEach(Visit visit) const {
+        for (size_t i = 1; i < points.size(); ++i)
+            if (!visit(points[i - 1] + shift, points[i] + shift))
+                return;
+        if (rubberEnd)
+            visit(points.back() + shift, *rubberEnd + shift);
+    }
+
+    // The same for the segments that reach into what is being painted, given how far the pen reaches.
+    template <class Visit>
+    void ForEachPainted(float reach, Visit visit) const {
+        ForEach([&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
+            return PaintScope::Misses(SegmentBounds(from, to, reach)) || visit(from, to);
+        });
+    }
+
+    bool AnyPainted(float reach) const {
+        bool any = false;
+        ForEachPainted(reach, [&](const Gdiplus::PointF&, const Gdiplus::PointF&) {
+            any = true;
+            return false;
+        });
+        return any;
+    }
+};
+
+void AddSegment(Gdiplus::GraphicsPath& path, const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
+    path.StartFigure();
+    path.AddLine(from, to);
+    path.CloseFigure();
+}
+
+void PaintAsPath(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, const Segments& segments) {
+    DWORD color = 0;
+    if (!coordinate.Format<CUIShapeFormatLineColor>().GetPenColor(&color))
+        return;
+    const float width = coordinate.GetLineWidth();
+    const float reach = std::fabs(width) + 1.0f;
+    if (!segments.AnyPainted(reach))
+        return;
+    Gdiplus::GraphicsPath path;
+    segments.ForEachPainted(reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
+        AddSegment(path, from, to);
+        return true;
+    });
+    GraphicsStateScope state(graphics);
+    Gdiplus::Pen pen{Gdiplus::Color(color), width};
+    graphics.DrawPath(&pen, &path);
+}
+
+void PaintAsLines(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, const Segments& segments) {
+    DWORD color = 0;
+    if (!coordinate.Format<CUIShapeFormatLineColor>().GetPenColor(&color))
+        return;
+    const float width = coordinate.GetLineWidth() * kLineWidthFactor;
+    const float reach = std::fabs(width) * kCapReach + 1.0f;
+    if (!segments.AnyPainted(reach))
+        return;
+    GraphicsStateScope state(graphics);
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    graphics.SetCompositingQuality(Gdiplus::CompositingQualityDefault);
+    graphics.SetInterpolationMode(Gdiplus::InterpolationModeDefault);
+    Gdiplus::Pen pen{Gdiplus::Color(color), width};
+    pen.SetAlignment(static_cast<Gdiplus::PenAlignment>(coordinate.GetLineAlignment()));
+    pen.SetStartCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineStartCap()));
+    pen.SetEndCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineEndCap()));
+    segments.ForEachPainted(reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
+        graphics.DrawLine(&pen, from, to);
+        return true;
+    });
+}
+
+// The segment that follows the mouse while the figure does not have all its points yet.
+Segments WithRubber(const std::deque<Gdiplus::PointF>& points, int maxPoints, const Gdiplus::PointF& pending,
+                    const Gdiplus::PointF& shift) {
+    Segments segments{points, std::nullopt, shift};
+    if (!points.empty() && static_cast<LONGLONG>(points.size()) != maxPoints)
+        segments.rubberEnd = points.back() + pending;
+    return segments;
+}
+
+}  // namespace
+
+int CUIObjectPoly::HitTest(Gdiplus::RectF& rect) {
+    if (m_bRectMode != 0)
+        return CUIObject::HitTest(rect);
+    const int tolerance = TruncToInt(m_coordinate.GetLineWidth()) / 2 + 1;
+    const float width = static_cast<float>(tolerance) + kHitSlack;
+    const Gdiplus::PointF point(rect.X, rect.Y);
+    // Only segments near the point go into a path; each is a figure of its own, so the others cannot matter.
+    std::optional<Gdiplus::GraphicsPath> path;
+    Segments{m_points, std::nullopt, {}}.ForEach([&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
+        if (ContainsPoint(SegmentBounds(from, to, std::fabs(width) + 1.0f), point)) {
+            if (!path)
+                path.emplace();
+            AddSegment(*path, from, to);
+        }
+        return true;
+    });
+    if (!path)
+        return 0;
+    Gdiplus::Pen pen{Gdiplus::Color(kHitColour), width};
+    return path->IsOutlineVisible(point, &pen) != FALSE;
+}
+
+void CUIObjectPoly::Draw(Gdiplus::Graphics* graphics) {
+    CUIObjectPoly::DrawDragImage(graphics, {});
+}
+
+void CUIObjectPoly::DrawDragImage(Gdiplus::Graphics* graphics, Gdiplus::PointF offset) {
+    if (graphics != nullptr)
+        PaintAsPath(*graphics, m_coordinate, WithRubber(m_points, m_nMaxPoints, GetPendingOffset(), offset));
+}
+
+void CUIObjectPoly::DrawTracker(Gdiplus::Graphics* graphics) {
+    if (m_bRectMode != 0) {
+        CUIObject::DrawTracker(graphics);
+        return;
+    }
+    if (graphics == nullptr)
+        return;
+    Gdiplus::Pen pen{Gdiplus::Color(kTrackerLine), 1.0f};
+    Gdiplus::SolidBrush brush{Gdiplus::Color(kTrackerFill)};
+    for (const Gdiplus::PointF& point : m_points) {
+        if (PaintScope::Misses(SegmentBounds(point, point, kTrackerReach)))
+            continue;
+        const Gdiplus::RectF square(point.X - 4.0f, point.Y - 4.0f, 8.0f, 8.0f);
+        graphics->DrawRectangle(&pen, square);
+        graphics->FillRectangle(&brush, Inflated(square, -1.0f));
+    }
+}
+
+void CUIObjectLine::Draw(Gdiplus::Graphics* graphics) {
+    CUIObjectLine::DrawDragImage(graphics, {});
+}
+
+void CUIObjectLine::DrawDragImage(Gdiplus::Graphics* graphics, Gdiplus::PointF offset) {
+    if (graphics != nullptr)
+        PaintAsLines(*graphics, m_coordinate, WithRubber(m_points, m_nMaxPoints, GetPendingOffset(), offset));
+}
+
+}  // namespace Lumo
