@@ -83,6 +83,7 @@ void CUIDocument::ForgetObject(CUIObject* object) {
                 std::erase(*objects, object);
     for (CUICanvas* canvas : CUICanvas::Canvases())
         canvas->ForgetObject(object);
+    CUIObjectList::ForgetChild(object);
 }
 
 void CUIDocument::ForgetObjects(const std::unordered_set<CUIObject*>& doomed) {
@@ -93,6 +94,8 @@ void CUIDocument::ForgetObjects(const std::unordered_set<CUIObject*>& doomed) {
                 std::erase_if(*objects, isDoomed);
     for (CUICanvas* canvas : CUICanvas::Canvases())
         canvas->ForgetObjects(doomed);
+    for (CUIObject* object : doomed)
+        CUIObjectList::ForgetChild(object);
 }
 
 void CUIDocument::DestroyObject(CUIObject* object) {
