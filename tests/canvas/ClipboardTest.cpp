@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 using namespace Lumo;
 
@@ -43,14 +44,31 @@ TEST(ClipboardReader, DISABLED_Report) {
     ::fclose(file);
 }
 
-Bytes ReadFile(const wchar_t* path) {
-    Bytes bytes(1 << 16);
-    FILE* file = ::_wfopen(path, L"rb");
-    bytes.resize(file != nullptr ? ::fread(bytes.data(), 1, bytes.size(), file) : 0);
-    if (file != nullptr)
-        ::fclose(file);
-    return bytes;
-}
+class TempFile {
+public:
+    TempFile() {
+        wchar_t folder[MAX_PATH];
+        ::GetTempPath(MAX_PATH, folder);
+        ::GetTempFileName(folder, L"clp", 0, m_path);
+    }
+    ~TempFile() { ::DeleteFile(m_path); }
+    TempFile(const TempFile&) = delete;
+    TempFile& operator=(const TempFile&) = delete;
+
+    const wchar_t* Path() const { return m_path; }
+
+    Bytes Read() const {
+        Bytes bytes(1 << 16);
+        FILE* file = ::_wfopen(m_path, L"rb");
+        bytes.resize(file != nullptr ? ::fread(bytes.data(), 1, bytes.size(), file) : 0);
+        if (file != nullptr)
+            ::fclose(file);
+        return bytes;
+    }
+
+private:
+    wchar_t m_path[MAX_PATH];
+};
 
 // Messages have to be pumped meanwhile: the clipboard's owner hands the data out on request.
 void PumpUntilEnd(HANDLE process) {
@@ -62,10 +80,9 @@ void PumpUntilEnd(HANDLE process) {
 }
 
 Bytes ReadInAnotherProcess() {
-    wchar_t folder[MAX_PATH], path[MAX_PATH], program[MAX_PATH];
-    ::GetTempPath(MAX_PATH, folder);
-    ::GetTempFileName(folder, L"clp", 0, path);
-    ::SetEnvironmentVariable(kReportFile, path);
+    const TempFile report;
+    ::SetEnvironmentVariable(kReportFile, report.Path());
+    wchar_t program[MAX_PATH];
     ::GetModuleFileName(nullptr, program, MAX_PATH);
     CString command;
     command.Format(L"\"%s\" --gtest_also_run_disabled_tests --gtest_filter=ClipboardReader.*", program);
@@ -78,9 +95,7 @@ Bytes ReadInAnotherProcess() {
     PumpUntilEnd(process.hProcess);
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
-    const Bytes bytes = ReadFile(path);
-    ::DeleteFile(path);
-    return bytes;
+    return report.Read();
 }
 
 Bytes Record(CUIObject* object) {
@@ -187,16 +202,25 @@ public:
     }
 };
 
-TEST_F(Clipboard, ACopyThatFailsLeavesTheClipboardAlone) {
+TEST_F(Clipboard, ACopyThatFailsLeavesTheClipboardAloneAndIsLogged) {
     CUIObject* a = AddRectangle(10, 20, 30, 40);
     Pick({a});
     m_canvas->OnEditObjectCopy();
     auto* bad = new Unwritable(Gdiplus::RectF(0, 0, 10, 10), DS_RECTANGLE);
     m_document->AppendObject(bad, nullptr);
     Pick({a, bad});
+
+    const TempFile log;
+    ::SetEnvironmentVariable(L"MARROWLOG_FILE", log.Path());
     EXPECT_NO_THROW(m_canvas->OnEditObjectCopy());
+    ::SetEnvironmentVariable(L"MARROWLOG_FILE", nullptr);
     EXPECT_EQ(ReadClipboard(PrivateFormat()), Record(a));
     EXPECT_EQ(m_canvas->m_selection, (List{bad, a}));
+    const Bytes bytes = log.Read();
+    const std::string line(bytes.begin(), bytes.end());
+    EXPECT_NE(line.find("[5] [예외] Unknown CMemoryException exception in OnEditObjectCopy - "),
+              std::string::npos)
+        << line;
 }
 
 }  // namespace
