@@ -1,0 +1,235 @@
+#include "appearance/UIObjectRectangle.h"
+
+#include <string>
+
+#include "core/PaintScope.h"
+#include "support/Geometry.h"
+#include "support/Surface.h"
+
+namespace Lumo {
+
+namespace {
+
+constexpr Gdiplus::ARGB kBlue = 0xFF0000FF;
+
+void Caption(CUIObject& object, int enabled) {
+    CUIShapeFormatText text = object.GetCoordinate().GetShapeFormatText();
+    text.m_bEnabled = enabled;
+    object.GetCoordinate().SetShapeFormatText(text);
+}
+
+/// A file with a 4 by 2 picture: red, green, blue, black on both lines.
+class PictureFile {
+public:
+    PictureFile() {
+        wchar_t folder[MAX_PATH], path[MAX_PATH];
+        ::GetTempPath(MAX_PATH, folder);
+        ::GetTempFileName(folder, L"pic", 0, path);
+        m_path = path;
+        BITMAPINFOHEADER info = {};
+        info.biSize = sizeof info;
+        info.biWidth = 4;
+        info.biHeight = 2;
+        info.biPlanes = 1;
+        info.biBitCount = 24;
+        const BYTE row[12] = {0, 0, 255, 0, 255, 0, 255, 0, 0, 0, 0, 0};
+        BITMAPFILEHEADER file = {};
+        file.bfType = 0x4D42;
+        file.bfOffBits = sizeof file + sizeof info;
+        file.bfSize = file.bfOffBits + 2 * sizeof row;
+        CFile out(m_path, CFile::modeCreate | CFile::modeWrite);
+        out.Write(&file, sizeof file);
+        out.Write(&info, sizeof info);
+        out.Write(row, sizeof row);
+        out.Write(row, sizeof row);
+        out.Close();
+    }
+    ~PictureFile() { ::DeleteFile(m_path); }
+    const CString& path() const { return m_path; }
+
+private:
+    CString m_path;
+};
+
+class RectangleTest : public ::testing::Test {
+protected:
+    RectangleTest() {
+        Caption(m_rectangle, 0);
+        Caption(m_ellipse, 0);
+    }
+    void FillWith(CUIObject& object, int mode, const CString& path) {
+        CUIShapeFormatFill& fill = object.GetCoordinate().Format<CUIShapeFormatFill>();
+        fill.m_nShapeMode = mode;
+        fill.m_strImagePath = path;
+        object.SetLineShapeMode(0);
+    }
+
+    Surface m_surface{200, 160};
+    CUIObjectRectangle m_rectangle{{50, 40, 100, 80}, DS_RECTANGLE};
+    CUIObjectEllipse m_ellipse{{50, 40, 100, 80}, DS_ELLIPSE};
+    Gdiplus::PointF m_point;
+};
+
+}  // namespace
+
+TEST(ShapeClassTest, KindsAndNames) {
+    EXPECT_EQ(CUIObjectRectangle().GetDrawShape(), DS_RECTANGLE);
+    EXPECT_EQ(CUIObjectEllipse().GetDrawShape(), DS_ELLIPSE);
+    CUIObjectEllipse odd({0, 0, 1, 1}, DS_PIE);
+    EXPECT_EQ(odd.GetDrawShape(), DS_PIE);
+    EXPECT_EQ(odd.GetShapeName(), L"Ellipse");
+    static_assert(sizeof(CUIObjectRectangle) <= 640);
+}
+
+TEST_F(RectangleTest, DefaultFillCoversTheInnerHalfOfTheOutline) {
+    m_rectangle.SetLineWidth(8);
+    m_rectangle.Draw(m_surface);
+    EXPECT_EQ(m_surface.At(47, 80), kBlue);
+    EXPECT_TRUE(m_surface.Shows(100, 80, 0x800000FF));
+    EXPECT_EQ(m_surface.At(52, 80), kBlue);
+    EXPECT_EQ(m_surface.At(44, 80), Surface::kWhite);
+    // A fill of another colour over it shows that the outline came first.
+    m_rectangle.SetFillColor(0xFFFF0000);
+    m_rectangle.Draw(m_surface);
+    EXPECT_EQ(m_surface.At(52, 80), 0xFFFF0000);
+    EXPECT_EQ(m_surface.At(47, 80), kBlue);
+}
+
+TEST_F(RectangleTest, DefaultOutlineIsTwoWideAndFourWhenDragged) {
+    m_rectangle.Draw(m_surface);
+    EXPECT_EQ(m_surface.Painted(), CRect(49, 39, 151, 121));
+    m_surface.Clear();
+    m_rectangle.DrawDragImage(m_surface, m_point);
+    EXPECT_EQ(m_surface.Painted(), CRect(48, 38, 152, 122));
+    EXPECT_EQ(m_surface.At(100, 80), Surface::kWhite);
+}
+
+TEST_F(RectangleTest, EllipseFillsItsInsideOnly) {
+    m_ellipse.Draw(m_surface);
+    EXPECT_TRUE(m_surface.Shows(100, 80, 0x800000FF));
+    EXPECT_EQ(m_surface.At(54, 44), Surface::kWhite);
+    m_surface.Clear();
+    m_ellipse.SetFillShapeMode(2);
+    m_ellipse.DrawDragImage(m_surface, m_point);
+    EXPECT_TRUE(m_surface.Shows(100, 80, 0x800000FF));
+    m_surface.Clear();
+    m_ellipse.DrawContents(m_surface);
+    EXPECT_EQ(m_surface.At(100, 80), Surface::kWhite);
+    EXPECT_EQ(m_surface.At(100, 40), 0xFF000000);
+    m_surface.Clear();
+    m_rectangle.DrawContents(m_surface);
+    EXPECT_TRUE(m_surface.Painted().IsRectEmpty());
+}
+
+TEST_F(RectangleTest, DisabledRecordsAndOtherModesPaintNothing) {
+    const struct {
+        int lineEnabled, lineMode, fillEnabled, fillMode;
+        bool outline, fill;
+    } cases[] = {{1, 1, 1, 1, true, true},  {0, 1, 1, 1, false, true}, {1, 1, 0, 1, true, false},
+                 {1, 0, 1, 2, false, true}, {1, 3, 1, 2, false, true}, {1, 2, 1, 0, true, false},
+                 {1, 2, 1, 7, true, false}};
+    for (const auto& c : cases) {
+        m_surface.Clear();
+        auto& line = m_rectangle.GetCoordinate().Format<CUIShapeFormatLineColor>();
+        auto& fill = m_rectangle.GetCoordinate().Format<CUIShapeFormatFill>();
+        line.m_bEnabled = c.lineEnabled;
+        line.m_nShapeMode = c.lineMode;
+        fill.m_bEnabled = c.fillEnabled;
+        fill.m_nShapeMode = c.fillMode;
+        m_rectangle.Draw(m_surface);
+        EXPECT_EQ(m_surface.At(49, 80) != Surface::kWhite, c.outline) << c.lineMode << c.fillMode;
+        EXPECT_EQ(m_surface.At(100, 80) != Surface::kWhite, c.fill) << c.lineMode << c.fillMode;
+    }
+}
+
+TEST_F(RectangleTest, CaptionLiesUnderTheFill) {
+    Caption(m_rectangle, 1);
+    m_rectangle.SetText(L"HHHH");
+    m_rectangle.SetTextColor(0xFF000000);
+    m_rectangle.SetFillAlpha(255);
+    m_rectangle.Draw(m_surface);
+    for (int x = 55; x < 145; ++x)
+        ASSERT_EQ(m_surface.At(x, 80), kBlue) << x;
+    m_surface.Clear();
+    m_rectangle.GetCoordinate().Format<CUIShapeFormatFill>().m_bEnabled = 0;
+    m_rectangle.SetLineShapeMode(0);
+    m_rectangle.Draw(m_surface);
+    EXPECT_FALSE(m_surface.Painted().IsRectEmpty());
+    m_surface.Clear();
+    m_rectangle.DrawDragImage(m_surface, m_point);
+    EXPECT_TRUE(m_surface.Painted().IsRectEmpty());
+}
+
+TEST_F(RectangleTest, GradientRunsDownFromAboveTheShape) {
+    m_rectangle.SetLineShapeMode(0);
+    m_rectangle.SetFillShapeMode(3);
+    m_rectangle.SetFillColor(0xFF000000);
+    m_rectangle.GetCoordinate().Format<CUIShapeFormatFill>().m_dwGradientColor = 0xFFFFFFFF;
+    m_rectangle.SetFillGradientDirection(7);
+    m_rectangle.Draw(m_surface);
+    const auto grey = [&](int x, int y) { return static_cast<int>(m_surface.At(x, y) & 0xFF); };
+    EXPECT_EQ(grey(55, 80), grey(145, 80));
+    EXPECT_LT(grey(100, 45), grey(100, 80));
+    EXPECT_LT(grey(100, 80), grey(100, 115));
+    // More than half of the run lies above the shape.
+    EXPECT_GT(grey(100, 42), 128);
+}
+
+TEST_F(RectangleTest, ImageModes) {
+    const PictureFile picture;
+    FillWith(m_rectangle, 4, picture.path());
+    m_rectangle.Draw(m_surface);
+    // Tiles start at the page's origin, so the colour follows x modulo 4.
+    EXPECT_EQ(m_surface.At(100, 80), 0xFFFF0000);
+    EXPECT_EQ(m_surface.At(101, 81), 0xFF00FF00);
+    EXPECT_EQ(m_surface.At(40, 80), Surface::kWhite);
+
+    m_surface.Clear();
+    m_rectangle.SetFillShapeMode(5);
+    {
+        // It stands at the page's origin, far from the shape, and is painted there.
+        PaintScope scope({0, 0, 10, 10});
+        m_rectangle.Draw(m_surface);
+    }
+    EXPECT_EQ(m_surface.Painted(), CRect(0, 0, 4, 2));
+
+    m_surface.Clear();
+    FillWith(m_ellipse, 6, picture.path());
+    m_ellipse.DrawDragImage(m_surface, m_point);
+    // Stretched over the whole rectangle, corners included, at 80 %.
+    EXPECT_TRUE(m_surface.Shows(54, 44, 0xCCFF0000));
+    EXPECT_TRUE(m_surface.Shows(112, 80, 0xCC0000FF));
+}
+
+TEST_F(RectangleTest, UnreadableImagesPaintNothing) {
+    const PictureFile notAPicture;
+    CFile(notAPicture.path(), CFile::modeCreate | CFile::modeWrite).Write("text", 4);
+    for (const CString& path : {CString(), CString(L"no such file.png"), notAPicture.path()})
+        for (int mode : {4, 5, 6}) {
+            FillWith(m_rectangle, mode, path);
+            m_rectangle.Draw(m_surface);
+            FillWith(m_ellipse, mode, path);
+            m_ellipse.DrawDragImage(m_surface, m_point);
+        }
+    EXPECT_TRUE(m_surface.Painted().IsRectEmpty());
+    m_rectangle.Draw(nullptr);
+    m_ellipse.DrawDragImage(nullptr, m_point);
+}
+
+TEST_F(RectangleTest, ImageFilesAreFreedAtOnce) {
+    const PictureFile picture;
+    for (int mode : {4, 5, 6}) {
+        FillWith(m_rectangle, mode, picture.path());
+        m_rectangle.Draw(m_surface);
+    }
+    EXPECT_NE(::DeleteFile(picture.path()), FALSE);
+}
+
+TEST_F(RectangleTest, DragUsesThePositionOffsetAndNotThePoint) {
+    m_rectangle.SetPositionOffset({20, 10});
+    Gdiplus::PointF point(40, 40);
+    m_rectangle.DrawDragImage(m_surface, point);
+    EXPECT_EQ(m_surface.Painted(), CRect(68, 48, 172, 132));
+}
+
+}  // namespace Lumo

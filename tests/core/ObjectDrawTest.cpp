@@ -1,0 +1,234 @@
+#include <cmath>
+#include <string>
+
+#include "appearance/UIObjectRectangle.h"
+#include "core/GraphicsStateScope.h"
+#include "core/PaintScope.h"
+#include "support/Geometry.h"
+#include "support/Surface.h"
+
+namespace Lumo {
+
+namespace {
+
+CUIObject Captioned(const CString& text, const Gdiplus::RectF& rect) {
+    CUIObject object(rect, DS_RECTANGLE);
+    object.SetText(text);
+    object.SetTextColor(0xFF000000);
+    return object;
+}
+
+}  // namespace
+
+TEST(CaptionTest, StandsCentredWhateverTheAlignment) {
+    for (int alignment : {0, 1, 2, 7}) {
+        Surface surface(300, 200);
+        CUIObject object = Captioned(L"HHHH", {60, 40, 200, 120});
+        object.SetTextAlignment(alignment);
+        object.Draw(surface);
+        const CRect painted = surface.Painted();
+        ASSERT_FALSE(painted.IsRectEmpty()) << alignment;
+        EXPECT_NEAR((painted.left + painted.right) / 2.0, 160, 3) << alignment;
+        // Capitals stand a little above the middle of their line, never as much as half of it.
+        EXPECT_NEAR((painted.top + painted.bottom) / 2.0, 100, 4) << alignment;
+    }
+}
+
+TEST(CaptionTest, DefaultObjectShowsItsCaption) {
+    Surface surface(200, 100);
+    surface.graphics().Clear(Gdiplus::Color(0xFF000000));
+    CUIObject object({0, 0, 200, 100}, DS_RECTANGLE);
+    object.Draw(surface);
+    int bright = 0;
+    for (int y = 30; y < 70; ++y)
+        for (int x = 60; x < 140; ++x)
+            bright += (surface.At(x, y) & 0xFF) > 0x40;
+    EXPECT_GT(bright, 40);
+}
+
+TEST(CaptionTest, PaintsNothingWhenItMayNot) {
+    Surface surface(200, 100);
+    Captioned(L"far too wide for it", {50, 30, 40, 40}).Draw(surface);
+    Captioned(L"turned over", {190, 30, -180, 40}).Draw(surface);
+    CUIObject disabled = Captioned(L"off", {0, 0, 200, 100});
+    CUIShapeFormatText format = disabled.GetCoordinate().GetShapeFormatText();
+    format.m_bEnabled = 0;
+    disabled.GetCoordinate().SetShapeFormatText(format);
+    disabled.Draw(surface);
+    format.m_bEnabled = 1;
+    format.m_strText.Empty();
+    disabled.GetCoordinate().SetShapeFormatText(format);
+    disabled.Draw(surface);
+    disabled.SetText(L"size");
+    disabled.SetTextFontSize(-3);
+    disabled.Draw(surface);
+    disabled.Draw(nullptr);
+    EXPECT_TRUE(surface.Painted().IsRectEmpty());
+}
+
+TEST(CaptionTest, LeavesTheGraphicsStateAsItWas) {
+    Surface surface(300, 100);
+    surface.graphics().SetTextRenderingHint(Gdiplus::TextRenderingHintSingleBitPerPixel);
+    Captioned(L"fits", {0, 0, 300, 100}).Draw(surface);
+    Captioned(L"does not fit", {0, 0, 20, 100}).Draw(surface);
+    EXPECT_EQ(surface.graphics().GetTextRenderingHint(), Gdiplus::TextRenderingHintSingleBitPerPixel);
+}
+
+TEST(CaptionTest, MissingFontFamilyIsReplaced) {
+    Surface surface(300, 100);
+    CUIObject object = Captioned(L"HHHH", {0, 0, 300, 100});
+    object.SetTextFontName(L"No Such Family 17");
+    object.Draw(surface);
+    EXPECT_FALSE(surface.Painted().IsRectEmpty());
+}
+
+TEST(CaptionTest, FollowsChangesOfTextAndFont) {
+    Surface surface(400, 100);
+    CUIObject object = Captioned(L"H", {0, 0, 400, 100});
+    const auto width = [&] {
+        surface.Clear();
+        object.Draw(surface);
+        return surface.Painted().Width();
+    };
+    const int one = width();
+    object.SetText(L"HHHH");
+    const int four = width();
+    EXPECT_GT(four, 3 * one);
+    object.SetTextFontSize(44);
+    EXPECT_GT(width(), four * 3 / 2);
+}
+
+TEST(CaptionTest, TallCaptionIsPaintedWhereItReachesBeyondTheObject) {
+    Surface whole(300, 200), part(300, 200);
+    CUIObject object = Captioned(L"H\nH\nH", {100, 95, 100, 10});
+    object.Draw(whole);
+    const CRect painted = whole.Painted();
+    ASSERT_LT(painted.top, 85);
+    {
+        PaintScope scope(Gdiplus::RectF(100, 0, 100, painted.top + 2));
+        object.Draw(part);
+    }
+    EXPECT_EQ(part.Painted().top, painted.top);
+}
+
+TEST(TrackerTest, CirclesOnCornersAndSquaresOnEdges) {
+    Surface surface(200, 200);
+    CUIObject object({50, 50, 100, 100}, DS_RECTANGLE);
+    object.DrawTracker(surface);
+    for (int handle = 0; handle < 8; ++handle) {
+        const Gdiplus::PointF point = object.GetHandlePoint(handle);
+        const int x = static_cast<int>(point.X), y = static_cast<int>(point.Y);
+        EXPECT_TRUE(surface.Shows(x, y, 0xFF87CEEB)) << handle;
+        // Just inside the corner of its box a square is filled and a circle is not.
+        EXPECT_EQ(surface.Shows(x - 3, y - 3, 0xFF87CEEB), handle >= 4) << handle;
+        EXPECT_TRUE(surface.Shows(x + 4, y, 0xFF000000) || surface.Shows(x + 3, y, 0xFF000000)) << handle;
+    }
+    EXPECT_EQ(surface.At(100, 100), Surface::kWhite);
+    const CRect painted = surface.Painted();
+    EXPECT_GE(painted.left, 45);
+    EXPECT_LE(painted.right, 156);
+}
+
+TEST(PaintScopeTest, MissesOnlyWhatDoesNotTouch) {
+    EXPECT_FALSE(PaintScope::Misses({1000, 1000, 1, 1}));
+    PaintScope outer({10, 10, 20, 20});
+    EXPECT_FALSE(PaintScope::Misses({0, 0, 10, 10}));
+    EXPECT_FALSE(PaintScope::Misses({30, 30, 5, 0}));
+    EXPECT_TRUE(PaintScope::Misses({0, 0, 9.9f, 100}));
+    EXPECT_TRUE(PaintScope::Misses({0, 30.1f, 100, 100}));
+    {
+        PaintScope inner({100, 100, 10, 10});
+        EXPECT_TRUE(PaintScope::Misses({15, 15, 1, 1}));
+        EXPECT_FALSE(PaintScope::Misses({105, 105, 1, 1}));
+    }
+    EXPECT_FALSE(PaintScope::Misses({15, 15, 1, 1}));
+    EXPECT_TRUE(PaintScope::Misses({105, 105, 1, 1}));
+}
+
+// The pixels inside the update rectangle are the same with the scope as without it.
+TEST(PaintScopeTest, ChangesNoPixelOfTheUpdateRectangle) {
+    CUIObjectRectangle rectangle({20, 20, 60, 30}, DS_RECTANGLE);
+    rectangle.SetLineWidth(9);
+    CUIObjectRectangle turnedOver({180, 120, -60, -30}, DS_RECTANGLE);
+    turnedOver.SetLineWidth(9);
+    CUIObjectEllipse ellipse({120, 20, 60, 30}, DS_ELLIPSE);
+    ellipse.SetText(L"Tall\ncaption");
+    const auto draw = [&](Surface& surface) {
+        for (CUIObject* object : {static_cast<CUIObject*>(&rectangle), static_cast<CUIObject*>(&turnedOver),
+                                  static_cast<CUIObject*>(&ellipse)}) {
+            object->Draw(surface);
+            object->DrawTracker(surface);
+        }
+    };
+    Surface whole(200, 160);
+    draw(whole);
+    for (int y = 0; y < 160; y += 8)
+        for (int x = 0; x < 200; x += 8) {
+            Surface part(200, 160);
+            const PaintScope scope(Gdiplus::RectF(static_cast<float>(x), static_cast<float>(y), 8, 8));
+            draw(part);
+            for (int dy = 0; dy < 8; ++dy)
+                for (int dx = 0; dx < 8; ++dx)
+                    ASSERT_EQ(part.At(x + dx, y + dy), whole.At(x + dx, y + dy)) << x + dx << ", " << y + dy;
+        }
+}
+
+TEST(PaintScopeTest, ObjectOutsideIsNotPainted) {
+    Surface surface(200, 200);
+    CUIObjectRectangle object({20, 20, 60, 30}, DS_RECTANGLE);
+    PaintScope scope({150, 150, 50, 50});
+    object.Draw(surface);
+    object.DrawTracker(surface);
+    EXPECT_TRUE(surface.Painted().IsRectEmpty());
+}
+
+namespace {
+
+struct PathBounds {
+    explicit PathBounds(const Gdiplus::GraphicsPath& path) {
+        path.GetBounds(&rect);
+        count = path.GetPointCount();
+    }
+    Gdiplus::RectF rect;
+    int count;
+};
+
+}  // namespace
+
+TEST(RoundRectPathTest, MemberAndFreeFunction) {
+    CUIObject object;
+    Gdiplus::GraphicsPath path;
+    path.AddLine(-500, -500, -400, -400);
+    const struct {
+        Box rect;
+        int diameter;
+        Box want;
+    } cases[] = {// The far arcs end one unit inside the far edges.
+                 {{10, 20, 100, 60}, 10, {10, 20, 99, 59}},
+                 // 20 takes one unit off the rectangle and adds one to the arcs.
+                 {{10, 20, 100, 60}, 20, {10, 20, 99, 59}},
+                 // The diameter is cut to the width, then to the height.
+                 {{0, 0, 30, 40}, 50, {0, 0, 29, 39}},
+                 {{0, 0, 40, 30}, 50, {0, 0, 39, 29}}};
+    for (const auto& c : cases) {
+        object.GetRoundRectPath(&path, {c.rect.x, c.rect.y, c.rect.width, c.rect.height}, c.diameter);
+        const PathBounds member(path);
+        EXPECT_NEAR(member.rect.X, c.want.x, 0.01) << c.diameter;
+        EXPECT_NEAR(member.rect.Width, c.want.width, 0.01) << c.diameter;
+        EXPECT_NEAR(member.rect.Height, c.want.height, 0.01) << c.diameter;
+        path.Reset();
+        EXPECT_EQ(GetRoundRectPath(&path, c.rect.x, c.rect.y, c.rect.width, c.rect.height, c.diameter),
+                  Gdiplus::Ok);
+        const PathBounds free(path);
+        EXPECT_EQ(free.count, member.count);
+        EXPECT_NEAR(free.rect.X, member.rect.X, 0.01) << c.diameter;
+        EXPECT_NEAR(free.rect.Width, member.rect.Width, 0.01) << c.diameter;
+        EXPECT_NEAR(free.rect.Height, member.rect.Height, 0.01) << c.diameter;
+    }
+    EXPECT_EQ(GetRoundRectPath(&path, 10.9f, -10.9f, 100, 60, 8), Gdiplus::Ok);
+    EXPECT_EQ(PathBounds(path).rect.X, 10);
+    EXPECT_EQ(PathBounds(path).rect.Y, -10);
+    EXPECT_EQ(GetRoundRectPath(nullptr, 0, 0, 1, 1, 1), Gdiplus::InvalidParameter);
+}
+
+}  // namespace Lumo

@@ -1,0 +1,343 @@
+#include "core/UIObjectPoly.h"
+
+#include <memory>
+#include <vector>
+
+#include "behaviour/Bytes.h"
+#include "canvas/UITool.h"
+#include "core/PaintScope.h"
+#include "support/Geometry.h"
+#include "support/Surface.h"
+
+namespace Lumo {
+
+namespace {
+
+constexpr int kPolyLineBody = 65536;
+
+class PolyTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        m_shape = CUIToolBase::run_drawshape;
+        m_last = CUIToolBase::run_last;
+        CUIToolBase::run_drawshape = DS_SELECT;
+    }
+    void TearDown() override {
+        CUIToolBase::run_drawshape = m_shape;
+        CUIToolBase::run_last = m_last;
+    }
+
+    static void Add(CUIObjectPoly& poly, std::initializer_list<Gdiplus::PointF> points) {
+        for (Gdiplus::PointF point : points)
+            EXPECT_EQ(poly.AddPoint(point), 1);
+    }
+    static std::vector<Spot> Points(CUIObjectPoly& poly) {
+        return {poly.NormalizePoints()->begin(), poly.NormalizePoints()->end()};
+    }
+    static int Hit(CUIObject& object, float x, float y, int selected) {
+        Gdiplus::PointF point(x, y);
+        return object.HitTest(point, selected);
+    }
+    static int Last(CUIObjectPoly& poly, int ahead) {
+        Gdiplus::PointF point;
+        return poly.LastPoint(point, ahead);
+    }
+
+    CUIObjectLine m_line{{0, 0, 0, 0}, DS_LINE};
+    CUIObjectPolyLine m_polyLine{{0, 0, 0, 0}, DS_POLYLINE};
+
+private:
+    DrawShape m_shape;
+    CPoint m_last;
+};
+
+}  // namespace
+
+TEST_F(PolyTest, CountsHandlesByTheMostPoints) {
+    EXPECT_EQ(m_line.GetHandleCount(), 3);
+    EXPECT_EQ(m_polyLine.GetHandleCount(), 65537);
+    EXPECT_EQ(CUIObjectPoly().GetHandleCount(), 1);
+    EXPECT_EQ(CUIObjectPoly({0, 0, 1, 1}, DS_LINE).GetHandleCount(), 1);
+    EXPECT_EQ(m_line.GetRectMode(), 0);
+    EXPECT_EQ(m_line.GetType(), DS_LINE);
+    EXPECT_EQ(m_polyLine.GetType(), -1);
+}
+
+TEST_F(PolyTest, KnowsItsLastPoint) {
+    EXPECT_EQ(Last(m_line, 1), 0);
+    Add(m_line, {{1, 1}});
+    EXPECT_EQ(Last(m_line, 0), 0);
+    EXPECT_EQ(Last(m_line, 1), 1);
+    Add(m_line, {{2, 2}});
+    EXPECT_EQ(Last(m_line, 0), 1);
+}
+
+TEST_F(PolyTest, BoundsFollowThePoints) {
+    EXPECT_EQ(m_polyLine.RecalcBounds(), 0);
+    Add(m_polyLine, {{30, 40}});
+    EXPECT_EQ(Box(m_polyLine.GetPosition()), Box(30, 40, 0, 0));
+    Add(m_polyLine, {{10, 90}, {25, 5}});
+    EXPECT_EQ(Box(m_polyLine.GetPosition()), Box(10, 5, 20, 85));
+}
+
+TEST_F(PolyTest, SelectingMovesOnePointOrAll) {
+    Add(m_line, {{0, 0}, {10, 10}});
+    m_line.MoveTo(1, {5.5f, -3});
+    EXPECT_EQ(Points(m_line), (std::vector<Spot>{{0, 0}, {15.5f, 7}}));
+    EXPECT_EQ(Box(m_line.GetPosition()), Box(0, 0, 15.5f, 7));
+    m_line.MoveTo(2, {1, 2});
+    EXPECT_EQ(Points(m_line), (std::vector<Spot>{{1, 2}, {16.5f, 9}}));
+    m_line.MoveTo(2, {0, 0});
+    EXPECT_EQ(Spot(m_line.GetPendingOffset()), Spot(0, 0));
+    m_line.MoveTo(3, {4, 4});
+    m_line.MoveTo(-1, {1, 0});
+    EXPECT_EQ(Spot(m_line.GetPendingOffset()), Spot(5, 4));
+    EXPECT_EQ(Points(m_line), (std::vector<Spot>{{1, 2}, {16.5f, 9}}));
+}
+
+TEST_F(PolyTest, HandleBeyondThePointsMovesNothing) {
+    Add(m_polyLine, {{0, 0}, {10, 10}});
+    m_polyLine.SetPosition({500, 500, 1, 1});
+    m_polyLine.MoveTo(2, {5, 5});
+    EXPECT_EQ(Points(m_polyLine), (std::vector<Spot>{{0, 0}, {10, 10}}));
+    EXPECT_EQ(Box(m_polyLine.GetPosition()), Box(0, 0, 10, 10));
+    m_line.MoveTo(2, {5, 5});
+    EXPECT_TRUE(Points(m_line).empty());
+}
+
+TEST_F(PolyTest, DrawingMovesTheFreeEndOnly) {
+    CUIToolBase::run_drawshape = DS_LINE;
+    Add(m_line, {{0, 0}, {10, 10}});
+    m_line.MoveTo(1, {5, 5});
+    m_line.MoveTo(2, {1, 2});
+    EXPECT_EQ(Spot(m_line.GetPendingOffset()), Spot(6, 7));
+    EXPECT_EQ(Points(m_line), (std::vector<Spot>{{0, 0}, {10, 10}}));
+}
+
+TEST_F(PolyTest, HandlePointsAndCursors) {
+    Add(m_polyLine, {{3, 4}, {10, 10}});
+    CUIToolBase::run_last = CPoint(77, 88);
+    EXPECT_EQ(Spot(m_polyLine.GetHandlePoint(0)), Spot(3, 4));
+    EXPECT_EQ(Spot(m_polyLine.GetHandlePoint(2)), Spot(0, 0));
+    EXPECT_EQ(Spot(m_polyLine.GetHandlePoint(-1)), Spot(0, 0));
+    EXPECT_EQ(Spot(m_polyLine.GetHandlePoint(kPolyLineBody)), Spot(77, 88));
+    EXPECT_EQ(Box(m_polyLine.GetHandleRect(0)), Box(-1, 0, 8, 8));
+    EXPECT_EQ(Box(m_polyLine.GetHandleRect(kPolyLineBody)), Box(4, 5, 5, 4));
+    EXPECT_EQ(m_polyLine.GetHandleCursor(kPolyLineBody), ::LoadCursor(nullptr, IDC_CROSS));
+    EXPECT_EQ(m_polyLine.GetHandleCursor(kPolyLineBody + 1), ::LoadCursor(nullptr, IDC_ARROW));
+    EXPECT_EQ(m_polyLine.GetHandleCursor(-1), ::LoadCursor(nullptr, IDC_ARROW));
+}
+
+TEST_F(PolyTest, HitsSegmentsNotTheBox) {
+    EXPECT_EQ(Hit(m_line, 0, 0, 0), -1);
+    Add(m_line, {{10, 10}, {110, 110}});
+    // The tested point is one unit left of and above the pointer.
+    EXPECT_EQ(Hit(m_line, 61, 61, 0), 2);
+    EXPECT_EQ(Hit(m_line, 61, 65, 0), 2);
+    EXPECT_EQ(Hit(m_line, 61, 75, 0), -1);
+    EXPECT_EQ(Hit(m_line, 100, 20, 0), -1);
+    m_line.SetLineWidth(40);
+    EXPECT_EQ(Hit(m_line, 61, 75, 0), 2);
+    m_line.SetRectMode(1);
+    EXPECT_EQ(Hit(m_line, 100, 20, 0), 2);
+}
+
+TEST_F(PolyTest, HitsAnyOfManySegments) {
+    for (int i = 0; i <= 1000; ++i)
+        Add(m_polyLine, {{static_cast<float>(i * 4), i % 2 != 0 ? 20.0f : 0.0f}});
+    EXPECT_EQ(Hit(m_polyLine, 2001, 1, 0), kPolyLineBody);
+    EXPECT_EQ(Hit(m_polyLine, 2001, 40, 0), -1);
+    EXPECT_EQ(Hit(m_polyLine, 5000, 1, 0), -1);
+}
+
+TEST_F(PolyTest, SelectedHitTriesThePointsThenTheBody) {
+    Add(m_polyLine, {{100, 100}, {200, 100}, {200, 200}});
+    EXPECT_EQ(Hit(m_polyLine, 201, 101, 1), 1);
+    EXPECT_EQ(Hit(m_polyLine, 150, 150, 1), kPolyLineBody);
+    EXPECT_EQ(Hit(m_polyLine, 300, 300, 1), -1);
+    // Handles without a point do not catch at the page's origin.
+    EXPECT_EQ(Hit(m_polyLine, 0, 0, 1), -1);
+    m_polyLine.SetRectMode(1);
+    EXPECT_EQ(Hit(m_polyLine, 100, 200, 1), 3);
+    EXPECT_EQ(Hit(m_polyLine, 0, 0, 1), -1);
+}
+
+TEST_F(PolyTest, SelectedHitAsksForNoHandleWithoutAPoint) {
+    struct Counter : CUIObjectPolyLine {
+        using CUIObjectPolyLine::CUIObjectPolyLine;
+        Gdiplus::RectF GetHandleRect(int handle) override {
+            ++m_asked;
+            return CUIObjectPolyLine::GetHandleRect(handle);
+        }
+        int m_asked = 0;
+    } counter({0, 0, 0, 0}, DS_POLYLINE);
+    Add(counter, {{100, 100}, {200, 100}, {200, 200}});
+    EXPECT_EQ(Hit(counter, 500, 500, 1), -1);
+    EXPECT_LE(counter.m_asked, 4);
+}
+
+TEST_F(PolyTest, RectangleModeEditsTheBox) {
+    Add(m_polyLine, {{0, 0}, {100, 100}});
+    m_polyLine.RectMode();
+    EXPECT_EQ(m_polyLine.GetRectMode(), 1);
+    EXPECT_EQ(Spot(m_polyLine.GetHandlePoint(2)), Spot(100, 100));
+    m_polyLine.MoveTo(2, {10, 10});
+    EXPECT_EQ(Box(m_polyLine.GetPosition()), Box(0, 0, 110, 110));
+    EXPECT_EQ(Points(m_polyLine), (std::vector<Spot>{{0, 0}, {100, 100}}));
+    m_polyLine.RectMode();
+    EXPECT_EQ(m_polyLine.GetRectMode(), 0);
+    m_line.SetRectMode(1);
+    m_line.RectMode();
+    EXPECT_EQ(m_line.GetRectMode(), 0);
+}
+
+TEST_F(PolyTest, TurningAndFlippingLeaveThePoints) {
+    Add(m_line, {{0, 0}, {40, 20}});
+    m_line.RotatePoints(90, {20, 10}, {0, 0, 40, 20});
+    m_line.Invert(1);
+    EXPECT_EQ(m_line.GetRectMode(), 0);
+    EXPECT_EQ(Box(m_line.GetPosition()), Box(40, 0, 40, 20));
+    m_line.SetPosition({0, 0, 40, 20});
+    m_line.Rotate(90);
+    EXPECT_EQ(Box(m_line.GetPosition()), Box(10, -10, 20, 40));
+    EXPECT_EQ(Points(m_line), (std::vector<Spot>{{0, 0}, {40, 20}}));
+}
+
+TEST_F(PolyTest, NewPointsAreTheLiveOnes) {
+    std::deque<Gdiplus::PointF>* points = m_polyLine.NewPoints(3);
+    EXPECT_EQ(points, m_polyLine.NormalizePoints());
+    (*points)[1] = {5, 6};
+    EXPECT_EQ(Points(m_polyLine), (std::vector<Spot>{{0, 0}, {5, 6}, {0, 0}}));
+    CUIObjectPolyLine copy(m_polyLine);
+    m_polyLine.NewPoints(-1);
+    EXPECT_TRUE(Points(m_polyLine).empty());
+    EXPECT_EQ(Points(copy).size(), 3u);
+    Gdiplus::RectF rect(1, 2, 3, 4);
+    copy.SetRectMode(1);
+    copy.Init(DS_POLYLINE, rect);
+    EXPECT_TRUE(Points(copy).empty());
+    EXPECT_EQ(copy.GetRectMode(), 0);
+}
+
+TEST_F(PolyTest, ArchiveHoldsLowWordsAndNoPoints) {
+    CUIObjectPolyLine stored({5, 6, 70000.9f, 40.9f}, DS_POLYLINE);
+    Add(stored, {{5, 6}, {15, 26}});
+    Bytes want = ObjectBase(2, L"PolyLine", 5, 6, 10, 20);
+    want.W(70000 & 0xFFFF).W(40).W(0).W(0);
+    EXPECT_TRUE(SameBytes(Stored(stored), want));
+
+    CUIObjectPolyLine loaded({0, 0, 0, 0}, DS_POLYLINE);
+    EXPECT_EQ(Load(loaded, want), 0u);
+    EXPECT_EQ(loaded.GetMaxPoints(), 0);
+    EXPECT_TRUE(Points(loaded).empty());
+    EXPECT_TRUE(SameBytes(Stored(loaded), want));
+
+    Bytes high = ObjectBase(1, L"Line", 0, 0, 1, 1);
+    EXPECT_EQ(Load(m_line, high.W(1).W(2).W(0xFFFF).W(3)), 0u);
+    EXPECT_EQ(m_line.GetMaxPoints(), 0xFFFF);
+}
+
+class PolyDrawTest : public PolyTest {
+protected:
+    Surface m_surface{200, 200};
+};
+
+TEST_F(PolyDrawTest, PaintsNothingWithoutPointsOrColour) {
+    m_line.Draw(m_surface);
+    m_polyLine.Draw(m_surface);
+    m_line.Draw(nullptr);
+    for (int mode : {0, 3}) {
+        CUIObjectPolyLine figure({0, 0, 0, 0}, DS_POLYLINE);
+        Add(figure, {{10, 10}, {100, 100}});
+        figure.SetLineShapeMode(mode);
+        figure.Draw(m_surface);
+    }
+    EXPECT_TRUE(m_surface.Painted().IsRectEmpty());
+}
+
+TEST_F(PolyDrawTest, ColourByMode) {
+    m_polyLine.SetLineWidth(6);
+    m_polyLine.SetLineColor(0x00FF0000);
+    m_polyLine.SetLineAlpha(127.9f);
+    Add(m_polyLine, {{20, 100}, {180, 100}});
+    m_polyLine.Draw(m_surface);
+    EXPECT_EQ(m_surface.At(100, 100), 0xFFFF0000);
+    m_surface.Clear();
+    m_polyLine.SetLineShapeMode(2);
+    m_polyLine.Draw(m_surface);
+    EXPECT_TRUE(m_surface.Shows(100, 100, 0x7FFF0000));
+    EXPECT_EQ(m_surface.At(100, 106), Surface::kWhite);
+}
+
+TEST_F(PolyDrawTest, RubberSegmentFollowsUntilThePointsAreComplete) {
+    CUIToolBase::run_drawshape = DS_LINE;
+    m_line.SetLineStartCap(0);
+    m_line.SetLineEndCap(0);
+    Add(m_line, {{20, 20}});
+    m_line.MoveTo(1, {100, 0});
+    m_line.Draw(m_surface);
+    EXPECT_EQ(m_surface.At(100, 20), 0xFF0000FF);
+    EXPECT_EQ(m_surface.At(125, 20), Surface::kWhite);
+
+    m_surface.Clear();
+    Add(m_line, {{20, 150}});
+    m_line.Draw(m_surface);
+    EXPECT_EQ(m_surface.At(20, 100), 0xFF0000FF);
+    EXPECT_EQ(m_surface.At(100, 150), Surface::kWhite);
+}
+
+TEST_F(PolyDrawTest, LineIsThreeTimesAsWideAsAPolyline) {
+    m_line.SetLineWidth(4);
+    m_line.SetLineStartCap(0);
+    m_line.SetLineEndCap(0);
+    Add(m_line, {{20, 50}, {180, 50}});
+    m_line.Draw(m_surface);
+    EXPECT_NEAR(m_surface.Painted().Height(), 12, 1);
+    m_surface.Clear();
+    m_polyLine.SetLineWidth(4);
+    Add(m_polyLine, {{20, 150}, {180, 150}});
+    m_polyLine.Draw(m_surface);
+    EXPECT_NEAR(m_surface.Painted().Height(), 4, 1);
+}
+
+TEST_F(PolyDrawTest, DragImageIsDisplaced) {
+    m_polyLine.SetLineWidth(4);
+    Add(m_polyLine, {{20, 50}, {100, 50}});
+    m_polyLine.DrawDragImage(m_surface, {30, 100});
+    EXPECT_EQ(m_surface.At(90, 150), 0xFF0000FF);
+    EXPECT_EQ(m_surface.At(60, 50), Surface::kWhite);
+}
+
+TEST_F(PolyDrawTest, TrackerHasASquareOnEveryPoint) {
+    Add(m_polyLine, {{50, 50}, {100, 60}, {150, 50}});
+    m_polyLine.DrawTracker(m_surface);
+    for (const Gdiplus::PointF& point : *m_polyLine.NormalizePoints()) {
+        const int x = static_cast<int>(point.X), y = static_cast<int>(point.Y);
+        EXPECT_TRUE(m_surface.Shows(x, y, 0xFF87CEEB));
+        EXPECT_TRUE(m_surface.Shows(x - 3, y - 3, 0xFF87CEEB));
+    }
+    EXPECT_EQ(m_surface.At(75, 55), Surface::kWhite);
+}
+
+// Caps reach beyond the points, segments are left out one by one: no pixel of the update may change.
+TEST_F(PolyDrawTest, PaintScopeChangesNoPixelOfTheUpdate) {
+    Add(m_line, {{60, 60}, {130, 90}});
+    m_line.SetLineWidth(5);
+    Add(m_polyLine, {{20, 150}, {60, 180}, {100, 150}, {180, 150}});
+    m_polyLine.SetLineShapeMode(2);
+    m_line.Draw(m_surface);
+    m_polyLine.Draw(m_surface);
+    for (int y = 0; y < 200; y += 20)
+        for (int x = 0; x < 200; x += 20) {
+            Surface part(200, 200);
+            const PaintScope scope(Gdiplus::RectF(static_cast<float>(x), static_cast<float>(y), 20, 20));
+            m_line.Draw(part);
+            m_polyLine.Draw(part);
+            for (int dy = 0; dy < 20; ++dy)
+                for (int dx = 0; dx < 20; ++dx)
+                    ASSERT_EQ(part.At(x + dx, y + dy), m_surface.At(x + dx, y + dy))
+                        << x + dx << ", " << y + dy;
+        }
+}
+
+}  // namespace Lumo
