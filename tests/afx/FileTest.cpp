@@ -1,0 +1,166 @@
+// CFile on real files, CMemFile and CSharedFile.
+#include "Expect.h"
+#include "support/TemporaryFile.h"
+
+#include <afxadv.h>
+
+#include <numeric>
+#include <vector>
+
+namespace {
+
+constexpr UINT kSave = CFile::modeCreate | CFile::shareExclusive | CFile::modeReadWrite;
+constexpr UINT kLoad = CFile::modeRead | CFile::shareDenyWrite;
+
+TEST(File, WritesSeeksCutsAndReads) {
+    TemporaryFile temporary;
+    CFile file;
+    ASSERT_TRUE(file.Open(temporary.Path(), kSave));
+    EXPECT_EQ(file.GetFilePath().CompareNoCase(temporary.Path()), 0);
+    EXPECT_EQ(file.GetFileName(), temporary.Path().Mid(temporary.Path().ReverseFind(L'\\') + 1));
+    file.Write("0123456789", 10);
+    EXPECT_EQ(10u, file.GetPosition());
+    EXPECT_EQ(7u, file.Seek(-3, CFile::end));
+    char bytes[8] = {};
+    EXPECT_EQ(3u, file.Read(bytes, sizeof(bytes)));
+    EXPECT_STREQ("789", bytes);
+    file.SetLength(4);
+    EXPECT_EQ(4u, file.GetLength());
+    file.Flush();
+    file.Close();
+    EXPECT_EQ(CFile::hFileNull, file.m_hFile);
+    EXPECT_EQ("0123", temporary.Read());
+
+    ASSERT_TRUE(file.Open(temporary.Path(), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite));
+    EXPECT_EQ(4u, file.SeekToEnd());
+    file.Write("x", 1);
+    file.Close();
+    EXPECT_EQ("0123x", temporary.Read());
+    ASSERT_TRUE(file.Open(temporary.Path(), kSave));
+    EXPECT_EQ(0u, file.GetLength());
+}
+
+TEST(File, ReportsWhyItDoesNotOpen) {
+    TemporaryFile missing;
+    CFileException reason;
+    CFile file;
+    EXPECT_FALSE(file.Open(missing.Path(), kLoad, &reason));
+    EXPECT_EQ(CFileException::fileNotFound, reason.m_cause);
+    EXPECT_EQ(ERROR_FILE_NOT_FOUND, reason.m_lOsError);
+    EXPECT_EQ(reason.m_strFileName.CompareNoCase(missing.Path()), 0);
+    EXPECT_FALSE(file.Open(missing.Path() + L"\\below.cbf", kLoad, &reason));
+    EXPECT_EQ(CFileException::badPath, reason.m_cause);
+    EXPECT_FALSE(file.Open(nullptr, kLoad));
+    EXPECT_EQ(CFileException::fileNotFound,
+              CauseOf<CFileException>([&] { CFile thrown(missing.Path(), kLoad); }));
+}
+
+TEST(File, ShareModesHoldAgainstOtherOpens) {
+    TemporaryFile temporary("data");
+    const struct {
+        UINT first, second;
+        bool opens;
+    } cases[] = {
+        {CFile::modeRead | CFile::shareExclusive, CFile::modeRead | CFile::shareDenyNone, false},
+        {CFile::modeRead | CFile::shareDenyWrite, CFile::modeRead | CFile::shareDenyWrite, true},
+        {CFile::modeRead | CFile::shareDenyWrite, CFile::modeWrite | CFile::shareDenyNone, false},
+        {CFile::modeWrite | CFile::shareDenyRead, CFile::modeRead | CFile::shareDenyNone, false},
+        {CFile::modeWrite | CFile::shareDenyNone, CFile::modeReadWrite | CFile::shareDenyNone, true},
+    };
+    for (const auto& c : cases) {
+        CFile first(temporary.Path(), c.first), second;
+        CFileException reason;
+        EXPECT_EQ(c.opens, second.Open(temporary.Path(), c.second, &reason) != FALSE)
+            << c.first << ' ' << c.second;
+        EXPECT_EQ(c.opens ? CFileException::none : CFileException::sharingViolation, reason.m_cause);
+    }
+}
+
+TEST(File, RefusesWhatItCannotDo) {
+    TemporaryFile temporary("data");
+    CFile file(temporary.Path(), kLoad);
+    EXPECT_EQ(CFileException::accessDenied, CauseOf<CFileException>([&] { file.Write("x", 1); }));
+    EXPECT_EQ(CFileException::badSeek, CauseOf<CFileException>([&] { file.Seek(-1, CFile::begin); }));
+    file.Abort();
+    file.Abort();
+    EXPECT_EQ(CFileException::invalidFile, CauseOf<CFileException>([&] { file.GetLength(); }));
+    EXPECT_EQ(CFileException::invalidFile, CauseOf<CFileException>([&] { file.Write("x", 1); }));
+    EXPECT_EQ("data", temporary.Read());
+    CFile::Remove(temporary.Path());
+    EXPECT_EQ(CFileException::fileNotFound,
+              CauseOf<CFileException>([&] { CFile::Remove(temporary.Path()); }));
+}
+
+TEST(File, TakesPathsLongerThanUsual) {
+    TemporaryFile temporary;
+    const CString name(L'n', 200), prefix(L"\\\\?\\");
+    const CString folders[] = {temporary.Path(), temporary.Path() + L"\\" + name};
+    for (const CString& folder : folders)
+        ASSERT_TRUE(::CreateDirectoryW(prefix + folder, nullptr));
+    const CString path = folders[1] + L"\\" + name;
+    CFile file(path, kSave);
+    file.Write("x", 1);
+    file.Close();
+    EXPECT_TRUE(file.Open(path, kLoad));
+    file.Close();
+    CFile::Remove(path);
+    EXPECT_TRUE(::RemoveDirectoryW(prefix + folders[1]) && ::RemoveDirectoryW(prefix + folders[0]));
+}
+
+TEST(File, AWriteTheDiskRefusesIsDiskFull) {
+    CFile device;
+    if (!device.Open(L"\\\\?\\unix\\dev\\full", CFile::modeWrite | CFile::shareDenyNone))
+        GTEST_SKIP() << "no device here that is always full";
+    EXPECT_EQ(CFileException::diskFull, CauseOf<CFileException>([&] { device.Write("x", 1); }));
+}
+
+TEST(MemFile, GrowsReadsAndFillsGapsWithZeros) {
+    CMemFile file(16);
+    std::vector<BYTE> block(100);
+    std::iota(block.begin(), block.end(), BYTE(1));
+    file.Write(block.data(), UINT(block.size()));
+    file.Seek(103, CFile::begin);
+    file.Write("x", 1);
+    EXPECT_EQ(104u, file.GetLength());
+    file.Seek(98, CFile::begin);
+    BYTE bytes[10];
+    ASSERT_EQ(6u, file.Read(bytes, sizeof(bytes)));
+    EXPECT_EQ(std::vector<BYTE>({99, 100, 0, 0, 0, 'x'}), std::vector<BYTE>(bytes, bytes + 6));
+    EXPECT_EQ(0u, file.Read(bytes, sizeof(bytes)));
+    EXPECT_EQ(CFileException::badSeek, CauseOf<CFileException>([&] { file.Seek(-1, CFile::begin); }));
+
+    BYTE fixed[4] = {1, 2, 3, 4};
+    CMemFile attached(fixed, sizeof(fixed));
+    EXPECT_EQ(4u, attached.GetLength());
+    attached.SeekToEnd();
+    EXPECT_TRUE(Throws<CMemoryException>([&] { attached.Write("x", 1); }));
+}
+
+TEST(SharedFile, HandsItsGlobalMemoryOnAndTakesItBack) {
+    CSharedFile file;
+    std::vector<BYTE> block(5000, 7);
+    for (int i = 0; i < 20; ++i)
+        file.Write(block.data(), UINT(block.size()));
+    HGLOBAL memory = file.Detach();
+    ASSERT_NE(nullptr, memory);
+    EXPECT_EQ(0u, file.GetLength());
+    EXPECT_EQ(nullptr, file.Detach());
+    EXPECT_EQ(0u, ::GlobalFlags(memory) & GMEM_LOCKCOUNT);
+    // Whole steps of 4096 bytes, the rest of the last one zero.
+    ASSERT_EQ(25u * 4096, ::GlobalSize(memory));
+
+    CSharedFile reader;
+    reader.SetHandle(memory, FALSE);
+    EXPECT_EQ(25u * 4096, reader.GetLength());
+    BYTE bytes[2];
+    reader.Seek(99999, CFile::begin);
+    ASSERT_EQ(2u, reader.Read(bytes, 2));
+    EXPECT_EQ(7, bytes[0]);
+    EXPECT_EQ(0, bytes[1]);
+    reader.SeekToEnd();
+    EXPECT_TRUE(Throws<CMemoryException>([&] { reader.Write("x", 1); }));
+    reader.Close();
+    EXPECT_EQ(nullptr, ::GlobalFree(memory));
+}
+
+}  // namespace
