@@ -109,22 +109,17 @@ struct Place {
 
 Place Locate(const Text& text, std::wstring_view section, std::wstring_view key) {
     Place place;
-    bool inside = false;
+    bool inside = false, first = false;
     for (size_t i = 0; i < text.lines.size(); ++i) {
         if (const auto name = SectionOf(text.lines[i])) {
-            // Of several sections with the name the first holds new keys.
             inside = SameName(*name, section);
-            if (inside && place.sectionEnd == kNone)
-                place.sectionEnd = i + 1;
-            continue;
-        }
-        if (!inside)
-            continue;
-        if (const auto entry = EntryOf(text.lines[i]); entry && SameName(entry->key, key)) {
+            // Of several sections with the name the first one takes new keys.
+            first = inside && place.sectionEnd == kNone;
+        } else if (const auto entry = EntryOf(text.lines[i]); inside && entry && SameName(entry->key, key)) {
             place.entry = i;
             return place;
         }
-        if (place.sectionEnd == i || !Trimmed(text.lines[i]).empty())
+        if (first && !Trimmed(text.lines[i]).empty())
             place.sectionEnd = i + 1;
     }
     return place;
