@@ -1,0 +1,200 @@
+#include "studio/app/Commands.h"
+
+#include <vector>
+
+namespace Studio {
+
+using namespace Lumo;
+
+namespace {
+
+struct Command {
+    UINT id;
+    Text text;
+    WORD key;  // virtual key, 0 for none
+    BYTE modifiers;
+};
+
+constexpr BYTE kCtrl = FCONTROL;
+constexpr BYTE kShift = FSHIFT;
+
+constexpr Command kCommands[] = {
+    {ID_FILE_NEW, Text::kFileNew, 'N', kCtrl},
+    {ID_FILE_OPEN, Text::kFileOpen, 'O', kCtrl},
+    {ID_FILE_SAVE, Text::kFileSave, 'S', kCtrl},
+    {ID_FILE_SAVE_AS, Text::kFileSaveAs, 'S', kCtrl | kShift},
+    {ID_APP_EXIT, Text::kFileExit, 0, 0},
+    {ID_APP_ABOUT, Text::kHelpAbout, 0, 0},
+    {ID_DOCUMENT_LOAD, Text::kFileOpen, 0, 0},
+    {ID_DOCUMENT_SAVE, Text::kFileSave, 0, 0},
+    {ID_OBJECT_UNDO, Text::kEditUndo, 0, 0},
+    {ID_OBJECT_REDO, Text::kEditRedo, 0, 0},
+    {ID_OBJECT_CUT, Text::kEditCut, 0, 0},
+    {ID_OBJECT_COPY, Text::kEditCopy, 0, 0},
+    {ID_OBJECT_PASTE, Text::kEditPaste, 0, 0},
+    {ID_OBJECT_DELETE, Text::kEditDelete, VK_DELETE, 0},
+    {ID_PAGE_SELECT_ALL, Text::kEditSelectAll, 'A', kCtrl},
+    {ID_OBJECT_PROPERTIES, Text::kEditProperties, 0, 0},
+    {ID_MODE_DRAW, Text::kModeDraw, 0, 0},
+    {ID_MODE_POLY, Text::kModePoly, 0, 0},
+    {ID_MODE_PROPERTY, Text::kModeProperty, 0, 0},
+    {ID_MODE_RUNNING, Text::kModeRunning, 0, 0},
+    {ID_TOOL_SELECT, Text::kToolSelect, 'V', 0},
+    {ID_TOOL_RECTANGLE, Text::kToolRectangle, 'R', 0},
+    {ID_TOOL_ELLIPSE, Text::kToolEllipse, 'E', 0},
+    {ID_TOOL_LINE, Text::kToolLine, 'L', 0},
+    {ID_TOOL_POLYLINE, Text::kToolPolyline, 'P', 0},
+    {ID_TOOL_TEXTBOX, Text::kToolTextBox, 'T', 0},
+    {ID_POSITION_FORWARD, Text::kArrangeForward, 0, 0},
+    {ID_POSITION_BACKWARD, Text::kArrangeBackward, 0, 0},
+    {ID_POSITION_FRONT, Text::kArrangeFront, 0, 0},
+    {ID_POSITION_BACK, Text::kArrangeBack, 0, 0},
+    {ID_ROTATE_LEFT, Text::kArrangeRotateLeft, 0, 0},
+    {ID_ROTATE_RIGHT, Text::kArrangeRotateRight, 0, 0},
+    {ID_GROUP_MAKE, Text::kArrangeGroup, 'G', kCtrl},
+    {ID_GROUP_UNMAKE, Text::kArrangeUngroup, 'G', kCtrl | kShift},
+    {ID_ALIGN_LEFT, Text::kAlignLeft, 0, 0},
+    {ID_ALIGN_RIGHT, Text::kAlignRight, 0, 0},
+    {ID_ALIGN_TOP, Text::kAlignTop, 0, 0},
+    {ID_ALIGN_BOTTOM, Text::kAlignBottom, 0, 0},
+    {ID_ALIGN_VCENTER, Text::kAlignCentres, 0, 0},
+    {ID_ALIGN_HCENTER, Text::kAlignMiddles, 0, 0},
+    {ID_ALIGN_CENTER, Text::kAlignBoth, 0, 0},
+};
+
+// Keys of commands that stand in no menu.
+constexpr struct {
+    UINT id;
+    WORD key;
+    BYTE modifiers;
+} kHiddenKeys[] = {
+    {ID_PAGE_ESCAPE, VK_ESCAPE, 0},
+    {ID_PAGE_FINISH, VK_RETURN, 0},
+    {ID_PAGE_NUDGE_LEFT, VK_LEFT, 0},
+    {ID_PAGE_NUDGE_RIGHT, VK_RIGHT, 0},
+    {ID_PAGE_NUDGE_UP, VK_UP, 0},
+    {ID_PAGE_NUDGE_DOWN, VK_DOWN, 0},
+    {ID_PAGE_NUDGE_FAR_LEFT, VK_LEFT, kShift},
+    {ID_PAGE_NUDGE_FAR_RIGHT, VK_RIGHT, kShift},
+    {ID_PAGE_NUDGE_FAR_UP, VK_UP, kShift},
+    {ID_PAGE_NUDGE_FAR_DOWN, VK_DOWN, kShift},
+};
+
+constexpr ToolInfo kTools[] = {
+    {ID_TOOL_SELECT, DS_SELECT, Text::kToolSelect, Text::kHintSelect, L'V'},
+    {ID_TOOL_RECTANGLE, DS_RECTANGLE, Text::kToolRectangle, Text::kHintRectangle, L'R'},
+    {ID_TOOL_ELLIPSE, DS_ELLIPSE, Text::kToolEllipse, Text::kHintEllipse, L'E'},
+    {ID_TOOL_LINE, DS_LINE, Text::kToolLine, Text::kHintLine, L'L'},
+    {ID_TOOL_POLYLINE, DS_POLYLINE, Text::kToolPolyline, Text::kHintPolyline, L'P'},
+    {ID_TOOL_TEXTBOX, DS_TEXTEDIT, Text::kToolTextBox, Text::kHintTextBox, L'T'},
+};
+
+// A menu of the menu bar: its items by command, 0 for a separator.
+struct MenuLayout {
+    Text title;
+    std::vector<UINT> items;
+};
+
+std::vector<MenuLayout> MenuBarLayout() {
+    return {
+        {Text::kMenuFile, {ID_FILE_NEW, ID_FILE_OPEN, 0, ID_FILE_SAVE, ID_FILE_SAVE_AS, 0, ID_APP_EXIT}},
+        {Text::kMenuEdit, {ID_OBJECT_DELETE, 0, ID_PAGE_SELECT_ALL}},
+        {Text::kMenuMode, {ID_MODE_DRAW, ID_MODE_POLY}},
+        {Text::kMenuTools,
+         {ID_TOOL_SELECT, 0, ID_TOOL_RECTANGLE, ID_TOOL_ELLIPSE, ID_TOOL_LINE, ID_TOOL_POLYLINE,
+          ID_TOOL_TEXTBOX}},
+        {Text::kMenuArrange,
+         {ID_POSITION_FORWARD, ID_POSITION_BACKWARD, ID_POSITION_FRONT, ID_POSITION_BACK, 0, ID_ROTATE_LEFT,
+          ID_ROTATE_RIGHT, 0, ID_GROUP_MAKE, ID_GROUP_UNMAKE, 0, ID_ALIGN_LEFT, ID_ALIGN_RIGHT, ID_ALIGN_TOP,
+          ID_ALIGN_BOTTOM, ID_ALIGN_VCENTER, ID_ALIGN_HCENTER, ID_ALIGN_CENTER}},
+        {Text::kMenuHelp, {ID_APP_ABOUT}},
+    };
+}
+
+const Command* FindCommand(UINT id) {
+    for (const Command& command : kCommands) {
+        if (command.id == id)
+            return &command;
+    }
+    return nullptr;
+}
+
+CString KeyName(const Command& command) {
+    CString name;
+    if (command.modifiers & kCtrl)
+        name += L"Ctrl+";
+    if (command.modifiers & kShift)
+        name += L"Shift+";
+    if (command.key == VK_DELETE)
+        name += L"Del";
+    else
+        name += static_cast<WCHAR>(command.key);
+    return name;
+}
+
+void AppendItem(HMENU menu, UINT command) {
+    if (command)
+        ::AppendMenu(menu, MF_STRING, command, CommandText(command));
+    else
+        ::AppendMenu(menu, MF_SEPARATOR, 0, nullptr);
+}
+
+}  // namespace
+
+std::span<const ToolInfo> Tools() {
+    return kTools;
+}
+
+const ToolInfo& ToolOfKind(DrawShape kind) {
+    for (const ToolInfo& tool : kTools) {
+        if (tool.kind == kind)
+            return tool;
+    }
+    return kTools[0];
+}
+
+CString CommandText(UINT id) {
+    const Command* command = FindCommand(id);
+    CString text;
+    if (command)
+        text = GetText(command->text);
+    if (command && command->key)
+        text += L"\t" + KeyName(*command);
+    return text;
+}
+
+HMENU CreateMenuBar() {
+    HMENU bar = ::CreateMenu();
+    for (const MenuLayout& layout : MenuBarLayout()) {
+        HMENU popup = ::CreatePopupMenu();
+        for (UINT command : layout.items)
+            AppendItem(popup, command);
+        ::AppendMenu(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), GetText(layout.title));
+    }
+    return bar;
+}
+
+void TranslateMenu(HMENU menu) {
+    const int count = ::GetMenuItemCount(menu);
+    for (int item = 0; item < count; ++item) {
+        const UINT id = ::GetMenuItemID(menu, item);
+        if (FindCommand(id))
+            ::ModifyMenu(menu, item, MF_BYPOSITION | MF_STRING, id, CommandText(id));
+    }
+}
+
+HACCEL CreateAccelerators() {
+    std::vector<ACCEL> keys;
+    const auto add = [&](UINT id, WORD key, BYTE modifiers) {
+        keys.push_back({static_cast<BYTE>(FVIRTKEY | modifiers), key, static_cast<WORD>(id)});
+    };
+    for (const Command& command : kCommands) {
+        if (command.key)
+            add(command.id, command.key, command.modifiers);
+    }
+    for (const auto& hidden : kHiddenKeys)
+        add(hidden.id, hidden.key, hidden.modifiers);
+    return ::CreateAcceleratorTable(keys.data(), static_cast<int>(keys.size()));
+}
+
+}  // namespace Studio

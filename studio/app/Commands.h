@@ -1,0 +1,59 @@
+// Studio's commands: identifier, text and key of each, and the menus made of them.
+#pragma once
+
+#include "canvas/CanvasCommands.h"
+#include "core/DrawShape.h"
+#include "studio/app/Texts.h"
+
+#include <afxres.h>
+
+#include <span>
+
+namespace Studio {
+
+/// Commands on the page that the library's popup menu does not have.
+enum PageCommandId : UINT {
+    ID_PAGE_FIRST = 6601,
+    ID_TOOL_TEXTBOX = ID_PAGE_FIRST,
+    ID_PAGE_SELECT_ALL,
+    ID_PAGE_ESCAPE,
+    ID_PAGE_FINISH,
+    ID_PAGE_NUDGE_LEFT,
+    ID_PAGE_NUDGE_RIGHT,
+    ID_PAGE_NUDGE_UP,
+    ID_PAGE_NUDGE_DOWN,
+    ID_PAGE_NUDGE_FAR_LEFT,
+    ID_PAGE_NUDGE_FAR_RIGHT,
+    ID_PAGE_NUDGE_FAR_UP,
+    ID_PAGE_NUDGE_FAR_DOWN,
+    ID_PAGE_LAST = ID_PAGE_NUDGE_FAR_DOWN,
+};
+
+/// A drawing tool: command, shape kind, name, what it waits for, key.
+struct ToolInfo {
+    UINT command;
+    Lumo::DrawShape kind;
+    Text name;
+    Text hint;
+    WCHAR key;
+};
+
+/// All tools in the order of the toolbox.
+std::span<const ToolInfo> Tools();
+
+/// The tool of a shape kind; the select tool for a kind that has none.
+const ToolInfo& ToolOfKind(Lumo::DrawShape kind);
+
+/// Text of a command with its key behind a tab: "&Open...\tCtrl+O"; empty for an unknown command.
+CString CommandText(UINT command);
+
+/// A new menu bar; the caller destroys it or gives it to a window.
+HMENU CreateMenuBar();
+
+/// Gives the items of a popup menu Studio's texts; items of unknown commands keep theirs.
+void TranslateMenu(HMENU menu);
+
+/// A new accelerator table of all keys; the caller destroys it.
+HACCEL CreateAccelerators();
+
+}  // namespace Studio

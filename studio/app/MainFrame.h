@@ -1,0 +1,65 @@
+// Studio's main window: menu, toolbox, page, status bar.
+#pragma once
+
+#include "studio/app/StatusBar.h"
+#include "studio/app/Toolbox.h"
+#include "studio/document/StudioDocument.h"
+#include "studio/editing/PageTool.h"
+
+namespace Studio {
+
+/// Owns document, tools and bars; routes every command. Deletes itself with its window.
+class MainFrame : public CFrameWnd, public CanvasListener {
+public:
+    MainFrame() = default;
+    ~MainFrame() override;
+
+    /// Makes the window with a new document. False when that fails; the object deletes itself then or with
+    /// its window.
+    bool CreateFrame();
+    /// Opens a file; a refused one is reported and changes nothing.
+    void OpenPath(const CString& path);
+
+    void OnCanvasState(StudioCanvas& canvas) override;
+    void OnCanvasPointer(StudioCanvas& canvas, const CPoint* at) override;
+    void OnCanvasMenu(StudioCanvas& canvas, CPoint screen) override;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
+    afx_msg void OnFileSave();
+    afx_msg void OnFileSaveAs();
+    afx_msg void OnExit();
+    afx_msg void OnAbout();
+    afx_msg void OnPageCommand(UINT command);
+    afx_msg void OnUpdatePageCommand(CCmdUI* ui);
+
+private:
+    StudioCanvas* Page() { return m_document ? m_document->CurrentPage() : nullptr; }
+    CString FileName() const;
+    bool AskForPath(bool open, CString& path);
+    bool SaveTo(CString path);
+    bool SaveDocument();
+    bool MayDiscard();
+    void FinishEditing();
+    void ShowPage();
+    void LayOut();
+    void RefreshTitle();
+    void RefreshStatus();
+    CString SelectionText();
+
+    PageTools m_tools;
+    Toolbox m_toolbox;
+    StatusBar m_status;
+    StudioDocument* m_document = nullptr;
+    HACCEL m_keys = nullptr;
+    CString m_title;
+};
+
+}  // namespace Studio

@@ -1,0 +1,174 @@
+#include "studio/app/PageCommands.h"
+
+#include "studio/app/Commands.h"
+#include "studio/editing/PageEdits.h"
+#include "studio/editing/PageTool.h"
+
+#include <optional>
+
+namespace Studio {
+
+using namespace Lumo;
+
+namespace {
+
+constexpr int kFarStep = 10;
+
+struct AlignmentCommand {
+    UINT command;
+    Alignment how;
+};
+
+constexpr AlignmentCommand kAlignments[] = {
+    {ID_ALIGN_LEFT, Alignment::kLeft},       {ID_ALIGN_RIGHT, Alignment::kRight},
+    {ID_ALIGN_TOP, Alignment::kTop},         {ID_ALIGN_BOTTOM, Alignment::kBottom},
+    {ID_ALIGN_VCENTER, Alignment::kCentres}, {ID_ALIGN_HCENTER, Alignment::kMiddles},
+    {ID_ALIGN_CENTER, Alignment::kBoth},
+};
+
+struct NudgeCommand {
+    UINT command;
+    int dx, dy;
+};
+
+constexpr NudgeCommand kNudges[] = {
+    {ID_PAGE_NUDGE_LEFT, -1, 0},
+    {ID_PAGE_NUDGE_RIGHT, 1, 0},
+    {ID_PAGE_NUDGE_UP, 0, -1},
+    {ID_PAGE_NUDGE_DOWN, 0, 1},
+    {ID_PAGE_NUDGE_FAR_LEFT, -kFarStep, 0},
+    {ID_PAGE_NUDGE_FAR_RIGHT, kFarStep, 0},
+    {ID_PAGE_NUDGE_FAR_UP, 0, -kFarStep},
+    {ID_PAGE_NUDGE_FAR_DOWN, 0, kFarStep},
+};
+
+const ToolInfo* ToolOfCommand(UINT command) {
+    for (const ToolInfo& tool : Tools()) {
+        if (tool.command == command)
+            return &tool;
+    }
+    return nullptr;
+}
+
+std::optional<Alignment> AlignmentOf(UINT command) {
+    for (const auto& row : kAlignments) {
+        if (row.command == command)
+            return row.how;
+    }
+    return std::nullopt;
+}
+
+std::optional<Stacking> StackingOf(UINT command) {
+    switch (command) {
+        case ID_POSITION_FORWARD:
+            return Stacking::kForward;
+        case ID_POSITION_BACKWARD:
+            return Stacking::kBackward;
+        case ID_POSITION_FRONT:
+            return Stacking::kFront;
+        case ID_POSITION_BACK:
+            return Stacking::kBack;
+        default:
+            return std::nullopt;
+    }
+}
+
+// The key that leaves things: first the gesture, then the tool, then the selection.
+void Escape(StudioCanvas& page) {
+    if (page.CancelGesture())
+        return;
+    if (CUIToolBase::run_drawshape != DS_SELECT)
+        ChooseTool(page, DS_SELECT);
+    else
+        page.Select(nullptr, 0);
+}
+
+// Points mode draws points: it wants a tool that does.
+void EnterPolyMode(StudioCanvas& page) {
+    if (IsFigureTool(CUIToolBase::run_drawshape))
+        page.OnModePoly();
+    else
+        ChooseTool(page, DS_POLYLINE);
+}
+
+void EnterDrawMode(StudioCanvas& page) {
+    if (IsFigureTool(CUIToolBase::run_drawshape))
+        ChooseTool(page, DS_SELECT);
+    else
+        page.OnModeDraw();
+}
+
+void Nudge(StudioCanvas& page, UINT command) {
+    for (const auto& row : kNudges) {
+        if (row.command == command)
+            NudgeSelection(page, row.dx, row.dy);
+    }
+}
+
+}  // namespace
+
+bool IsPageCommandEnabled(StudioCanvas& page, UINT command) {
+    if (ToolOfCommand(command) || command == ID_MODE_DRAW || command == ID_MODE_POLY)
+        return true;
+    if (AlignmentOf(command))
+        return page.m_selection.size() >= 2;
+    if (StackingOf(command))
+        return !page.m_selection.empty();
+    switch (command) {
+        case ID_ROTATE_LEFT:
+        case ID_ROTATE_RIGHT:
+        case ID_OBJECT_DELETE:
+            return !page.m_selection.empty();
+        case ID_GROUP_MAKE:
+            return CanGroup(page);
+        case ID_GROUP_UNMAKE:
+            return CanUngroup(page);
+        case ID_PAGE_SELECT_ALL:
+            return page.Objects() && !page.Objects()->empty();
+        default:
+            return command >= ID_PAGE_FIRST && command <= ID_PAGE_LAST;
+    }
+}
+
+bool IsPageCommandChecked(StudioCanvas& page, UINT command) {
+    if (const ToolInfo* tool = ToolOfCommand(command))
+        return tool->kind == CUIToolBase::run_drawshape;
+    return (command == ID_MODE_DRAW && page.m_nMode == CM_DRAW) ||
+           (command == ID_MODE_POLY && page.m_nMode == CM_POLY);
+}
+
+void RunPageCommand(StudioCanvas& page, UINT command) {
+    if (command == ID_PAGE_ESCAPE) {
+        Escape(page);
+        page.NotifyState();
+        return;
+    }
+    page.FinishEditing();
+    if (!IsPageCommandEnabled(page, command))
+        return;
+    if (const ToolInfo* tool = ToolOfCommand(command))
+        ChooseTool(page, tool->kind);
+    else if (const auto alignment = AlignmentOf(command))
+        AlignSelection(page, *alignment);
+    else if (const auto stacking = StackingOf(command))
+        RestackSelection(page, *stacking);
+    else if (command == ID_ROTATE_LEFT || command == ID_ROTATE_RIGHT)
+        RotateSelection(page, command == ID_ROTATE_RIGHT);
+    else if (command == ID_GROUP_MAKE)
+        GroupSelection(page);
+    else if (command == ID_GROUP_UNMAKE)
+        UngroupSelection(page);
+    else if (command == ID_OBJECT_DELETE)
+        DeleteSelection(page);
+    else if (command == ID_PAGE_SELECT_ALL)
+        SelectAll(page);
+    else if (command == ID_MODE_DRAW)
+        EnterDrawMode(page);
+    else if (command == ID_MODE_POLY)
+        EnterPolyMode(page);
+    else
+        Nudge(page, command);
+    page.NotifyState();
+}
+
+}  // namespace Studio

@@ -1,0 +1,133 @@
+#include "studio/document/ObjectArchive.h"
+
+#include "core/UIObjectPoly.h"
+#include "studio/editing/GroupObject.h"
+
+#include <cmath>
+
+namespace Studio {
+
+using Gdiplus::PointF;
+using Lumo::CUIObject;
+using Lumo::CUIObjectPoly;
+
+namespace {
+
+constexpr int kMaxDepth = 64;
+constexpr int kMaxPoints = 65536;
+// Far beyond any screen, and far from where float arithmetic or the graphics library would fail.
+constexpr float kMaxCoordinate = 1.0e6f;
+constexpr float kMaxStroke = 1.0e4f;
+
+void Require(bool sound, Text reason = Text::kFaultContent) {
+    if (!sound)
+        throw FileFault{reason};
+}
+
+bool Within(float value, float limit) {
+    return std::isfinite(value) && std::fabs(value) <= limit;
+}
+
+void StoreAt(CArchive& ar, CUIObject& object, int depth);
+ObjectPtr LoadAt(CArchive& ar, int depth);
+
+void StoreExtras(CArchive& ar, const CUIObject& object) {
+    ar << object.GetRemoved() << object.GetRectMode() << object.GetTextAlignment() << object.GetTextUnit()
+       << object.GetLineAlignment();
+}
+
+void LoadExtras(CArchive& ar, CUIObject& object) {
+    int removed, rectMode, textAlignment, textUnit, lineAlignment;
+    ar >> removed >> rectMode >> textAlignment >> textUnit >> lineAlignment;
+    object.SetRemoved(removed != 0);
+    object.SetRectMode(rectMode != 0);
+    object.SetTextAlignment(textAlignment);
+    object.SetTextUnit(textUnit);
+    object.SetLineAlignment(lineAlignment);
+}
+
+void StorePoints(CArchive& ar, CUIObjectPoly& poly) {
+    const auto& points = *poly.NormalizePoints();
+    ar << poly.GetMaxPoints() << static_cast<DWORD>(points.size());
+    for (const PointF& point : points)
+        ar << point.X << point.Y;
+}
+
+void LoadPoints(CArchive& ar, CUIObjectPoly& poly) {
+    int most;
+    DWORD count;
+    ar >> most >> count;
+    Require(most >= 2 && most <= kMaxPoints && count <= static_cast<DWORD>(most));
+    poly.SetMaxPoints(most);
+    // The record's position stays as it was stored: the points are set without recalculating it.
+    auto& points = *poly.NewPoints(0);
+    for (DWORD i = 0; i < count; ++i) {
+        PointF point;
+        ar >> point.X >> point.Y;
+        Require(Within(point.X, kMaxCoordinate) && Within(point.Y, kMaxCoordinate));
+        points.push_back(point);
+    }
+}
+
+void StoreChildren(CArchive& ar, const GroupObject& group, int depth) {
+    ar << static_cast<DWORD>(group.GetChildren().size());
+    for (CUIObject* child : group.GetChildren())
+        StoreAt(ar, *child, depth + 1);
+}
+
+void LoadChildren(CArchive& ar, GroupObject& group, int depth) {
+    DWORD count;
+    ar >> count;
+    for (DWORD i = 0; i < count; ++i)
+        group.AdoptStored(LoadAt(ar, depth + 1).release());
+}
+
+void CheckRecord(CUIObject& object, ObjectClass objectClass) {
+    const Gdiplus::RectF bounds = object.GetPosition();
+    Require(object.GetDrawShape() == KindOf(objectClass));
+    Require(Within(bounds.X, kMaxCoordinate) && Within(bounds.Y, kMaxCoordinate) &&
+            Within(bounds.Width, kMaxCoordinate) && Within(bounds.Height, kMaxCoordinate));
+    Require(Within(object.GetLineWidth(), kMaxStroke) && Within(object.GetTextFontSize(), kMaxStroke));
+}
+
+void StoreAt(CArchive& ar, CUIObject& object, int depth) {
+    const ObjectClass objectClass = ClassOf(object);
+    Require(objectClass != ObjectClass::kNone, Text::kFaultClass);
+    Require(depth < kMaxDepth, Text::kFaultDepth);
+    ar << static_cast<DWORD>(objectClass);
+    object.Serialize(ar);
+    StoreExtras(ar, object);
+    if (auto* poly = dynamic_cast<CUIObjectPoly*>(&object))
+        StorePoints(ar, *poly);
+    else if (auto* group = dynamic_cast<GroupObject*>(&object))
+        StoreChildren(ar, *group, depth);
+}
+
+ObjectPtr LoadAt(CArchive& ar, int depth) {
+    Require(depth < kMaxDepth, Text::kFaultDepth);
+    DWORD code;
+    ar >> code;
+    const auto objectClass = static_cast<ObjectClass>(code);
+    ObjectPtr object = MakeObject(objectClass);
+    Require(object != nullptr);
+    object->Serialize(ar);
+    CheckRecord(*object, objectClass);
+    LoadExtras(ar, *object);
+    if (auto* poly = dynamic_cast<CUIObjectPoly*>(object.get()))
+        LoadPoints(ar, *poly);
+    else if (auto* group = dynamic_cast<GroupObject*>(object.get()))
+        LoadChildren(ar, *group, depth);
+    return object;
+}
+
+}  // namespace
+
+void StoreObject(CArchive& ar, CUIObject& object) {
+    StoreAt(ar, object, 0);
+}
+
+ObjectPtr LoadObject(CArchive& ar) {
+    return LoadAt(ar, 0);
+}
+
+}  // namespace Studio

@@ -1,0 +1,23 @@
+// One object in an archive, with everything that the library's own record leaves out.
+#pragma once
+
+#include "studio/app/Texts.h"
+#include "studio/editing/ObjectFactory.h"
+
+namespace Studio {
+
+/// Thrown when a file cannot be what it claims to be, or an object cannot be stored; says why.
+struct FileFault {
+    Text reason;
+};
+
+/// Writes class, the library's record, removed mark, the values that the record does not keep (text alignment
+/// and unit, pen alignment, rectangle mode, most points, points) and the children of a group. Raises the
+/// archive's exceptions and `FileFault`.
+void StoreObject(CArchive& ar, Lumo::CUIObject& object);
+
+/// Reads an object into a new one. Takes no more memory than the bytes that are there justify. Raises the
+/// archive's exceptions and `FileFault`.
+ObjectPtr LoadObject(CArchive& ar);
+
+}  // namespace Studio

@@ -1,0 +1,97 @@
+#include "studio/editing/GroupObject.h"
+
+#include "core/Geometry.h"
+#include "core/GraphicsStateScope.h"
+#include "core/PaintScope.h"
+#include "core/UIObjectPoly.h"
+#include "studio/editing/Geometry.h"
+
+namespace Studio {
+
+using Gdiplus::PointF;
+using Gdiplus::RectF;
+using Lumo::CUIObject;
+
+namespace {
+
+const RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
+
+// The library moves the rectangle of a child; a line's points have to follow.
+void ShiftPointsOnly(CUIObject& object, float dx, float dy) {
+    if (auto* poly = dynamic_cast<Lumo::CUIObjectPoly*>(&object)) {
+        for (PointF& point : *poly->NormalizePoints())
+            point = point + PointF(dx, dy);
+    }
+}
+
+}  // namespace
+
+GroupObject::GroupObject() {
+    RectF none(0.0f, 0.0f, 0.0f, 0.0f);
+    Init(Lumo::DS_GROUP, none);
+}
+
+void GroupObject::AdoptAll(const std::deque<CUIObject*>& objects) {
+    if (objects.empty())
+        return;
+    RectF bounds = Lumo::Normalised(objects.front()->GetPosition());
+    for (CUIObject* object : objects)
+        bounds = United(bounds, Lumo::Normalised(object->GetPosition()));
+    PutBounds(*this, bounds);
+    SetInitialSize(bounds);
+    for (CUIObject* object : objects)
+        MakeGroup(object);
+}
+
+void GroupObject::AdoptStored(CUIObject* child) {
+    AppendChild(child);
+    m_bGrouped = TRUE;
+}
+
+void GroupObject::Draw(Gdiplus::Graphics* g) {
+    const RectF group = GetPosition();
+    Lumo::GraphicsStateScope state(*g);
+    g->TranslateTransform(group.X, group.Y);
+    for (CUIObject* child : GetChildren()) {
+        RectF bounds = Lumo::Normalised(child->GetPosition());
+        bounds.Offset(group.X, group.Y);
+        if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, PaintMargin(*child))))
+            continue;
+        // The child asks the scope in its own coordinates; it has just been asked in the page's.
+        Lumo::PaintScope all(kEverywhere);
+        child->Draw(g);
+    }
+}
+
+BOOL GroupObject::HitTest(RectF& rect) {
+    const RectF group = GetPosition();
+    for (CUIObject* child : GetChildren()) {
+        RectF local(rect.X - group.X, rect.Y - group.Y, rect.Width, rect.Height);
+        if (child->HitTest(local))
+            return TRUE;
+    }
+    return FALSE;
+}
+
+void GroupObject::Serialize(CArchive& ar) {
+    CUIObject::Serialize(ar);
+}
+
+void GroupObject::MakeGroup(CUIObject* child) {
+    const size_t before = GetChildren().size();
+    CUIObjectList::MakeGroup(child);
+    const RectF group = GetPosition();
+    if (GetChildren().size() > before)
+        ShiftPointsOnly(*child, -group.X, -group.Y);
+}
+
+void GroupObject::MakeUnGroup(std::deque<CUIObject*>* out) {
+    const RectF group = GetPosition();
+    if (out) {
+        for (CUIObject* child : GetChildren())
+            ShiftPointsOnly(*child, group.X, group.Y);
+    }
+    CUIObjectList::MakeUnGroup(out);
+}
+
+}  // namespace Studio

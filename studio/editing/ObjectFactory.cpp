@@ -1,0 +1,155 @@
+#include "studio/editing/ObjectFactory.h"
+
+#include "appearance/UIObjectRectangle.h"
+#include "core/UIDocument.h"
+#include "core/UIObjectPoly.h"
+#include "studio/editing/GroupObject.h"
+#include "studio/editing/TextBox.h"
+
+namespace Studio {
+
+using Gdiplus::RectF;
+using Lumo::CUIObject;
+
+namespace {
+
+struct Style {
+    DWORD fill;
+    float fillAlpha;
+    DWORD line;
+    float lineWidth;
+};
+
+// Muted colours that stay readable on the black page; the caption lies under the fill, so the fill is thin.
+constexpr Style kShape = {0x483E7BFA, 72.0f, 0xFF7FB0FF, 2.0f};
+constexpr Style kFigure = {0x483E7BFA, 72.0f, 0xFFFFC46B, 2.0f};
+// The line class triples its width.
+constexpr Style kLine = {0x483E7BFA, 72.0f, 0xFFFFC46B, 1.0f};
+constexpr Style kTextBox = {0x20FFFFFF, 32.0f, 0x70FFFFFF, 1.0f};
+
+constexpr DWORD kTextColor = 0xFFF2F5FA;
+constexpr float kFontSize = 15.0f;
+
+const Style& StyleOf(ObjectClass objectClass) {
+    switch (objectClass) {
+        case ObjectClass::kLine:
+            return kLine;
+        case ObjectClass::kPolyLine:
+            return kFigure;
+        case ObjectClass::kTextBox:
+            return kTextBox;
+        default:
+            return kShape;
+    }
+}
+
+void ApplyStyle(CUIObject& object, ObjectClass objectClass) {
+    const Style& style = StyleOf(objectClass);
+    object.SetFillColor(style.fill);
+    object.SetFillAlpha(style.fillAlpha);
+    object.SetLineColor(style.line);
+    object.SetLineAlpha(static_cast<float>(style.line >> 24));
+    object.SetLineShapeMode(2);
+    object.SetLineWidth(style.lineWidth);
+    object.SetLineStartCap(Gdiplus::LineCapRound);
+    object.SetLineEndCap(Gdiplus::LineCapRound);
+    object.SetTextColor(kTextColor);
+    object.SetTextFontSize(kFontSize);
+    object.SetRotateAngle(0.0f);
+}
+
+ObjectClass ClassOfKind(Lumo::DrawShape kind) {
+    switch (kind) {
+        case Lumo::DS_RECTANGLE:
+            return ObjectClass::kRectangle;
+        case Lumo::DS_ELLIPSE:
+            return ObjectClass::kEllipse;
+        case Lumo::DS_TEXTEDIT:
+            return ObjectClass::kTextBox;
+        case Lumo::DS_LINE:
+            return ObjectClass::kLine;
+        case Lumo::DS_POLYLINE:
+            return ObjectClass::kPolyLine;
+        default:
+            return ObjectClass::kNone;
+    }
+}
+
+}  // namespace
+
+void ReleaseObject(CUIObject* object) {
+    if (!object)
+        return;
+    // A group's Release keeps the group itself; the document's own way of clearing a list ends both kinds.
+    Lumo::CUIDocument loose;
+    Lumo::CUIObjectDeque doomed{object};
+    loose.ClearObject(&doomed);
+}
+
+ObjectClass ClassOf(const CUIObject& object) {
+    if (dynamic_cast<const Lumo::CUIObjectRectangle*>(&object))
+        return ObjectClass::kRectangle;
+    if (dynamic_cast<const Lumo::CUIObjectEllipse*>(&object))
+        return ObjectClass::kEllipse;
+    if (dynamic_cast<const TextBox*>(&object))
+        return ObjectClass::kTextBox;
+    if (dynamic_cast<const Lumo::CUIObjectLine*>(&object))
+        return ObjectClass::kLine;
+    if (dynamic_cast<const Lumo::CUIObjectPolyLine*>(&object))
+        return ObjectClass::kPolyLine;
+    if (dynamic_cast<const GroupObject*>(&object))
+        return ObjectClass::kGroup;
+    return ObjectClass::kNone;
+}
+
+ObjectPtr MakeObject(ObjectClass objectClass) {
+    RectF none(0.0f, 0.0f, 0.0f, 0.0f);
+    const Lumo::DrawShape kind = KindOf(objectClass);
+    switch (objectClass) {
+        case ObjectClass::kRectangle:
+            return ObjectPtr(new Lumo::CUIObjectRectangle(none, kind));
+        case ObjectClass::kEllipse:
+            return ObjectPtr(new Lumo::CUIObjectEllipse(none, kind));
+        case ObjectClass::kTextBox:
+            return ObjectPtr(new TextBox(none));
+        case ObjectClass::kLine:
+            return ObjectPtr(new Lumo::CUIObjectLine(none, kind));
+        case ObjectClass::kPolyLine:
+            return ObjectPtr(new Lumo::CUIObjectPolyLine(none, kind));
+        case ObjectClass::kGroup:
+            return ObjectPtr(new GroupObject);
+        default:
+            return nullptr;
+    }
+}
+
+Lumo::DrawShape KindOf(ObjectClass objectClass) {
+    switch (objectClass) {
+        case ObjectClass::kRectangle:
+            return Lumo::DS_RECTANGLE;
+        case ObjectClass::kEllipse:
+            return Lumo::DS_ELLIPSE;
+        case ObjectClass::kTextBox:
+            return Lumo::DS_TEXTEDIT;
+        case ObjectClass::kLine:
+            return Lumo::DS_LINE;
+        case ObjectClass::kPolyLine:
+            return Lumo::DS_POLYLINE;
+        case ObjectClass::kGroup:
+            return Lumo::DS_GROUP;
+        default:
+            return Lumo::DS_UNKNOWN;
+    }
+}
+
+ObjectPtr MakeDrawnObject(Lumo::DrawShape kind, const RectF& rect) {
+    const ObjectClass objectClass = ClassOfKind(kind);
+    ObjectPtr object = MakeObject(objectClass);
+    if (object) {
+        object->SetPosition(rect);
+        ApplyStyle(*object, objectClass);
+    }
+    return object;
+}
+
+}  // namespace Studio

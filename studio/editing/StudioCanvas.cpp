@@ -1,0 +1,319 @@
+#include "studio/editing/StudioCanvas.h"
+
+#include "behaviour/UIObjectTextEdit.h"
+#include "canvas/UIEdit.h"
+#include "canvas/UITool.h"
+#include "core/Geometry.h"
+#include "studio/editing/Geometry.h"
+#include "studio/editing/PageTool.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Studio {
+
+using Gdiplus::RectF;
+using Lumo::CUICanvas;
+using Lumo::CUIObject;
+using Lumo::CUIToolBase;
+
+BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
+    ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_MOUSEMOVE()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_MOUSELEAVE()
+    ON_WM_SETCURSOR()
+    ON_MESSAGE(WM_PARENTNOTIFY, &StudioCanvas::OnParentNotify)
+END_MESSAGE_MAP()
+
+StudioCanvas::StudioCanvas(Lumo::CUIDocument& document, CanvasListener& listener)
+    : CUICanvas(&document), m_listener(listener) {}
+
+StudioCanvas::~StudioCanvas() {
+    m_gesture.reset();
+    if (m_hWnd)
+        DestroyWindow();
+}
+
+bool StudioCanvas::CreatePage(CWnd& parent) {
+    // A canvas that is created sets the drawing tool to the line.
+    const Lumo::DrawShape tool = CUIToolBase::run_drawshape;
+    const LPCWSTR windowClass =
+        AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursor(nullptr, IDC_ARROW));
+    const BOOL made = CreateEx(0, windowClass, L"Canvas", WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
+                               CRect(0, 0, 0, 0), &parent, 0);
+    CUIToolBase::run_drawshape = tool;
+    return made != FALSE;
+}
+
+void StudioCanvas::Begin(std::unique_ptr<Gesture> gesture) {
+    EndGesture();
+    m_gesture = std::move(gesture);
+    SetCapture();
+}
+
+void StudioCanvas::FeedPress(CPoint at, UINT flags) {
+    if (!m_gesture)
+        return;
+    SetCapture();
+    if (m_gesture->Press(at, flags))
+        DropCapture();
+}
+
+void StudioCanvas::FeedDoubleClick(CPoint at, UINT flags) {
+    if (m_gesture && m_gesture->DoubleClick(at, flags))
+        DropCapture();
+}
+
+void StudioCanvas::FeedRelease(CPoint at, UINT flags) {
+    if (!m_gesture)
+        return;
+    if (m_gesture->Release(at, flags))
+        DropCapture();
+    else if (m_gesture->SpansPresses() && GetCapture() == this)
+        ReleaseCapture();
+}
+
+void StudioCanvas::DropCapture() {
+    // The gesture goes first: releasing the capture reports a lost one.
+    m_gesture.reset();
+    if (GetCapture() == this)
+        ReleaseCapture();
+}
+
+void StudioCanvas::EndGesture() {
+    if (const auto gesture = std::move(m_gesture)) {
+        if (GetCapture() == this)
+            ReleaseCapture();
+        gesture->Finish();
+    }
+}
+
+void StudioCanvas::FinishEditing() {
+    EndGesture();
+    EndTextEdit();
+    NotifyState();
+}
+
+bool StudioCanvas::CancelGesture() {
+    const auto gesture = std::move(m_gesture);
+    if (!gesture)
+        return false;
+    if (GetCapture() == this)
+        ReleaseCapture();
+    gesture->Cancel();
+    NotifyState();
+    return true;
+}
+
+void StudioCanvas::BeginTextEdit(Lumo::CUIObjectTextEdit& object) {
+    EndTextEdit();
+    m_edited = &object;
+    m_textBefore = object.GetText();
+    EditText(&object);
+    if (!m_pEdit)
+        return;
+    LOGFONT font = {};
+    font.lfHeight = -std::clamp(Lumo::RoundToInt(object.GetTextFontSize()), 10, 72);
+    font.lfCharSet = DEFAULT_CHARSET;
+    ::lstrcpyn(font.lfFaceName, object.GetTextFontName(), LF_FACESIZE);
+    m_pEdit->ChangeFont(font);
+    m_pEdit->ReSize();
+}
+
+void StudioCanvas::EndTextEdit() {
+    if (!m_pEdit)
+        return;
+    m_pEdit->SaveText();
+    EditText(nullptr);
+}
+
+// The editor has gone, by whatever key or command: its text may have changed.
+LRESULT StudioCanvas::OnParentNotify(WPARAM event, LPARAM) {
+    if (LOWORD(event) == WM_DESTROY && m_edited) {
+        const auto* objects = Objects();
+        CUIObject* edited = std::exchange(m_edited, nullptr);
+        if (objects && std::find(objects->begin(), objects->end(), edited) != objects->end()) {
+            InvalidateObject(edited);
+            if (edited->GetText() != m_textBefore)
+                MarkModified();
+        }
+    }
+    return Default();
+}
+
+void StudioCanvas::AddObject(CUIObject* object) {
+    object->SetDocument(m_pDocument);
+    object->SetCanvas(this);
+    m_pDocument->AppendObject(object, this);
+    m_pDocument->SetShapeName(object);
+    // Selecting alone leaves points mode; a figure that begins must not.
+    const int mode = m_nMode;
+    Select(object, 0);
+    m_nMode = mode;
+}
+
+void StudioCanvas::SelectOnly(const Lumo::CUIObjectDeque& objects) {
+    InvalidateAll(m_selection);
+    m_selection.assign(objects.rbegin(), objects.rend());
+    InvalidateAll(m_selection);
+}
+
+void StudioCanvas::InvalidatePage(const RectF& rect) {
+    RectF page = rect;
+    CRect client = Lumo::RectAtlFromGdi(page);
+    DocToClient(client);
+    client.InflateRect(1, 1);
+    InvalidateRect(client, FALSE);
+}
+
+void StudioCanvas::InvalidateObject(CUIObject* object) {
+    if (object)
+        InvalidatePage(Lumo::Inflated(Lumo::Normalised(object->GetPosition()), PaintMargin(*object)));
+}
+
+void StudioCanvas::InvalidateAll(const Lumo::CUIObjectDeque& objects) {
+    constexpr size_t kFew = 8;
+    if (objects.size() <= kFew) {
+        for (CUIObject* object : objects)
+            InvalidateObject(object);
+        return;
+    }
+    const auto painted = [](CUIObject& object) {
+        return Lumo::Inflated(Lumo::Normalised(object.GetPosition()), PaintMargin(object));
+    };
+    RectF all = painted(*objects.front());
+    for (CUIObject* object : objects)
+        all = United(all, painted(*object));
+    InvalidatePage(all);
+}
+
+void StudioCanvas::ShowBand(CPoint from, CPoint to) {
+    // What the press repainted has to be on the screen before the band is inverted over it.
+    UpdateWindow();
+    HideBand();
+    m_bandFrom = from;
+    m_bandTo = to;
+    m_band = true;
+    CUIToolBase::FocusRect(this, from, to);
+}
+
+void StudioCanvas::HideBand() {
+    if (std::exchange(m_band, false)) {
+        UpdateWindow();
+        CUIToolBase::FocusRect(this, m_bandFrom, m_bandTo);
+    }
+}
+
+void StudioCanvas::OnPaint() {
+    if (!m_band) {
+        CUICanvas::OnPaint();
+        return;
+    }
+    // The paint wipes the band inside the update region only; inverting it there again makes it whole.
+    CRgn painted;
+    painted.CreateRectRgn(0, 0, 0, 0);
+    ::GetUpdateRgn(m_hWnd, painted, FALSE);
+    CUICanvas::OnPaint();
+    CRect band(m_bandFrom, m_bandTo);
+    DocToClient(band);
+    CClientDC dc(this);
+    ::SelectClipRgn(dc, painted);
+    dc.DrawFocusRect(band);
+}
+
+void StudioCanvas::MarkModified() {
+    m_pDocument->SetModifiedFlag(1);
+    NotifyState();
+}
+
+void StudioCanvas::OnLButtonDown(UINT flags, CPoint point) {
+    EndTextEdit();
+    SetFocus();
+    CUICanvas::OnLButtonDown(flags, point);
+    NotifyState();
+}
+
+void StudioCanvas::OnLButtonUp(UINT flags, CPoint point) {
+    CUICanvas::OnLButtonUp(flags, point);
+    NotifyState();
+}
+
+void StudioCanvas::OnLButtonDblClk(UINT flags, CPoint point) {
+    CUICanvas::OnLButtonDblClk(flags, point);
+    NotifyState();
+}
+
+void StudioCanvas::OnMouseMove(UINT flags, CPoint point) {
+    CUICanvas::OnMouseMove(flags, point);
+    TrackPointer(point);
+    if (m_gesture)
+        NotifyState();
+}
+
+void StudioCanvas::TrackPointer(CPoint at) {
+    if (!m_trackingLeave) {
+        TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, m_hWnd, 0};
+        m_trackingLeave = ::TrackMouseEvent(&track) != FALSE;
+    }
+    ClientToDoc(at);
+    m_listener.OnCanvasPointer(*this, &at);
+}
+
+void StudioCanvas::OnMouseLeave() {
+    m_trackingLeave = false;
+    m_listener.OnCanvasPointer(*this, nullptr);
+}
+
+void StudioCanvas::OnRButtonDown(UINT flags, CPoint point) {
+    EndTextEdit();
+    SetFocus();
+    m_swallowRightUp = m_gesture != nullptr;
+    if (m_gesture && m_gesture->SpansPresses())
+        EndGesture();
+    else if (m_gesture)
+        CancelGesture();
+    else
+        SelectForMenu(point);
+    CUICanvas::OnRButtonDown(flags, point);
+    NotifyState();
+}
+
+// The menu is about what lies under the pointer.
+void StudioCanvas::SelectForMenu(CPoint at) {
+    ClientToDoc(at);
+    CUIObject* object = m_pDocument->ObjectAt(at);
+    if (!object || !IsSelected(object))
+        Select(object, 0);
+}
+
+void StudioCanvas::OnRButtonUp(UINT, CPoint point) {
+    if (std::exchange(m_swallowRightUp, false))
+        return;
+    ClientToScreen(&point);
+    m_listener.OnCanvasMenu(*this, point);
+}
+
+void StudioCanvas::OnCaptureChanged(CWnd* window) {
+    if (window != this && m_gesture && !m_gesture->SpansPresses())
+        CancelGesture();
+}
+
+BOOL StudioCanvas::OnSetCursor(CWnd* window, UINT hit, UINT message) {
+    if (hit != HTCLIENT || window != this)
+        return CUICanvas::OnSetCursor(window, hit, message);
+    CPoint at;
+    ::GetCursorPos(&at);
+    ScreenToClient(&at);
+    ClientToDoc(at);
+    const auto* tool = dynamic_cast<PageTool*>(CUIToolBase::FindTool(CUIToolBase::run_drawshape));
+    ::SetCursor(tool ? tool->CursorAt(*this, at) : ::LoadCursor(nullptr, IDC_ARROW));
+    return TRUE;
+}
+
+}  // namespace Studio

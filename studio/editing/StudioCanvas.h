@@ -1,0 +1,113 @@
+// Studio's canvas: gestures that can be cancelled, no stuck capture, a selection band that survives a
+// repaint.
+#pragma once
+
+#include "canvas/UICanvas.h"
+#include "core/UIDocument.h"
+#include "studio/editing/Gesture.h"
+
+#include <memory>
+
+namespace Studio {
+
+class StudioCanvas;
+
+/// What a canvas tells its host.
+class CanvasListener {
+public:
+    virtual ~CanvasListener() = default;
+    /// Selection, drawing tool, mode, the selected object or the modified flag may have changed.
+    virtual void OnCanvasState(StudioCanvas& canvas) = 0;
+    /// The pointer is at `at` (page units), or has left (null).
+    virtual void OnCanvasPointer(StudioCanvas& canvas, const CPoint* at) = 0;
+    /// The right button asks for the menu at `screen`.
+    virtual void OnCanvasMenu(StudioCanvas& canvas, CPoint screen) = 0;
+};
+
+/// A page window. Made hidden by the document, shown by the frame.
+class StudioCanvas : public Lumo::CUICanvas {
+public:
+    /// Neither document nor listener is owned; both outlive the canvas.
+    StudioCanvas(Lumo::CUIDocument& document, CanvasListener& listener);
+    ~StudioCanvas() override;
+
+    /// Makes the hidden window as a child of `parent`. The current drawing tool stays. False when that fails.
+    bool CreatePage(CWnd& parent);
+
+    Lumo::CUIDocument& Document() const { return *m_pDocument; }
+    /// This page's objects in drawing order; null before the page belongs to the document.
+    Lumo::CUIObjectDeque* Objects() const {
+        return m_pDocument->GetCanvasObjectList(const_cast<StudioCanvas*>(this));
+    }
+
+    /// Starts a gesture with the mouse captured; one that is going on is finished first.
+    void Begin(std::unique_ptr<Gesture> gesture);
+    /// The gesture that is going on, or null.
+    Gesture* CurrentGesture() const { return m_gesture.get(); }
+    /// Feeds a button or move to the gesture that is going on.
+    void FeedPress(CPoint at, UINT flags);
+    void FeedDoubleClick(CPoint at, UINT flags);
+    void FeedRelease(CPoint at, UINT flags);
+    /// Ends the gesture with what is done, and an open editor with its text: to be called before any command.
+    void FinishEditing();
+    /// Undoes the gesture that is going on; false when there was none.
+    bool CancelGesture();
+
+    /// Opens the in-place editor over a text object.
+    void BeginTextEdit(Lumo::CUIObjectTextEdit& object);
+    /// Stores the text of an open editor and closes it.
+    void EndTextEdit();
+
+    /// Puts an object on this page, named, with its back pointers set, and selects it alone.
+    void AddObject(Lumo::CUIObject* object);
+    /// Selects exactly these objects; the last of them counts as selected last.
+    void SelectOnly(const Lumo::CUIObjectDeque& objects);
+
+    /// Repaints one object with everything it paints.
+    void InvalidateObject(Lumo::CUIObject* object) override;
+    /// Repaints several objects; many of them by one rectangle around all.
+    void InvalidateAll(const Lumo::CUIObjectDeque& objects);
+    /// Repaints a rectangle in page units.
+    void InvalidatePage(const Gdiplus::RectF& rect);
+
+    /// Draws the selection band from `from` to `to` instead of the one that is there.
+    void ShowBand(CPoint from, CPoint to);
+    void HideBand();
+
+    /// Marks the document modified and tells the host.
+    void MarkModified();
+    /// Tells the host that something may have changed.
+    void NotifyState() { m_listener.OnCanvasState(*this); }
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* window);
+    afx_msg void OnMouseLeave();
+    afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
+    afx_msg LRESULT OnParentNotify(WPARAM event, LPARAM window);
+
+private:
+    void EndGesture();
+    void DropCapture();
+    void SelectForMenu(CPoint at);
+    void TrackPointer(CPoint at);
+
+    CanvasListener& m_listener;
+    std::unique_ptr<Gesture> m_gesture;
+    bool m_swallowRightUp = false;
+    bool m_trackingLeave = false;
+    bool m_band = false;
+    CPoint m_bandFrom;
+    CPoint m_bandTo;
+    Lumo::CUIObject* m_edited = nullptr;
+    CString m_textBefore;
+};
+
+}  // namespace Studio

@@ -1,0 +1,57 @@
+#include "studio/editing/TextBox.h"
+
+#include "core/Geometry.h"
+#include "core/GraphicsStateScope.h"
+#include "core/PaintScope.h"
+
+namespace Studio {
+
+using Gdiplus::RectF;
+
+namespace {
+
+constexpr float kPadding = 4.0f;
+
+}  // namespace
+
+void TextBox::Draw(Gdiplus::Graphics* g) {
+    const RectF bounds = Lumo::Normalised(GetPosition());
+    if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, GetLineWidth() + 1.0f)))
+        return;
+    DrawGround(*g, bounds);
+    DrawText(*g, bounds);
+}
+
+void TextBox::DrawGround(Gdiplus::Graphics& g, const RectF& bounds) const {
+    const auto& fill = m_coordinate.Format<Lumo::CUIShapeFormatFill>();
+    if (fill.m_bEnabled && (fill.m_nShapeMode == 1 || fill.m_nShapeMode == 2)) {
+        Gdiplus::SolidBrush brush{Gdiplus::Color(Lumo::MergeAlpha(fill.m_fAlpha, fill.m_dwColor))};
+        g.FillRectangle(&brush, bounds);
+    }
+    DWORD color = 0;
+    if (m_coordinate.Format<Lumo::CUIShapeFormatLineColor>().GetPenColor(&color)) {
+        Gdiplus::Pen pen{Gdiplus::Color(color), GetLineWidth()};
+        pen.SetDashStyle(static_cast<Gdiplus::DashStyle>(GetLineDashStyle()));
+        g.DrawRectangle(&pen, bounds);
+    }
+}
+
+void TextBox::DrawText(Gdiplus::Graphics& g, const RectF& bounds) {
+    const auto& format = m_coordinate.Format<Lumo::CUIShapeFormatText>();
+    const RectF room = Lumo::Inflated(bounds, -kPadding);
+    if (!format.m_bEnabled || format.m_strText.IsEmpty() || room.Width <= 0.0f || room.Height <= 0.0f)
+        return;
+    const Gdiplus::FontFamily family(GetTextFontName());
+    const Gdiplus::Font font(&family, format.m_fFontSize, format.m_nFontStyle,
+                             static_cast<Gdiplus::Unit>(format.m_nUnit));
+    Gdiplus::StringFormat layout;
+    layout.SetAlignment(static_cast<Gdiplus::StringAlignment>(format.m_nAlignment));
+    layout.SetLineAlignment(Gdiplus::StringAlignmentCenter);
+    layout.SetTrimming(Gdiplus::StringTrimmingEllipsisCharacter);
+    const Gdiplus::SolidBrush brush{Gdiplus::Color(format.m_dwTextColor)};
+    Lumo::GraphicsStateScope state(g);
+    g.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(format.m_nRenderHint));
+    g.DrawString(format.m_strText, format.m_strText.GetLength(), &font, room, &layout, &brush);
+}
+
+}  // namespace Studio

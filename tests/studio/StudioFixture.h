@@ -1,0 +1,96 @@
+// A document with real page windows for Studio's tests.
+#pragma once
+
+#include "canvas/UITool.h"
+#include "core/UIObjectPoly.h"
+#include "studio/document/StudioDocument.h"
+#include "studio/editing/PageTool.h"
+
+#include <gtest/gtest.h>
+
+/// Opens a document with one page in a real parent window, with Studio's tools registered.
+class StudioFixture : public ::testing::Test, public Studio::CanvasListener {
+protected:
+    void SetUp() override {
+        const LPCWSTR windowClass = AfxRegisterWndClass(0);
+        ASSERT_TRUE(m_parent.CreateEx(0, windowClass, L"Host", WS_POPUP, CRect(0, 0, 600, 400), nullptr, 0));
+        m_document = new Studio::StudioDocument(m_parent, *this);
+        ASSERT_TRUE(m_document->NewFile());
+        Page().MoveWindow(0, 0, 600, 400);
+        Studio::ChooseTool(Page(), Lumo::DS_SELECT);
+    }
+
+    void TearDown() override {
+        m_document->Release();
+        m_parent.DestroyWindow();
+        for (const CString& file : m_files)
+            ::DeleteFile(file);
+    }
+
+    Studio::StudioCanvas& Page() { return *m_document->CurrentPage(); }
+    Lumo::CUIObjectDeque& Objects() { return *Page().Objects(); }
+
+    /// A mouse message as the system sends it.
+    void Mouse(UINT message, int x, int y, UINT flags = 0) {
+        if (message != WM_LBUTTONUP && message != WM_MOUSEMOVE)
+            flags |= MK_LBUTTON;
+        Page().SendMessage(message, flags, MAKELPARAM(x, y));
+    }
+
+    /// Press, three moves and a release.
+    void Drag(CPoint from, CPoint to, UINT flags = 0) {
+        Mouse(WM_LBUTTONDOWN, from.x, from.y, flags);
+        for (int step = 1; step <= 3; ++step)
+            Mouse(WM_MOUSEMOVE, from.x + (to.x - from.x) * step / 3, from.y + (to.y - from.y) * step / 3,
+                  flags);
+        Mouse(WM_LBUTTONUP, to.x, to.y, flags);
+    }
+
+    void Click(CPoint at, UINT flags = 0) {
+        Mouse(WM_LBUTTONDOWN, at.x, at.y, flags);
+        Mouse(WM_LBUTTONUP, at.x, at.y, flags);
+    }
+
+    /// Puts a drawn object on the page.
+    Lumo::CUIObject* Add(Lumo::DrawShape kind, float x, float y, float width, float height) {
+        Lumo::CUIObject* object =
+            Studio::MakeDrawnObject(kind, Gdiplus::RectF(x, y, width, height)).release();
+        if (auto* poly = dynamic_cast<Lumo::CUIObjectPoly*>(object)) {
+            Gdiplus::PointF from(x, y), to(x + width, y + height);
+            poly->AddPoint(from);
+            poly->AddPoint(to);
+        }
+        Page().AddObject(object);
+        return object;
+    }
+
+    /// A file name in the temporary folder; the file is deleted after the test.
+    CString FileName(LPCWSTR name) {
+        WCHAR folder[MAX_PATH];
+        ::GetTempPath(MAX_PATH, folder);
+        CString path;
+        path.Format(L"%sstudio_test_%lu_%s", folder, ::GetCurrentProcessId(), name);
+        m_files.push_back(path);
+        return path;
+    }
+
+    void OnCanvasState(Studio::StudioCanvas&) override { ++m_notifications; }
+    void OnCanvasPointer(Studio::StudioCanvas&, const CPoint*) override {}
+    void OnCanvasMenu(Studio::StudioCanvas&, CPoint) override { ++m_menus; }
+
+    CWnd m_parent;
+    Studio::PageTools m_tools;
+    Studio::StudioDocument* m_document = nullptr;
+    std::vector<CString> m_files;
+    int m_notifications = 0;
+    int m_menus = 0;
+};
+
+/// Compares rectangles for readable messages.
+inline void ExpectBounds(Lumo::CUIObject& object, float x, float y, float width, float height) {
+    const Gdiplus::RectF bounds = object.GetPosition();
+    EXPECT_FLOAT_EQ(x, bounds.X);
+    EXPECT_FLOAT_EQ(y, bounds.Y);
+    EXPECT_FLOAT_EQ(width, bounds.Width);
+    EXPECT_FLOAT_EQ(height, bounds.Height);
+}
