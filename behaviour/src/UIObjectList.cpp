@@ -181,13 +181,14 @@ void CUIObjectList::DrawDragImage(Gdiplus::Graphics* g, POINT) {
 void CUIObjectList::Release() {
     if (m_children.empty())
         return;
-    CUIDocument::ForgetObjects({m_children.begin(), m_children.end()});
-    while (!m_children.empty()) {
-        CUIObject* child = m_children.front();
-        ForgetChild(child);
-        CUIDocument::ReleaseForgotten(child);
+    const std::deque<CUIObject*> children = m_children;
+    std::unordered_set<CUIObject*> doomed(children.begin(), children.end());
+    DetachChildren();
+    CUIDocument::ForgetObjects(doomed);
+    for (CUIObject* child : children) {
+        if (doomed.erase(child))
+            CUIDocument::ReleaseForgotten(child);
     }
-    std::deque<CUIObject*>().swap(m_children);
 }
 
 }  // namespace Lumo

@@ -165,6 +165,8 @@ TEST(GroupLifetime, ACopySharesTheChildrenAndLosesThemWithTheFirstRelease) {
     EXPECT_EQ(10, assigned.GetInitialWidth());
     EXPECT_TRUE(Same(copy->GetPosition(), 100, 50, 10, 10));
 
+    CUIDocument document;
+    child->SetDocument(&document);
     std::deque<CUIObject*> out;
     copy->MakeUnGroup(&out);
     EXPECT_EQ(2u, group->GetChildren().size());
