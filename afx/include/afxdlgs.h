@@ -48,7 +48,7 @@ private:
     OPENFILENAME m_openFileName{};
     CString m_strFilter;
     CString m_strDefExt;
-    TCHAR m_szFileName[32768];
+    TCHAR m_szFileName[4096];
     TCHAR m_szFileTitle[MAX_PATH];
 
     bool ShowItemDialog(INT_PTR& result);

@@ -9,6 +9,7 @@ class AFX_CLASS_EXPORT CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 public:
     CFrameWnd();
+    ~CFrameWnd() override;
 
     static const RECT rectDefault;  ///< lets the system choose place and size
 

@@ -132,10 +132,10 @@
     {WM_COMMAND, static_cast<WORD>(CN_COMMAND), static_cast<WORD>(id), static_cast<WORD>(id), AfxSigCmd_EX, \
      AfxMessageHandler(static_cast<BOOL (CCmdTarget::*)(UINT)>(memberFxn))},
 #define ON_UPDATE_COMMAND_UI(id, memberFxn) \
-    {WM_COMMAND, static_cast<WORD>(CN_UPDATE_COMMAND_UI), static_cast<WORD>(id), static_cast<WORD>(id), AfxSigCmdUI, \
+    {WM_COMMAND, static_cast<UINT>(CN_UPDATE_COMMAND_UI), static_cast<WORD>(id), static_cast<WORD>(id), AfxSigCmdUI, \
      AfxMessageHandler(static_cast<void (CCmdTarget::*)(CCmdUI*)>(memberFxn))},
 #define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn) \
-    {WM_COMMAND, static_cast<WORD>(CN_UPDATE_COMMAND_UI), static_cast<WORD>(id), static_cast<WORD>(idLast), AfxSigCmdUI, \
+    {WM_COMMAND, static_cast<UINT>(CN_UPDATE_COMMAND_UI), static_cast<WORD>(id), static_cast<WORD>(idLast), AfxSigCmdUI, \
      AfxMessageHandler(static_cast<void (CCmdTarget::*)(CCmdUI*)>(memberFxn))},
 
 #define ON_CONTROL(wNotifyCode, id, memberFxn) \
