@@ -14,6 +14,9 @@ namespace {
 // Line height of a tall font in ems, on the generous side.
 constexpr float kTallLine = 3.0f;
 
+// Keeps rounding from wrapping a text into a box of its own width.
+constexpr float kWrapSlack = 0.5f;
+
 // Page units in a unit of the font size, on the generous side: the resolution is not known here.
 float LargestUnit(int unit) {
     switch (unit) {
@@ -54,8 +57,8 @@ void DrawCaption(Gdiplus::Graphics& graphics, const CUIShapeFormatText& text,
         return;
     // A box of the text's own size rather than a point: the alignment would move the text off a point.
     const Gdiplus::PointF centre = CentreOf(position);
-    const Gdiplus::RectF box(centre.X - size.Width * 0.5f, centre.Y - size.Height * 0.5f, size.Width,
-                             size.Height);
+    const Gdiplus::RectF box(centre.X - size.Width * 0.5f - kWrapSlack, centre.Y - size.Height * 0.5f,
+                             size.Width + 2.0f * kWrapSlack, size.Height);
     GraphicsStateScope state(graphics);
     graphics.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(text.m_nRenderHint));
     Gdiplus::SolidBrush brush{Gdiplus::Color(text.m_dwTextColor)};

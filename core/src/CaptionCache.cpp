@@ -9,6 +9,7 @@ namespace Lumo {
 
 namespace {
 
+constexpr wchar_t kLastResort[] = L"Arial";
 constexpr size_t kMaxFonts = 256;
 // More than the objects of a large page, so that repainting it in order does not measure every caption anew.
 constexpr size_t kMaxSizes = 32768;
@@ -22,14 +23,22 @@ size_t HashOf(const CString& text) {
         {static_cast<LPCWSTR>(text), static_cast<size_t>(text.GetLength())});
 }
 
-std::unique_ptr<Gdiplus::Font> MakeFont(const CUIShapeFormatText& text) {
-    const Gdiplus::FontFamily family(text.m_strFontName);
-    const Gdiplus::FontFamily* use = family.IsAvailable() ? &family : Gdiplus::FontFamily::GenericSansSerif();
-    auto font = std::make_unique<Gdiplus::Font>(use, text.m_fFontSize, text.m_nFontStyle,
+std::unique_ptr<Gdiplus::Font> MakeFont(const Gdiplus::FontFamily& family, const CUIShapeFormatText& text) {
+    auto font = std::make_unique<Gdiplus::Font>(&family, text.m_fFontSize, text.m_nFontStyle,
                                                 static_cast<Gdiplus::Unit>(text.m_nUnit));
     if (font->GetLastStatus() != Gdiplus::Ok)
         font.reset();
     return font;
+}
+
+std::unique_ptr<Gdiplus::Font> MakeFont(const CUIShapeFormatText& text) {
+    const Gdiplus::FontFamily family(text.m_strFontName);
+    if (family.IsAvailable())
+        return MakeFont(family, text);
+    if (const Gdiplus::FontFamily* generic = Gdiplus::FontFamily::GenericSansSerif())
+        return MakeFont(*generic, text);
+    // Systems without the fonts behind the generic family still have a replacement for this one.
+    return MakeFont(Gdiplus::FontFamily(kLastResort), text);
 }
 
 }  // namespace
@@ -69,8 +78,7 @@ const Gdiplus::StringFormat* CaptionCache::FormatOf(int alignment) {
     const int code = alignment >= 0 && alignment <= 2 ? alignment : 0;
     auto& format = m_formats[code];
     if (format == nullptr) {
-        format = std::make_unique<Gdiplus::StringFormat>(Gdiplus::StringFormatFlagsNoWrap |
-                                                         Gdiplus::StringFormatFlagsNoClip);
+        format = std::make_unique<Gdiplus::StringFormat>(Gdiplus::StringFormatFlagsNoClip);
         format->SetAlignment(static_cast<Gdiplus::StringAlignment>(code));
         format->SetLineAlignment(static_cast<Gdiplus::StringAlignment>(code));
     }

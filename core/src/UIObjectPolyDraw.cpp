@@ -104,6 +104,27 @@ void PaintAsLines(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, 
     });
 }
 
+enum class Side { Inside, Outside, Edge };
+
+// Where a point stands to a segment drawn `width` wide; Edge when only the widened outline can tell, which is
+// within a unit of its long sides and about its ends.
+Side SideOf(const Gdiplus::PointF& point, const Gdiplus::PointF& from, const Gdiplus::PointF& to,
+            float width) {
+    if (!ContainsPoint(SegmentBounds(from, to, std::fabs(width) + 1.0f), point))
+        return Side::Outside;
+    const Gdiplus::PointF along = to - from;
+    const Gdiplus::PointF reach = point - from;
+    const float length = std::hypot(along.X, along.Y);
+    if (length < 1.0f)
+        return Side::Edge;
+    const float distance = std::fabs(along.X * reach.Y - along.Y * reach.X) / length;
+    const float place = (along.X * reach.X + along.Y * reach.Y) / length;
+    if (distance > width * 0.5f + 1.0f)
+        return Side::Outside;
+    const bool beside = place >= 1.0f && place <= length - 1.0f;
+    return beside && distance < width * 0.5f - 1.0f ? Side::Inside : Side::Edge;
+}
+
 // The segment that follows the mouse while the figure does not have all its points yet.
 Segments WithRubber(const std::deque<Gdiplus::PointF>& points, int maxPoints, const Gdiplus::PointF& pending,
                     const Gdiplus::PointF& shift) {
@@ -121,16 +142,22 @@ int CUIObjectPoly::HitTest(Gdiplus::RectF& rect) {
     const int tolerance = TruncToInt(m_coordinate.GetLineWidth()) / 2 + 1;
     const float width = static_cast<float>(tolerance) + kHitSlack;
     const Gdiplus::PointF point(rect.X, rect.Y);
-    // Only segments near the point go into a path; each is a figure of its own, so the others cannot matter.
+    // Each segment is a figure of its own, so arithmetic may answer for most of them; a path is only built of
+    // those on whose edge the point lies.
     std::optional<Gdiplus::GraphicsPath> path;
+    bool inside = false;
     Segments{m_points, std::nullopt, {}}.ForEach([&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
-        if (ContainsPoint(SegmentBounds(from, to, std::fabs(width) + 1.0f), point)) {
+        const Side side = SideOf(point, from, to, width);
+        inside = side == Side::Inside;
+        if (side == Side::Edge) {
             if (!path)
                 path.emplace();
             AddSegment(*path, from, to);
         }
-        return true;
+        return !inside;
     });
+    if (inside)
+        return 1;
     if (!path)
         return 0;
     Gdiplus::Pen pen{Gdiplus::Color(kHitColour), width};

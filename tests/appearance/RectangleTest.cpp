@@ -195,6 +195,7 @@ TEST_F(RectangleTest, ImageModes) {
 
     m_surface.Clear();
     FillWith(m_ellipse, 6, picture.path());
+    m_surface.graphics().SetInterpolationMode(Gdiplus::InterpolationModeNearestNeighbor);
     m_ellipse.DrawDragImage(m_surface, m_point);
     // Stretched over the whole rectangle, corners included, at 80 %.
     EXPECT_TRUE(m_surface.Shows(54, 44, 0xCCFF0000));

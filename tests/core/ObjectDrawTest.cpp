@@ -98,6 +98,19 @@ TEST(CaptionTest, FollowsChangesOfTextAndFont) {
     EXPECT_GT(width(), four * 3 / 2);
 }
 
+TEST(CaptionTest, StaysOnOneLine) {
+    for (const wchar_t* text : {L"Fader level 12 dB", L"a b c d e f g h", L"Rectangle 10000", L"I I I I I"})
+        for (int alignment : {0, 1, 2}) {
+            Surface surface(300, 100);
+            CUIObject object = Captioned(text, {0.3f, 0.7f, 299.3f, 99.1f});
+            object.SetTextAlignment(alignment);
+            object.Draw(surface);
+            const CRect painted = surface.Painted();
+            EXPECT_LT(painted.Height(), 25) << alignment;
+            EXPECT_GT(painted.Width(), 45) << alignment;
+        }
+}
+
 TEST(CaptionTest, TallCaptionIsPaintedWhereItReachesBeyondTheObject) {
     Surface whole(300, 200), part(300, 200);
     CUIObject object = Captioned(L"H\nH\nH", {100, 95, 100, 10});

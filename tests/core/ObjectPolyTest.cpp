@@ -1,6 +1,6 @@
 #include "core/UIObjectPoly.h"
 
-#include <memory>
+#include <algorithm>
 #include <vector>
 
 #include "behaviour/Bytes.h"
@@ -148,6 +148,32 @@ TEST_F(PolyTest, HitsAnyOfManySegments) {
     EXPECT_EQ(Hit(m_polyLine, 2001, 1, 0), kPolyLineBody);
     EXPECT_EQ(Hit(m_polyLine, 2001, 40, 0), -1);
     EXPECT_EQ(Hit(m_polyLine, 5000, 1, 0), -1);
+}
+
+// The test answers what the outlines of the segments answer, however it gets there.
+TEST_F(PolyTest, HitsWhereAWidenedSegmentIs) {
+    const std::vector<Gdiplus::PointF> points = {{20, 20}, {60, 35}, {60, 35.5f}, {40, 60}, {40, 60}};
+    Gdiplus::GraphicsPath paths[4];
+    for (size_t i = 0; i < points.size(); ++i) {
+        Add(m_polyLine, {points[i]});
+        if (i > 0) {
+            paths[i - 1].AddLine(points[i - 1], points[i]);
+            paths[i - 1].CloseFigure();
+        }
+    }
+    m_polyLine.SetLineWidth(7);
+    Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 7 / 2 + 1 + 5.0f);
+    int hits = 0;
+    for (float y = 8; y < 76; y += 1.25f)
+        for (float x = 8; x < 76; x += 1.25f) {
+            Gdiplus::RectF rect(x, y, 2, 2);
+            const bool want = std::ranges::any_of(paths, [&](const Gdiplus::GraphicsPath& path) {
+                return path.IsOutlineVisible(Gdiplus::PointF(x, y), &pen) != FALSE;
+            });
+            EXPECT_EQ(m_polyLine.HitTest(rect), want) << x << ", " << y;
+            hits += want;
+        }
+    EXPECT_GT(hits, 100);
 }
 
 TEST_F(PolyTest, SelectedHitTriesThePointsThenTheBody) {
