@@ -53,7 +53,9 @@ void CUIDownUpTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& poi
         return;
     const CRect tooSmall(run_down.x - kTooSmall, run_down.y - kTooSmall, run_down.x + kTooSmall,
                          run_down.y + kTooSmall);
-    CUIObject* object = FrontSelected(canvas);
+    // A gesture that another tool began in this mode has created nothing that could be too small.
+    const bool created = SelectTool().m_nDragMode == CUISelectTool::kHandle;
+    CUIObject* object = created ? FrontSelected(canvas) : nullptr;
     if (object && tooSmall.PtInRect(ToDoc(canvas, point))) {
         // Kept: both calls act on the first object of the page, which need not be the new one.
         CUIDocument* document = canvas->GetDocument();

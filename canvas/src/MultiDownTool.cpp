@@ -54,7 +54,9 @@ void CUIMultiDownTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint
         pt = ToDoc(canvas, point);
         if (flags & MK_CONTROL)
             MoveControl(run_down, pt);
+        const CPoint anchor = run_down;
         CUIToolBase::OnLButtonDown(canvas, flags, point);
+        run_down = anchor;
         ContinueFigure(canvas, flags, point, pt);
     } else {
         CUIToolBase::OnLButtonDown(canvas, flags, point);

@@ -31,26 +31,34 @@ CUIObject* MakeObject(DrawShape kind, Gdiplus::RectF rect) {
     }
 }
 
-// Whether two names are the same but for case. Length and last character tell most different names apart.
-bool SameName(const CString& a, const CString& b) {
-    const int length = a.GetLength();
-    if (length != b.GetLength())
-        return false;
-    if (length == 0)
-        return true;
-    const wchar_t lastA = a[length - 1];
-    const wchar_t lastB = b[length - 1];
-    if (lastA < 0x80 && lastB < 0x80 && (lastA | 0x20) != (lastB | 0x20))
-        return false;
-    return a.CompareNoCase(b) == 0;
+wchar_t FoldAscii(wchar_t c) {
+    return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c;
+}
+
+// Whether two texts of the same length are the same but for case. From the end, where the names of one kind differ.
+bool SameText(const CString& a, const CString& b, int length) {
+    const wchar_t* left = a;
+    const wchar_t* right = b;
+    for (int i = length; i-- > 0;) {
+        if (left[i] >= 0x80 || right[i] >= 0x80)
+            return a.CompareNoCase(b) == 0;
+        if (FoldAscii(left[i]) != FoldAscii(right[i]))
+            return false;
+    }
+    return true;
 }
 
 CUIObject* FindByName(const CUIObjectDeque* objects, const CString& name) {
     if (!objects)
         return nullptr;
-    for (CUIObject* object : *objects)
-        if (object && SameName(object->GetShapeName(), name))
+    const int length = name.GetLength();
+    for (CUIObject* object : *objects) {
+        if (!object)
+            continue;
+        const CString& other = object->GetShapeName();
+        if (other.GetLength() == length && SameText(other, name, length))
             return object;
+    }
     return nullptr;
 }
 

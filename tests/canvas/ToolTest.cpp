@@ -82,7 +82,7 @@ TEST_F(ToolTest, ATooSmallDragRemovesTheFirstObjectOfThePage) {
     Drag({50, 40}, {52, 42});
     ASSERT_EQ(Objects().size(), 1u);
     EXPECT_NE(Objects().front(), first);
-    EXPECT_EQ(m_canvas->m_selection, Objects());
+    EXPECT_TRUE(m_canvas->m_selection.empty());
     EXPECT_EQ(::GetCapture(), nullptr);
 
     CUIToolBase::run_drawshape = DS_ELLIPSE;
@@ -124,9 +124,8 @@ TEST_F(ToolTest, TheRubberBandOnlyEmptiesTheSelection) {
 TEST_F(ToolTest, CtrlSnapsAHandleToItsNeighbour) {
     CUIObject* a = AddRectangle(50, 50, 40, 40);
     m_canvas->Select(a, 0);
-    Drag({90, 90}, {120, 95},
-         MK_CONTROL);  // handle 2 against handle 1 at (90, 50): (120, 95) goes to (120, 80)
-    ExpectRect(a->GetPosition(), 50, 50, 70, 30);
+    Drag({90, 90}, {96, 140}, MK_CONTROL);  // handle 2 stays below handle 1 at (90, 50)
+    ExpectRect(a->GetPosition(), 50, 50, 40, 90);
 }
 
 // A rectangle whose handle 2 may not leave a limit.
