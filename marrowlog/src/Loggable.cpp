@@ -30,8 +30,18 @@ std::string Utf8(const CString& text) {
     return bytes;
 }
 
-// One write with append access only: lines of several threads and programs never mix.
+// Needs no destruction: lines may come until the very end of the process.
+SRWLOCK fileLock = SRWLOCK_INIT;
+
+struct FileTurn {
+    FileTurn() { ::AcquireSRWLockExclusive(&fileLock); }
+    ~FileTurn() { ::ReleaseSRWLockExclusive(&fileLock); }
+};
+
+// Threads take turns, for not every file system finds the end of a file and writes there in one step. One
+// write with append access per line keeps the lines of several programs apart where it does.
 void AppendToFile(const CString& path, const std::string& line) {
+    const FileTurn turn;
     const HANDLE file =
         ::CreateFileW(path, FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                       OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -61,7 +61,7 @@ TEST(Log, LinesOfSeveralThreadsDoNotMix) {
     std::vector<std::thread> threads;
     for (int t = 0; t < 4; ++t)
         threads.emplace_back([t] {
-            for (int i = 0; i < 25; ++i)
+            for (int i = 0; i < 100; ++i)
                 CLoggable::AddLogLine(t, 0, L"%s", CString(wchar_t(L'a' + t), 100));
         });
     for (std::thread& thread : threads)
@@ -71,7 +71,7 @@ TEST(Log, LinesOfSeveralThreadsDoNotMix) {
     int count = 0;
     for (std::string line; std::getline(lines, line); ++count)
         EXPECT_TRUE(std::regex_match(line, expected)) << line;
-    EXPECT_EQ(100, count);
+    EXPECT_EQ(400, count);
 }
 
 bool OtherThreadGetsIn(CCSWrapper& section) {
