@@ -15,6 +15,15 @@ bool IsObject(const CUIObject* object) {
     return object != nullptr && reinterpret_cast<UINT_PTR>(object) != ~UINT_PTR{0};
 }
 
+// Not `RectF::Union`: some platforms' headers compute it in integers.
+Gdiplus::RectF United(const Gdiplus::RectF& a, const Gdiplus::RectF& b) {
+    const float left = std::min(a.X, b.X);
+    const float top = std::min(a.Y, b.Y);
+    const float right = std::max(a.GetRight(), b.GetRight());
+    const float bottom = std::max(a.GetBottom(), b.GetBottom());
+    return {left, top, right - left, bottom - top};
+}
+
 }  // namespace
 
 void CUICanvas::Select(CUIObject* obj, int add) {
@@ -52,7 +61,7 @@ CRect CUICanvas::GetSelectionRect() {
     // kept: the union starts from the origin.
     Gdiplus::RectF bounds(0.0f, 0.0f, 0.0f, 0.0f);
     for (CUIObject* object : m_selection)
-        Gdiplus::RectF::Union(bounds, bounds, object->GetPosition());
+        bounds = United(bounds, object->GetPosition());
     return RectAtlFromGdi(bounds);
 }
 

@@ -22,8 +22,10 @@ UINT PrivateFormat() {
 
 Bytes ReadClipboard(UINT format) {
     Bytes bytes;
-    if (!::OpenClipboard(nullptr))
+    if (!::OpenClipboard(nullptr)) {
+        ADD_FAILURE() << "the clipboard is open elsewhere: " << ::GetLastError();
         return bytes;
+    }
     if (HANDLE data = ::GetClipboardData(format)) {
         const auto* first = static_cast<const unsigned char*>(::GlobalLock(data));
         bytes.assign(first, first + ::GlobalSize(data));
@@ -90,9 +92,14 @@ Bytes ReadInAnotherProcess() {
     start.cb = sizeof(start);
     PROCESS_INFORMATION process = {};
     if (!::CreateProcess(program, command.GetBuffer(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                         &process))
+                         &process)) {
+        ADD_FAILURE() << "no second process: " << ::GetLastError();
         return {};
+    }
     PumpUntilEnd(process.hProcess);
+    DWORD code = 1;
+    ::GetExitCodeProcess(process.hProcess, &code);
+    EXPECT_EQ(code, 0u);
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
     return report.Read();
