@@ -30,7 +30,8 @@ INT_PTR COleInsertDialog::DoModal() {
         m_io.hMetaPict = io.hMetaPict;
     if (m_nLastError == OLEUI_OK)
         return IDOK;
-    return m_nLastError == OLEUI_CANCEL ? IDCANCEL : -1;
+    // Some systems answer a cancelled dialog with FALSE.
+    return m_nLastError == OLEUI_CANCEL || m_nLastError == OLEUI_FALSE ? IDCANCEL : -1;
 }
 
 UINT COleInsertDialog::GetSelectionType() const {

@@ -19,6 +19,9 @@ LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_CREATEWND && state.creating && !IsInputMethodWindow(window)) {
         CWnd* object = state.creating;
         state.creating = nullptr;
+        // The number may have been that of a window whose object never heard of its end.
+        if (CWnd* stale = CWnd::FromHandlePermanent(window))
+            stale->Detach();
         object->SubclassWindow(window);
     }
     return ::CallNextHookEx(state.creationHook, code, wParam, lParam);

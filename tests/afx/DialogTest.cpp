@@ -1,0 +1,167 @@
+#include <afxdlgs.h>
+#include <gtest/gtest.h>
+
+#include "WindowSupport.h"
+
+#include <functional>
+#include <vector>
+
+namespace {
+
+/// The visible dialog of this thread, or null.
+HWND FindDialog() {
+    HWND found = nullptr;
+    auto look = [](HWND window, LPARAM data) -> BOOL {
+        TCHAR name[32];
+        ::GetClassName(window, name, 32);
+        if (::lstrcmp(name, _T("#32770")) != 0 || !::IsWindowVisible(window))
+            return TRUE;
+        *reinterpret_cast<HWND*>(data) = window;
+        return FALSE;
+    };
+    ::EnumThreadWindows(::GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+/// While it lives, acts on the dialog as soon as one is shown; the dialog's own pump drives it.
+class DialogUser {
+public:
+    explicit DialogUser(std::function<void(HWND)> act) : m_act(std::move(act)) {
+        current = this;
+        m_timer = ::SetTimer(nullptr, 0, 20, OnTimer);
+    }
+    ~DialogUser() {
+        ::KillTimer(nullptr, m_timer);
+        current = nullptr;
+    }
+    bool HasActed() const { return m_hasActed; }
+
+private:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+        HWND dialog = current ? FindDialog() : nullptr;
+        if (!dialog)
+            return;
+        current->m_hasActed = true;
+        current->m_act(dialog);
+    }
+    static DialogUser* current;
+    std::function<void(HWND)> m_act;
+    UINT_PTR m_timer = 0;
+    bool m_hasActed = false;
+};
+
+DialogUser* DialogUser::current = nullptr;
+
+/// A dialog template without controls, as it lies in memory.
+struct EmptyTemplate {
+    alignas(4) DLGTEMPLATE header{WS_POPUP | WS_CAPTION | WS_SYSMENU, 0, 0, 0, 0, 100, 60};
+    WORD menuClassTitle[3] = {0, 0, 0};
+};
+
+class AskDialog : public CDialog {
+public:
+    int starts = 0;
+    bool refusesFirst = false;
+
+protected:
+    BOOL OnInitDialog() override {
+        ++starts;
+        return CDialog::OnInitDialog();
+    }
+    void OnOK() override {
+        if (!std::exchange(refusesFirst, false))
+            CDialog::OnOK();
+    }
+};
+
+TEST(Dialog, RunsUntilItIsAnswered) {
+    EmptyTemplate memory;
+    const struct {
+        WORD command;
+        INT_PTR result;
+    } cases[] = {{IDOK, IDOK}, {IDCANCEL, IDCANCEL}};
+    for (auto item : cases) {
+        AskDialog dialog;
+        dialog.refusesFirst = true;
+        ASSERT_TRUE(dialog.InitModalIndirect(&memory.header));
+        DialogUser user([&](HWND window) { ::PostMessage(window, WM_COMMAND, item.command, 0); });
+        EXPECT_EQ(item.result, dialog.DoModal());
+        EXPECT_EQ(1, dialog.starts);
+        EXPECT_EQ(nullptr, dialog.m_hWnd);
+    }
+    AskDialog missing;
+    EXPECT_EQ(-1, missing.DoModal());
+    CDialog noResource(12345);
+    EXPECT_EQ(-1, noResource.DoModal());
+}
+
+TEST(Dialog, ModalOwnerIsDisabledOnlyMeanwhile) {
+    CWnd owner;
+    ASSERT_TRUE(CreateHidden(owner));
+    owner.ShowWindow(SW_SHOW);
+    EmptyTemplate memory;
+    AskDialog dialog;
+    dialog.InitModalIndirect(&memory.header, &owner);
+    bool wasDisabled = false;
+    DialogUser user([&](HWND window) {
+        wasDisabled = !owner.IsWindowEnabled();
+        ::PostMessage(window, WM_CLOSE, 0, 0);
+    });
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_TRUE(wasDisabled);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+/// A folder of its own, gone with the object.
+struct TestFolder {
+    CString path;
+    TestFolder() {
+        TCHAR temp[MAX_PATH];
+        ::GetTempPath(MAX_PATH, temp);
+        path.Format(_T("%safxdlg%u"), temp, ::GetCurrentProcessId());
+        ::CreateDirectory(path, nullptr);
+    }
+    ~TestFolder() { ::RemoveDirectory(path); }
+};
+
+class FileDialogTest : public testing::TestWithParam<BOOL> {};
+
+TEST_P(FileDialogTest, GivesTheChosenPath) {
+    TestFolder folder;
+    CString wanted = folder.path + _T("\\새 page.cbf");
+    CFileDialog dialog(FALSE, _T("cbf"), wanted, OFN_OVERWRITEPROMPT,
+                       _T("Pages (*.cbf)|*.cbf|All (*.*)|*.*||"), nullptr, 0, GetParam());
+    DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDOK, 0); });
+    ASSERT_EQ(IDOK, dialog.DoModal());
+    EXPECT_TRUE(user.HasActed());
+    EXPECT_EQ(0, wanted.CompareNoCase(dialog.GetPathName()));
+    EXPECT_EQ(CString(_T("새 page.cbf")), dialog.GetFileName());
+    EXPECT_EQ(CString(_T("새 page")), dialog.GetFileTitle());
+    EXPECT_EQ(CString(_T("cbf")), dialog.GetFileExt());
+    EXPECT_EQ(0, folder.path.CompareNoCase(dialog.GetFolderPath()));
+    EXPECT_EQ(1u, dialog.m_ofn.nFilterIndex);
+}
+
+TEST_P(FileDialogTest, CanBeCancelled) {
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST, nullptr, nullptr, 0, GetParam());
+    DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDCANCEL, 0); });
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_TRUE(user.HasActed());
+    EXPECT_TRUE(dialog.GetPathName().IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(NewAndOldStyle, FileDialogTest, testing::Values(TRUE, FALSE));
+
+TEST(CommonDialogs, ColourAndFontComeBack) {
+    CColorDialog colour(RGB(10, 20, 30));
+    {
+        DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDOK, 0); });
+        EXPECT_EQ(IDOK, colour.DoModal());
+    }
+    EXPECT_EQ(RGB(10, 20, 30), colour.GetColor());
+    CFontDialog font;
+    DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDCANCEL, 0); });
+    EXPECT_EQ(IDCANCEL, font.DoModal());
+}
+
+}  // namespace

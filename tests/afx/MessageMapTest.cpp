@@ -1,0 +1,227 @@
+#include <afxext.h>
+#include <gtest/gtest.h>
+
+#include "WindowSupport.h"
+
+#include <string>
+
+namespace {
+
+const UINT registeredMessage = ::RegisterWindowMessage(_T("class library test"));
+
+/// Writes down which handler was called with what.
+class Recorder : public CWnd {
+public:
+    std::string log;
+
+protected:
+    void Note(const std::string& text) { log += text + ";"; }
+    void OnSize(UINT type, int cx, int cy) { Note(Text("size", type, cx, cy)); }
+    void OnMove(int x, int y) { Note(Text("move", x, y)); }
+    void OnMouseMove(UINT flags, CPoint p) { Note(Text("mouse", flags, p.x, p.y)); }
+    BOOL OnMouseWheel(UINT flags, short delta, CPoint p) {
+        Note(Text("wheel", flags, delta, p.x, p.y));
+        return TRUE;
+    }
+    void OnKeyDown(UINT key, UINT repeat, UINT flags) { Note(Text("key", key, repeat, flags)); }
+    void OnTimer(UINT_PTR id) { Note(Text("timer", id)); }
+    void OnSetFocus(CWnd* from) { Note(Text("focus", from == this)); }
+    void OnCaptureChanged(CWnd* to) { Note(Text("capture", to == this)); }
+    void OnContextMenu(CWnd* window, CPoint p) { Note(Text("context", window == this, p.x, p.y)); }
+    BOOL OnSetCursor(CWnd*, UINT hit, UINT message) {
+        Note(Text("cursor", hit, message));
+        return TRUE;
+    }
+    void OnHScroll(UINT code, UINT position, CScrollBar*) { Note(Text("hscroll", code, position)); }
+    void OnActivate(UINT state, CWnd*, BOOL minimized) { Note(Text("activate", state, minimized)); }
+    BOOL OnEraseBkgnd(CDC* dc) {
+        Note(Text("erase", dc != nullptr));
+        return 7;
+    }
+    HBRUSH OnCtlColor(CDC*, CWnd*, UINT kind) {
+        Note(Text("colour", kind));
+        return static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH));
+    }
+    void OnCommand1() { Note("command1"); }
+    void OnRange(UINT id) { Note(Text("range", id)); }
+    void OnChange() { Note("change"); }
+    void OnHit(NMHDR* header, LRESULT* result) {
+        Note(Text("notify", header->code == static_cast<UINT>(-12)));
+        *result = 42;
+    }
+    LRESULT OnOwn(WPARAM wParam, LPARAM lParam) {
+        Note(Text("own", wParam, lParam));
+        return 5;
+    }
+    LRESULT OnRegistered(WPARAM, LPARAM) {
+        Note("registered");
+        return 6;
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    template <class... Values>
+    static std::string Text(const char* name, Values... values) {
+        std::string text(name);
+        ((text += " " + std::to_string(values)), ...);
+        return text;
+    }
+};
+
+BEGIN_MESSAGE_MAP(Recorder, CWnd)
+    ON_WM_SIZE()
+    ON_WM_MOVE()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_KEYDOWN()
+    ON_WM_TIMER()
+    ON_WM_SETFOCUS()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CONTEXTMENU()
+    ON_WM_SETCURSOR()
+    ON_WM_HSCROLL()
+    ON_WM_ACTIVATE()
+    ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
+    ON_COMMAND(101, &Recorder::OnCommand1)
+    ON_COMMAND_RANGE(200, 210, &Recorder::OnRange)
+    ON_EN_CHANGE(300, &Recorder::OnChange)
+    ON_NOTIFY(-12, 301, &Recorder::OnHit)
+    ON_MESSAGE(WM_APP + 1, &Recorder::OnOwn)
+    ON_REGISTERED_MESSAGE(registeredMessage, &Recorder::OnRegistered)
+END_MESSAGE_MAP()
+
+/// Has an entry of its own ahead of the base's and leaves the rest to it.
+class Derived : public Recorder {
+protected:
+    void OnMouseMove(UINT flags, CPoint p) {
+        log += "derived;";
+        Recorder::OnMouseMove(flags, p);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Derived, Recorder)
+    ON_WM_MOUSEMOVE()
+END_MESSAGE_MAP()
+
+TEST(MessageMap, HandsEveryMessageItsArguments) {
+    Recorder window;
+    ASSERT_TRUE(CreateHidden(window));
+    CButton child;
+    ASSERT_TRUE(child.Create(_T("x"), 0, CRect(0, 0, 9, 9), &window, 301));
+    auto self = reinterpret_cast<WPARAM>(window.m_hWnd);
+    CClientDC dc(&window);
+    auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
+    NMHDR header{child.m_hWnd, 301, static_cast<UINT>(-12)};
+    LPARAM point = MAKELPARAM(static_cast<WORD>(-3), 40);
+    const struct {
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+        LRESULT result;
+        const char* log;
+    } cases[] = {
+        {WM_SIZE, SIZE_RESTORED, MAKELPARAM(40000, 20), 0, "size 0 40000 20;"},
+        {WM_MOVE, 0, point, 0, "move -3 40;"},
+        {WM_MOUSEMOVE, MK_SHIFT, point, 0, "mouse 4 -3 40;"},
+        {WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, -120), point, 1, "wheel 8 -120 -3 40;"},
+        {WM_KEYDOWN, VK_F2, 0x00010002, 0, "key 113 2 1;"},
+        {WM_TIMER, 77, 0, 0, "timer 77;"},
+        {WM_SETFOCUS, self, 0, 0, "focus 1;"},
+        {WM_CAPTURECHANGED, 0, static_cast<LPARAM>(self), 0, "capture 1;"},
+        {WM_CONTEXTMENU, self, point, 0, "context 1 -3 40;"},
+        {WM_SETCURSOR, self, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), 1, "cursor 1 512;"},
+        {WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 50000), 0, 0, "hscroll 5 50000;"},
+        {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), 0, 0, "activate 2 1;"},
+        {WM_ERASEBKGND, context, 0, 7, "erase 1;"},
+        {WM_CTLCOLORSTATIC, context, 0, reinterpret_cast<LRESULT>(::GetStockObject(GRAY_BRUSH)), "colour 6;"},
+        {WM_COMMAND, 101, 0, 1, "command1;"},
+        {WM_COMMAND, 210, 0, 1, "range 210;"},
+        {WM_COMMAND, 211, 0, 0, ""},
+        {WM_COMMAND, MAKEWPARAM(300, EN_CHANGE), static_cast<LPARAM>(self), 1, "change;"},
+        {WM_COMMAND, MAKEWPARAM(300, EN_KILLFOCUS), static_cast<LPARAM>(self), 0, ""},
+        {WM_NOTIFY, 301, reinterpret_cast<LPARAM>(&header), 42, "notify 1;"},
+        {WM_APP + 1, 8, 9, 5, "own 8 9;"},
+        {registeredMessage, 0, 0, 6, "registered;"},
+    };
+    for (const auto& item : cases) {
+        window.log.clear();
+        EXPECT_EQ(item.result, window.SendMessage(item.message, item.wParam, item.lParam)) << item.log;
+        EXPECT_EQ(item.log, window.log) << "message " << item.message;
+    }
+}
+
+TEST(MessageMap, DerivedHandlerComesFirstAndTheBaseServesTheRest) {
+    Derived window;
+    ASSERT_TRUE(CreateHidden(window));
+    window.log.clear();
+    window.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(1, 2));
+    window.SendMessage(WM_COMMAND, 101);
+    EXPECT_EQ("derived;mouse 0 1 2;command1;", window.log);
+}
+
+/// A frame whose commands change what the menu shows.
+class MenuFrame : public CFrameWnd {
+public:
+    int ran = 0;
+    bool isAllowed = false;
+    bool isGone = false;
+
+protected:
+    void PostNcDestroy() override { isGone = true; }
+    void OnRun() { ++ran; }
+    void OnUpdateRun(CCmdUI* ui) { ui->Enable(isAllowed); }
+    void OnUpdateMode(CCmdUI* ui) { ui->SetRadio(ui->m_nID == 402); }
+    void OnUpdateText(CCmdUI* ui) {
+        ui->SetText(_T("실행 취소"));
+        ui->SetCheck();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(MenuFrame, CFrameWnd)
+    ON_COMMAND(400, &MenuFrame::OnRun)
+    ON_UPDATE_COMMAND_UI(400, &MenuFrame::OnUpdateRun)
+    ON_UPDATE_COMMAND_UI_RANGE(401, 402, &MenuFrame::OnUpdateMode)
+    ON_COMMAND(403, &MenuFrame::OnRun)
+    ON_UPDATE_COMMAND_UI(403, &MenuFrame::OnUpdateText)
+    ON_COMMAND(404, &MenuFrame::OnRun)
+END_MESSAGE_MAP()
+
+TEST(MenuUpdate, PopupShowsWhatTheHandlersSay) {
+    MenuFrame frame;
+    ASSERT_TRUE(frame.Create(nullptr, _T("frame")));
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    for (UINT id = 400; id <= 405; ++id)
+        ASSERT_TRUE(menu.AppendMenu(MF_STRING, id, _T("Undo")));
+    frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
+    constexpr UINT greyed = MF_GRAYED | MF_DISABLED;
+    EXPECT_EQ(greyed, menu.GetMenuState(400, MF_BYCOMMAND) & greyed) << "its handler disables it";
+    EXPECT_EQ(0u, menu.GetMenuState(404, MF_BYCOMMAND) & greyed) << "has a command handler only";
+    EXPECT_EQ(greyed, menu.GetMenuState(405, MF_BYCOMMAND) & greyed) << "has no handler at all";
+    EXPECT_EQ(0u, menu.GetMenuState(401, MF_BYCOMMAND) & MF_CHECKED);
+    EXPECT_EQ(MF_CHECKED, static_cast<int>(menu.GetMenuState(402, MF_BYCOMMAND) & MF_CHECKED));
+    EXPECT_EQ(MF_CHECKED, static_cast<int>(menu.GetMenuState(403, MF_BYCOMMAND) & MF_CHECKED));
+    CString text;
+    EXPECT_EQ(5, menu.GetMenuString(403, text, MF_BYCOMMAND));
+    EXPECT_EQ(CString(_T("실행 취소")), text);
+    EXPECT_EQ(0, menu.GetMenuString(999, text, MF_BYCOMMAND));
+    EXPECT_TRUE(text.IsEmpty());
+    frame.DestroyWindow();
+    EXPECT_TRUE(frame.isGone);
+}
+
+TEST(MenuUpdate, CommandThatIsDisabledDoesNotRun) {
+    MenuFrame frame;
+    ASSERT_TRUE(frame.Create(nullptr, _T("frame")));
+    frame.SendMessage(WM_COMMAND, 400);
+    EXPECT_EQ(0, frame.ran);
+    frame.isAllowed = true;
+    frame.SendMessage(WM_COMMAND, 400);
+    EXPECT_EQ(1, frame.ran);
+    frame.DestroyWindow();
+}
+
+}  // namespace

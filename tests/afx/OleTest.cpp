@@ -1,0 +1,167 @@
+#include <afxadv.h>
+#include <afxodlgs.h>
+#include <gtest/gtest.h>
+
+#include "WindowSupport.h"
+
+#include <string>
+
+namespace {
+
+const CLIPFORMAT ownFormat =
+    static_cast<CLIPFORMAT>(::RegisterClipboardFormat(_T("Class library test data")));
+
+HGLOBAL Memory(const std::string& content) {
+    CSharedFile file;
+    file.Write(content.data(), static_cast<UINT>(content.size()));
+    return file.Detach();
+}
+
+std::string Content(HGLOBAL memory, size_t length) {
+    const char* bytes = static_cast<const char*>(::GlobalLock(memory));
+    std::string content(bytes ? bytes : "", bytes ? length : 0);
+    ::GlobalUnlock(memory);
+    return content;
+}
+
+class Ole : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(AfxOleInit()); }
+    void TearDown() override {
+        ::OleSetClipboard(nullptr);
+        AfxOleTerm();
+    }
+};
+
+/// Tells when it is gone.
+class CountedSource : public COleDataSource {
+public:
+    explicit CountedSource(int& alive) : m_alive(alive) { ++m_alive; }
+    ~CountedSource() override { --m_alive; }
+
+private:
+    int& m_alive;
+};
+
+TEST_F(Ole, ClipboardGivesBackWhatWasCached) {
+    int alive = 0;
+    auto* source = new CountedSource(alive);
+    source->CacheGlobalData(ownFormat, Memory("first"));
+    source->CacheGlobalData(ownFormat, Memory("second data"));
+    source->CacheGlobalData(CF_UNICODETEXT, Memory(std::string("A\0B\0\0\0", 6)));
+    source->SetClipboard();
+    EXPECT_EQ(source, COleDataSource::GetClipboardOwner());
+    {
+        COleDataObject data;
+        EXPECT_FALSE(data.IsDataAvailable(ownFormat)) << "nothing is attached yet";
+        ASSERT_TRUE(data.AttachClipboard());
+        EXPECT_TRUE(data.IsDataAvailable(ownFormat));
+        EXPECT_TRUE(data.IsDataAvailable(CF_UNICODETEXT));
+        EXPECT_FALSE(data.IsDataAvailable(CF_DIB));
+        EXPECT_EQ(nullptr, data.GetGlobalData(CF_DIB));
+        HGLOBAL first = data.GetGlobalData(ownFormat);
+        HGLOBAL again = data.GetGlobalData(ownFormat);
+        EXPECT_NE(first, again) << "every caller owns a copy";
+        EXPECT_EQ("second data", Content(first, 11));
+        ::GlobalFree(first);
+        EXPECT_EQ("second data", Content(again, 11));
+        ::GlobalFree(again);
+    }
+    ASSERT_TRUE(::OpenClipboard(nullptr));
+    HANDLE plain = ::GetClipboardData(ownFormat);
+    EXPECT_EQ("second data", Content(plain, 11)) << "programs without OLE read it too";
+    ::CloseClipboard();
+    auto* next = new CountedSource(alive);
+    next->SetClipboard();
+    EXPECT_EQ(1, alive) << "the replaced source is gone";
+    COleDataObject empty;
+    ASSERT_TRUE(empty.AttachClipboard());
+    EXPECT_FALSE(empty.IsDataAvailable(ownFormat));
+    empty.Release();
+    ::OleSetClipboard(nullptr);
+    EXPECT_EQ(0, alive);
+    EXPECT_EQ(nullptr, COleDataSource::GetClipboardOwner());
+}
+
+TEST_F(Ole, FlushedDataOutlivesItsSource) {
+    int alive = 0;
+    auto* source = new CountedSource(alive);
+    source->CacheGlobalData(ownFormat, Memory("kept"));
+    source->SetClipboard();
+    COleDataSource::FlushClipboard();
+    EXPECT_EQ(0, alive);
+    COleDataObject data;
+    ASSERT_TRUE(data.AttachClipboard());
+    HGLOBAL memory = data.GetGlobalData(ownFormat);
+    EXPECT_EQ("kept", Content(memory, 4));
+    ::GlobalFree(memory);
+}
+
+TEST_F(Ole, DataSourceListsItsFormats) {
+    COleDataSource source;
+    source.CacheGlobalData(ownFormat, Memory("x"));
+    IEnumFORMATETC* formats = nullptr;
+    ASSERT_EQ(S_OK, source.GetDataObject()->EnumFormatEtc(DATADIR_GET, &formats));
+    FORMATETC format;
+    ASSERT_EQ(S_OK, formats->Next(1, &format, nullptr));
+    EXPECT_EQ(ownFormat, format.cfFormat);
+    EXPECT_EQ(S_FALSE, formats->Next(1, &format, nullptr));
+    formats->Release();
+    format = {ownFormat, nullptr, DVASPECT_CONTENT, -1, TYMED_ISTREAM};
+    EXPECT_EQ(DV_E_FORMATETC, source.GetDataObject()->QueryGetData(&format)) << "memory is no stream";
+    source.Empty();
+    format.tymed = TYMED_HGLOBAL;
+    EXPECT_EQ(DV_E_FORMATETC, source.GetDataObject()->QueryGetData(&format));
+}
+
+TEST_F(Ole, ClientItemOfNoClassStaysEmpty) {
+    COleClientItem item;
+    EXPECT_FALSE(item.UpdateLink());
+    EXPECT_EQ(OLE_E_BLANK, item.GetLastStatus());
+    EXPECT_FALSE(item.CreateNewItem(CLSID_NULL));
+    EXPECT_TRUE(FAILED(item.GetLastStatus()));
+    EXPECT_EQ(static_cast<UINT>(COleClientItem::emptyState), item.GetItemState());
+    EXPECT_EQ(nullptr, item.m_lpObject);
+    CClientDC dc(nullptr);
+    EXPECT_FALSE(item.Draw(&dc, CRect(0, 0, 9, 9)));
+}
+
+TEST_F(Ole, ClientItemHoldsARealObject) {
+    const CLSID webBrowser = {0x8856F961, 0x340A, 0x11D0, {0xA9, 0x6B, 0x00, 0xC0, 0x4F, 0xD7, 0x05, 0xA2}};
+    COleClientItem item;
+    ASSERT_TRUE(item.CreateNewItem(webBrowser, OLERENDER_NONE)) << item.GetLastStatus();
+    EXPECT_EQ(static_cast<UINT>(COleClientItem::loadedState), item.GetItemState());
+    CSize extent;
+    EXPECT_TRUE(item.GetExtent(&extent));
+    EXPECT_GT(extent.cx, 0);
+    IUnknown* object = item.m_lpObject;
+    object->AddRef();
+    item.Release();
+    EXPECT_EQ(nullptr, item.m_lpObject);
+    EXPECT_EQ(0u, object->Release()) << "the item let go of it";
+}
+
+TEST_F(Ole, InsertDialogOpensAndCanBeCancelled) {
+    static bool wasShown;
+    wasShown = false;
+    UINT_PTR timer = ::SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
+        auto cancel = [](HWND window, LPARAM) -> BOOL {
+            TCHAR name[32];
+            ::GetClassName(window, name, 32);
+            if (::lstrcmp(name, _T("#32770")) != 0 || !::IsWindowVisible(window))
+                return TRUE;
+            wasShown = true;
+            ::PostMessage(window, WM_COMMAND, IDCANCEL, 0);
+            return FALSE;
+        };
+        ::EnumThreadWindows(::GetCurrentThreadId(), cancel, 0);
+    });
+    COleInsertDialog dialog(IOF_SELECTCREATENEW);
+    EXPECT_EQ(IDCANCEL, dialog.DoModal()) << dialog.GetLastError();
+    ::KillTimer(nullptr, timer);
+    EXPECT_TRUE(wasShown);
+    EXPECT_EQ(static_cast<UINT>(COleInsertDialog::createNewItem), dialog.GetSelectionType());
+    EXPECT_FALSE(dialog.CreateItem(nullptr));
+}
+
+}  // namespace

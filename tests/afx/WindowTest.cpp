@@ -1,0 +1,281 @@
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include "WindowSupport.h"
+
+#include <new>
+#include <vector>
+
+namespace {
+
+/// An edit control that sees its messages from the first one on.
+class WatchedEdit : public CEdit {
+public:
+    bool wasCreated = false;
+    CString textAtCreation;
+    bool* isDeleted = nullptr;
+    std::vector<UINT> keys;
+
+protected:
+    int OnCreate(LPCREATESTRUCT cs) {
+        wasCreated = CEdit::OnCreate(cs) != -1;
+        return wasCreated ? 0 : -1;
+    }
+    BOOL OnNcCreate(LPCREATESTRUCT cs) {
+        textAtCreation = cs->lpszName;
+        return CEdit::OnNcCreate(cs);
+    }
+    void OnChar(UINT key, UINT repeat, UINT flags) {
+        keys.push_back(key);
+        if (key == VK_ESCAPE)
+            DestroyWindow();
+        else
+            CEdit::OnChar(key, repeat, flags);
+    }
+    void PostNcDestroy() override {
+        if (isDeleted) {
+            *isDeleted = true;
+            delete this;
+        }
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(WatchedEdit, CEdit)
+    ON_WM_CREATE()
+    ON_WM_NCCREATE()
+    ON_WM_CHAR()
+END_MESSAGE_MAP()
+
+TEST(WindowCreation, BuiltInClassReportsItsCreationToTheObject) {
+    CWnd parent;
+    ASSERT_TRUE(CreateHidden(parent));
+    WatchedEdit edit;
+    ASSERT_TRUE(edit.CreateEx(0, _T("EDIT"), _T("한글"), WS_CHILD, CRect(1, 2, 90, 30), &parent, 1010));
+    EXPECT_TRUE(edit.wasCreated);
+    EXPECT_EQ(CString(_T("한글")), edit.textAtCreation);
+    EXPECT_EQ(&edit, parent.GetDlgItem(1010));
+    edit.SendMessage(WM_CHAR, 'A', 1);
+    CString text;
+    edit.GetWindowText(text);
+    EXPECT_EQ(3, text.GetLength()) << "the control itself handled the key as well";
+}
+
+TEST(WindowCreation, ObjectMayDeleteItselfInItsOwnHandler) {
+    CWnd parent;
+    ASSERT_TRUE(CreateHidden(parent));
+    bool isDeleted = false;
+    auto* edit = new WatchedEdit;
+    edit->isDeleted = &isDeleted;
+    ASSERT_TRUE(edit->Create(WS_CHILD, CRect(0, 0, 50, 20), &parent, 5));
+    HWND window = edit->m_hWnd;
+    ::SendMessage(window, WM_CHAR, VK_ESCAPE, 1);
+    EXPECT_TRUE(isDeleted);
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+}
+
+/// Refuses or fails in WM_CREATE in the way it is told.
+class Refusing : public CWnd {
+public:
+    int* ended;
+    bool throws;
+    Refusing(int* counter, bool throwing) : ended(counter), throws(throwing) {}
+
+protected:
+    int OnCreate(LPCREATESTRUCT) {
+        if (throws)
+            AfxThrowMemoryException();
+        return -1;
+    }
+    void PostNcDestroy() override {
+        ++*ended;
+        delete this;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Refusing, CWnd)
+    ON_WM_CREATE()
+END_MESSAGE_MAP()
+
+TEST(WindowCreation, RefusedWindowEndsItsObjectOnce) {
+    int ended = 0;
+    EXPECT_FALSE(CreateHidden(*new Refusing(&ended, false)));
+    EXPECT_EQ(1, ended);
+    EXPECT_FALSE(CreateHidden(*new Refusing(&ended, true)));
+    EXPECT_EQ(2, ended);
+    auto* unknownClass = new Refusing(&ended, false);
+    EXPECT_FALSE(unknownClass->CreateEx(0, _T("no such class"), _T(""), 0, 0, 0, 1, 1, nullptr, nullptr));
+    EXPECT_EQ(3, ended);
+    CWnd after;
+    EXPECT_TRUE(CreateHidden(after)) << "a failed creation leaves no hook behind";
+}
+
+TEST(WindowLifetime, ObjectThatGoesTakesItsWindowAlong) {
+    HWND window;
+    {
+        CWnd object;
+        ASSERT_TRUE(CreateHidden(object));
+        window = object.m_hWnd;
+        EXPECT_EQ(&object, CWnd::FromHandle(window));
+    }
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
+}
+
+TEST(WindowLifetime, DestroyingTheParentEmptiesTheChildObject) {
+    CWnd parent;
+    CEdit child;
+    ASSERT_TRUE(CreateHidden(parent));
+    ASSERT_TRUE(child.Create(WS_CHILD, CRect(0, 0, 9, 9), &parent, 3));
+    parent.DestroyWindow();
+    EXPECT_EQ(nullptr, child.m_hWnd);
+    EXPECT_EQ(nullptr, parent.m_hWnd);
+    EXPECT_FALSE(child.DestroyWindow());
+}
+
+TEST(WindowLifetime, TemporaryObjectOwnsNothing) {
+    HWND window =
+        ::CreateWindow(_T("STATIC"), _T("t"), WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    CWnd* temporary = CWnd::FromHandle(window);
+    EXPECT_EQ(temporary, CWnd::FromHandle(window));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+    CWnd::DeleteTempMap();
+    EXPECT_TRUE(::IsWindow(window));
+    ::DestroyWindow(window);
+}
+
+TEST(Subclassing, TakesOverAndGivesBack) {
+    HWND window =
+        ::CreateWindow(_T("EDIT"), _T("t"), WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    LONG_PTR before = ::GetWindowLongPtr(window, GWLP_WNDPROC);
+    WatchedEdit edit;
+    ASSERT_TRUE(edit.SubclassWindow(window));
+    WatchedEdit second;
+    EXPECT_FALSE(second.SubclassWindow(window)) << "a window has one object";
+    ::SendMessage(window, WM_CHAR, 'x', 1);
+    EXPECT_EQ(1u, edit.keys.size());
+    EXPECT_EQ(window, edit.UnsubclassWindow());
+    EXPECT_EQ(before, ::GetWindowLongPtr(window, GWLP_WNDPROC));
+    ::SendMessage(window, WM_CHAR, 'x', 1);
+    EXPECT_EQ(1u, edit.keys.size());
+    ::DestroyWindow(window);
+}
+
+/// Throws what it is told to in the message it is told to.
+class Thrower : public CWnd {
+public:
+    static int alive;
+    int paints = 0;
+
+    struct Counted : CSimpleException {
+        Counted() { ++alive; }
+        ~Counted() override { --alive; }
+    };
+
+protected:
+    LRESULT OnThrow(WPARAM isMemory, LPARAM) {
+        if (isMemory)
+            throw std::bad_alloc();
+        throw new Counted;
+    }
+    void OnPaint() {
+        ++paints;
+        throw new Counted;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+int Thrower::alive = 0;
+
+BEGIN_MESSAGE_MAP(Thrower, CWnd)
+    ON_MESSAGE(WM_APP, &Thrower::OnThrow)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+TEST(HandlerException, EndsAtTheWindowProcedure) {
+    Thrower window;
+    ASSERT_TRUE(CreateHidden(window));
+    EXPECT_EQ(0, window.SendMessage(WM_APP));
+    EXPECT_EQ(0, window.SendMessage(WM_APP, 1));
+    EXPECT_EQ(0, Thrower::alive);
+    window.ShowWindow(SW_SHOWNA);
+    window.Invalidate();
+    window.UpdateWindow();
+    EXPECT_GE(window.paints, 1);
+    EXPECT_FALSE(window.GetUpdateRect(nullptr)) << "a failing paint must not come again for ever";
+    EXPECT_EQ(0, Thrower::alive);
+}
+
+/// A program that keeps what it would have shown.
+class QuietApp : public CWinApp {
+public:
+    QuietApp() : CWinApp(_T("Quiet")) {}
+    std::vector<CString> shown;
+
+    int DoMessageBox(LPCTSTR text, UINT, UINT) override {
+        shown.push_back(text);
+        return IDOK;
+    }
+};
+
+TEST(HandlerException, ProgramShowsItsText) {
+    QuietApp app;
+    Thrower window;
+    ASSERT_TRUE(CreateHidden(window));
+    window.SendMessage(WM_APP, 1);
+    ASSERT_EQ(1u, app.shown.size());
+    TCHAR expected[256];
+    CMemoryException(FALSE).GetErrorMessage(expected, 256);
+    EXPECT_EQ(CString(expected), app.shown[0]);
+    AfxMessageBox(_T("own"));
+    EXPECT_EQ(CString(_T("own")), app.shown[1]);
+}
+
+TEST(WindowMembers, TextStyleAndFamily) {
+    CWnd parent;
+    CStatic middle;
+    CButton button;
+    ASSERT_TRUE(CreateHidden(parent));
+    ASSERT_TRUE(middle.Create(_T(""), WS_CHILD, CRect(10, 20, 110, 120), &parent, 50));
+    ASSERT_TRUE(button.Create(_T("ok"), BS_AUTOCHECKBOX, CRect(5, 6, 25, 26), &middle, 51));
+    EXPECT_EQ(&parent, button.GetTopLevelParent());
+    EXPECT_EQ(nullptr, button.GetTopLevelFrame());
+    EXPECT_EQ(&button, parent.GetDescendantWindow(51));
+    EXPECT_TRUE(button.ModifyStyle(0, WS_TABSTOP));
+    EXPECT_FALSE(button.ModifyStyle(0, WS_TABSTOP));
+    CRect rect;
+    button.GetWindowRect(&rect);
+    parent.ScreenToClient(&rect);
+    EXPECT_EQ(CRect(15, 26, 35, 46), rect);
+    CString text;
+    parent.GetDlgItemText(50, text);
+    EXPECT_TRUE(text.IsEmpty());
+    button.SetCheck(1);
+    EXPECT_EQ(1, button.GetCheck());
+}
+
+TEST(WindowMembers, CombosAndListsKeepTheirItems) {
+    CWnd parent;
+    CComboBox combo;
+    CListBox list;
+    ASSERT_TRUE(CreateHidden(parent));
+    ASSERT_TRUE(combo.Create(CBS_DROPDOWNLIST, CRect(0, 0, 90, 200), &parent, 60));
+    ASSERT_TRUE(list.Create(0, CRect(0, 40, 90, 90), &parent, 61));
+    for (LPCTSTR item : {_T("하나"), _T("two"), _T("")}) {
+        combo.AddString(item);
+        list.AddString(item);
+    }
+    CString text;
+    combo.GetLBText(0, text);
+    EXPECT_EQ(CString(_T("하나")), text);
+    list.GetText(1, text);
+    EXPECT_EQ(CString(_T("two")), text);
+    list.GetText(9, text);
+    EXPECT_TRUE(text.IsEmpty());
+    EXPECT_EQ(1, combo.FindStringExact(-1, _T("two")));
+    EXPECT_EQ(3, list.GetCount());
+}
+
+}  // namespace
