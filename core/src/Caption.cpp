@@ -14,9 +14,6 @@ namespace {
 // Line height of a tall font in ems, on the generous side.
 constexpr float kTallLine = 3.0f;
 
-// Keeps rounding from wrapping a text into a box of its own width.
-constexpr float kWrapSlack = 0.5f;
-
 // Page units in a unit of the font size, on the generous side: the resolution is not known here.
 float LargestUnit(int unit) {
     switch (unit) {
@@ -31,6 +28,15 @@ float LargestUnit(int unit) {
         default:
             return 1.0f;
     }
+}
+
+// The box that the text is laid out in. Not a point, off which the alignment would move the text; and with as
+// much room again on the sides that the text is not aligned to, so that it never wraps.
+Gdiplus::RectF CaptionBox(const Gdiplus::RectF& position, const Gdiplus::SizeF& size, int alignment) {
+    const Gdiplus::PointF centre = CentreOf(position);
+    const float room = size.Width;
+    const float left = centre.X - size.Width * 0.5f - room * static_cast<float>(alignment) * 0.5f;
+    return {left, centre.Y - size.Height * 0.5f, size.Width + room, size.Height};
 }
 
 }  // namespace
@@ -55,15 +61,12 @@ void DrawCaption(Gdiplus::Graphics& graphics, const CUIShapeFormatText& text,
     // Nothing has been saved or changed yet, so there is nothing to restore on this path.
     if (size.Width > position.Width)
         return;
-    // A box of the text's own size rather than a point: the alignment would move the text off a point.
-    const Gdiplus::PointF centre = CentreOf(position);
-    const Gdiplus::RectF box(centre.X - size.Width * 0.5f - kWrapSlack, centre.Y - size.Height * 0.5f,
-                             size.Width + 2.0f * kWrapSlack, size.Height);
+    const int alignment = CaptionCache::AlignmentOf(text);
     GraphicsStateScope state(graphics);
     graphics.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(text.m_nRenderHint));
     Gdiplus::SolidBrush brush{Gdiplus::Color(text.m_dwTextColor)};
-    graphics.DrawString(text.m_strText, text.m_strText.GetLength(), font, box,
-                        cache.FormatOf(text.m_nAlignment), &brush);
+    graphics.DrawString(text.m_strText, text.m_strText.GetLength(), font,
+                        CaptionBox(position, size, alignment), cache.FormatOf(alignment), &brush);
 }
 
 }  // namespace Lumo

@@ -74,13 +74,17 @@ const Gdiplus::Font* CaptionCache::FontOf(const CUIShapeFormatText& text) {
     return m_fonts.emplace(key, MakeFont(text)).first->second.get();
 }
 
+int CaptionCache::AlignmentOf(const CUIShapeFormatText& text) {
+    const bool known = text.m_nAlignment >= 0 && text.m_nAlignment <= Gdiplus::StringAlignmentFar;
+    return known ? text.m_nAlignment : Gdiplus::StringAlignmentNear;
+}
+
 const Gdiplus::StringFormat* CaptionCache::FormatOf(int alignment) {
-    const int code = alignment >= 0 && alignment <= 2 ? alignment : 0;
-    auto& format = m_formats[code];
+    auto& format = m_formats[alignment];
     if (format == nullptr) {
         format = std::make_unique<Gdiplus::StringFormat>(Gdiplus::StringFormatFlagsNoClip);
-        format->SetAlignment(static_cast<Gdiplus::StringAlignment>(code));
-        format->SetLineAlignment(static_cast<Gdiplus::StringAlignment>(code));
+        format->SetAlignment(static_cast<Gdiplus::StringAlignment>(alignment));
+        format->SetLineAlignment(static_cast<Gdiplus::StringAlignment>(alignment));
     }
     return format.get();
 }
@@ -96,7 +100,7 @@ Gdiplus::SizeF CaptionCache::Measure(Gdiplus::Graphics& graphics, const CUIShape
     graphics.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(text.m_nRenderHint));
     Gdiplus::RectF box;
     graphics.MeasureString(text.m_strText, text.m_strText.GetLength(), &font, Gdiplus::PointF(),
-                           FormatOf(text.m_nAlignment), &box);
+                           FormatOf(AlignmentOf(text)), &box);
     const Gdiplus::SizeF size(box.Width, box.Height);
     if (m_sizes.size() >= kMaxSizes)
         m_sizes.clear();

@@ -1,7 +1,5 @@
 #include "appearance/UIObjectRectangle.h"
 
-#include <string>
-
 #include "core/PaintScope.h"
 #include "support/Geometry.h"
 #include "support/Surface.h"

@@ -1,5 +1,4 @@
-#include <cmath>
-#include <string>
+#include <vector>
 
 #include "appearance/UIObjectRectangle.h"
 #include "core/GraphicsStateScope.h"
@@ -98,15 +97,24 @@ TEST(CaptionTest, FollowsChangesOfTextAndFont) {
     EXPECT_GT(width(), four * 3 / 2);
 }
 
-TEST(CaptionTest, StaysOnOneLine) {
-    for (const wchar_t* text : {L"Fader level 12 dB", L"a b c d e f g h", L"Rectangle 10000", L"I I I I I"})
+TEST(CaptionTest, NeverWraps) {
+    const struct {
+        const wchar_t* text;
+        const wchar_t* font;
+        int height;
+    } cases[] = {{L"Fader level 12 dB", L"Arial", 25},
+                 {L"a b c d e f g h", L"Arial", 25},
+                 {L"I I I I I", L"Segoe UI", 25},
+                 {L"\xAC00\xB098\xB2E4 Level\n12 dB", L"Malgun Gothic", 56}};
+    for (const auto& c : cases)
         for (int alignment : {0, 1, 2}) {
             Surface surface(300, 100);
-            CUIObject object = Captioned(text, {0.3f, 0.7f, 299.3f, 99.1f});
+            CUIObject object = Captioned(c.text, {0.3f, 0.7f, 299.3f, 99.1f});
+            object.SetTextFontName(c.font);
             object.SetTextAlignment(alignment);
             object.Draw(surface);
             const CRect painted = surface.Painted();
-            EXPECT_LT(painted.Height(), 25) << alignment;
+            EXPECT_LT(painted.Height(), c.height) << alignment;
             EXPECT_GT(painted.Width(), 45) << alignment;
         }
 }
@@ -161,9 +169,9 @@ TEST(PaintScopeTest, MissesOnlyWhatDoesNotTouch) {
 // The pixels inside the update rectangle are the same with the scope as without it.
 TEST(PaintScopeTest, ChangesNoPixelOfTheUpdateRectangle) {
     CUIObjectRectangle rectangle({20, 20, 60, 30}, DS_RECTANGLE);
-    rectangle.SetLineWidth(9);
+    rectangle.SetLineWidth(12);
     CUIObjectRectangle turnedOver({180, 120, -60, -30}, DS_RECTANGLE);
-    turnedOver.SetLineWidth(9);
+    turnedOver.SetLineWidth(12);
     CUIObjectEllipse ellipse({120, 20, 60, 30}, DS_ELLIPSE);
     ellipse.SetText(L"Tall\ncaption");
     const auto draw = [&](Surface& surface) {
@@ -197,13 +205,15 @@ TEST(PaintScopeTest, ObjectOutsideIsNotPainted) {
 
 namespace {
 
-struct PathBounds {
-    explicit PathBounds(const Gdiplus::GraphicsPath& path) {
+struct PathShape {
+    explicit PathShape(const Gdiplus::GraphicsPath& path) : points(path.GetPointCount()) {
         path.GetBounds(&rect);
-        count = path.GetPointCount();
+        path.GetPathPoints(points.data(), static_cast<INT>(points.size()));
     }
+    // Where the arc of the right top corner starts: the first arc has four points.
+    float SecondArc() const { return points.size() > 4 ? points[4].X : -1000.0f; }
     Gdiplus::RectF rect;
-    int count;
+    std::vector<Gdiplus::PointF> points;
 };
 
 }  // namespace
@@ -216,31 +226,33 @@ TEST(RoundRectPathTest, MemberAndFreeFunction) {
         Box rect;
         int diameter;
         Box want;
+        float secondArc;
     } cases[] = {// The far arcs end one unit inside the far edges.
-                 {{10, 20, 100, 60}, 10, {10, 20, 99, 59}},
+                 {{10, 20, 100, 60}, 10, {10, 20, 99, 59}, 104},
                  // 20 takes one unit off the rectangle and adds one to the arcs.
-                 {{10, 20, 100, 60}, 20, {10, 20, 99, 59}},
+                 {{10, 20, 100, 60}, 20, {10, 20, 99, 59}, 98.5f},
                  // The diameter is cut to the width, then to the height.
-                 {{0, 0, 30, 40}, 50, {0, 0, 29, 39}},
-                 {{0, 0, 40, 30}, 50, {0, 0, 39, 29}}};
+                 {{0, 0, 30, 40}, 50, {0, 0, 29, 39}, 14},
+                 {{0, 0, 40, 30}, 50, {0, 0, 39, 29}, 24}};
     for (const auto& c : cases) {
         object.GetRoundRectPath(&path, {c.rect.x, c.rect.y, c.rect.width, c.rect.height}, c.diameter);
-        const PathBounds member(path);
+        const PathShape member(path);
         EXPECT_NEAR(member.rect.X, c.want.x, 0.01) << c.diameter;
         EXPECT_NEAR(member.rect.Width, c.want.width, 0.01) << c.diameter;
         EXPECT_NEAR(member.rect.Height, c.want.height, 0.01) << c.diameter;
-        path.Reset();
+        EXPECT_NEAR(member.SecondArc(), c.secondArc, 0.01) << c.diameter;
         EXPECT_EQ(GetRoundRectPath(&path, c.rect.x, c.rect.y, c.rect.width, c.rect.height, c.diameter),
                   Gdiplus::Ok);
-        const PathBounds free(path);
-        EXPECT_EQ(free.count, member.count);
+        const PathShape free(path);
+        EXPECT_EQ(free.points.size(), member.points.size());
+        EXPECT_NEAR(free.SecondArc(), c.secondArc, 0.01) << c.diameter;
         EXPECT_NEAR(free.rect.X, member.rect.X, 0.01) << c.diameter;
         EXPECT_NEAR(free.rect.Width, member.rect.Width, 0.01) << c.diameter;
         EXPECT_NEAR(free.rect.Height, member.rect.Height, 0.01) << c.diameter;
     }
     EXPECT_EQ(GetRoundRectPath(&path, 10.9f, -10.9f, 100, 60, 8), Gdiplus::Ok);
-    EXPECT_EQ(PathBounds(path).rect.X, 10);
-    EXPECT_EQ(PathBounds(path).rect.Y, -10);
+    EXPECT_EQ(PathShape(path).rect.X, 10);
+    EXPECT_EQ(PathShape(path).rect.Y, -10);
     EXPECT_EQ(GetRoundRectPath(nullptr, 0, 0, 1, 1, 1), Gdiplus::InvalidParameter);
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "support/Geometry.h"
+#include "support/MessageBoxAnswerer.h"
 
 namespace Lumo {
 
@@ -219,6 +220,13 @@ TEST(ObjectHandlesTest, InvertMovesTheObjectPastItsEdge) {
     EXPECT_EQ(object.m_handle, 2);
     EXPECT_EQ(Spot(object.m_delta), Spot(0, -80));
     EXPECT_EQ(Box(object.GetPosition()), Box(40, 60, 30, 40));
+}
+
+TEST(ObjectTest, PreferenceDialogIsAMessageBox) {
+    CUIObject object;
+    MessageBoxAnswerer answerer;
+    object.ShowPreferenceDialog(nullptr);
+    EXPECT_EQ(answerer.texts, std::vector<CString>{L"ShowPreferenceDialog"});
 }
 
 TEST(ObjectTest, ResetColorRestoresFillAndLineColourOnly) {

@@ -349,7 +349,8 @@ TEST_F(PolyDrawTest, TrackerHasASquareOnEveryPoint) {
 TEST_F(PolyDrawTest, PaintScopeChangesNoPixelOfTheUpdate) {
     Add(m_line, {{60, 60}, {130, 90}});
     m_line.SetLineWidth(5);
-    Add(m_polyLine, {{20, 150}, {60, 180}, {100, 150}, {180, 150}});
+    Add(m_polyLine, {{21, 158}, {58, 182}, {102, 158}, {178, 158}, {178, 21}});
+    m_polyLine.SetLineWidth(8);
     m_polyLine.SetLineShapeMode(2);
     m_line.Draw(m_surface);
     m_polyLine.Draw(m_surface);
