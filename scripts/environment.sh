@@ -29,4 +29,3 @@ fi
 
 mkdir -p build
 scripts/wine-prefix.sh
-wineserver -p >/dev/null 2>&1 || true

@@ -1,16 +1,17 @@
 #!/usr/bin/env bash
 # Makes the Wine prefix that the environment names, with the fonts mapped: GDI+ and menus show Latin and Korean text
-# only when the prefix knows which installed font stands for which Windows font. Needs WINEPREFIX and a display.
+# only when the prefix knows which installed font stands for which Windows font. Starts the wineserver that stays until
+# it is ended. Needs WINEPREFIX and a display.
 set -euo pipefail
 
 stamp="$WINEPREFIX/.tessel-fonts-1"
+[ -f "$stamp" ] || rm -rf "$WINEPREFIX"
+mkdir -p "$WINEPREFIX"
+wineserver -p >/dev/null 2>&1 || true  # one that runs already is as good
 [ -f "$stamp" ] && exit 0
 
-rm -rf "$WINEPREFIX"
-mkdir -p "$WINEPREFIX"
 echo "Making the Wine prefix"
 WINEDLLOVERRIDES="mscoree,mshtml=" wineboot -i >/dev/null 2>&1
-wineserver -p
 
 add() { wine reg add "$@" /f >/dev/null 2>&1; }
 
