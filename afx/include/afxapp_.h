@@ -45,6 +45,8 @@ public:
     LPCTSTR m_pszExeName = nullptr;
 
     virtual BOOL InitApplication() { return TRUE; }
+    /// As CWinThread; ends at once when InitInstance made no main window.
+    int Run() override;
     int ExitInstance() override;
     /// Shows an exception that no handler caught.
     LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override;

@@ -300,13 +300,12 @@ protected:
     afx_msg void OnVScroll(UINT, UINT, CScrollBar*) { Default(); }
     DECLARE_MESSAGE_MAP()
 
-    WNDPROC m_pfnSuper;  ///< procedure the window had before it was taken over
-    int m_nModalResult;  ///< result of RunModalLoop
+    WNDPROC m_pfnSuper;             ///< procedure the window had before it was taken over
+    bool m_bContinueModal = false;  ///< RunModalLoop goes on
+    int m_nModalResult;             ///< result of RunModalLoop
 
 private:
     explicit CWnd(HWND hWnd);
-
-    bool m_bContinueModal = false;
 
     friend LRESULT AFXAPI AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
 };

@@ -80,6 +80,12 @@ void CWinApp::SetInstance(HINSTANCE hInstance, LPTSTR lpCmdLine, int nCmdShow) {
     m_pszAppName = m_strAppName;
 }
 
+int CWinApp::Run() {
+    if (!m_pMainWnd)
+        AfxPostQuitMessage(0);
+    return CWinThread::Run();
+}
+
 int CWinApp::ExitInstance() {
     return CWinThread::ExitInstance();
 }

@@ -81,9 +81,10 @@ INT_PTR CDialog::DoModal() {
     if (wasEnabled)
         ::EnableWindow(owner, FALSE);
     m_nModalResult = -1;
+    m_bContinueModal = true;
     INT_PTR result = -1;
     if (CreateIndirect(dialogTemplate, CWnd::FromHandle(owner)) && m_hWnd)
-        result = RunModalLoop(MLF_SHOWONIDLE);
+        result = m_bContinueModal ? RunModalLoop(MLF_SHOWONIDLE) : m_nModalResult;  // OnInitDialog may end it
     // The owner is enabled before the dialog goes, or another program would be activated.
     if (wasEnabled)
         ::EnableWindow(owner, TRUE);

@@ -62,10 +62,13 @@ class AskDialog : public CDialog {
 public:
     int starts = 0;
     bool refusesFirst = false;
+    bool endsItself = false;
 
 protected:
     BOOL OnInitDialog() override {
         ++starts;
+        if (endsItself)
+            EndDialog(99);
         return CDialog::OnInitDialog();
     }
     void OnOK() override {
@@ -89,6 +92,10 @@ TEST(Dialog, RunsUntilItIsAnswered) {
         EXPECT_EQ(1, dialog.starts);
         EXPECT_EQ(nullptr, dialog.m_hWnd);
     }
+    AskDialog hasty;
+    hasty.endsItself = true;
+    hasty.InitModalIndirect(&memory.header);
+    EXPECT_EQ(99, hasty.DoModal());
     AskDialog missing;
     EXPECT_EQ(-1, missing.DoModal());
     CDialog noResource(12345);
