@@ -3,6 +3,7 @@
 
 #include "core/Platform.h"
 
+#include <functional>
 #include <memory>
 
 namespace Studio {
@@ -30,6 +31,8 @@ public:
 
     /// Graphics on the whole client area.
     Gdiplus::Graphics& Graphics() { return *m_graphics; }
+    /// Whether the rectangle has to be painted at all.
+    bool Needs(const CRect& rect) const;
     /// The client rectangle.
     const CRect& Client() const { return m_client; }
 
@@ -39,6 +42,11 @@ private:
     std::unique_ptr<Gdiplus::Bitmap> m_bitmap;
     std::unique_ptr<Gdiplus::Graphics> m_graphics;
 };
+
+/// A picture of `width` by `height` pixels with smooth edges, also where the graphics library does not smooth
+/// them: drawn four times as large and averaged. `draw` draws in pixels of the result.
+std::unique_ptr<Gdiplus::Bitmap> DrawSmooth(int width, int height,
+                                            const std::function<void(Gdiplus::Graphics&)>& draw);
 
 /// The font of bars, one for the program.
 HFONT BarFont();

@@ -6,6 +6,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 namespace Studio {
 
 using namespace Gdiplus;
@@ -17,14 +19,15 @@ constexpr int kStep = 44;
 constexpr int kMargin = 8;
 constexpr float kIcon = 24.0f;
 
-void FillRound(Graphics& g, const CRect& rect, DWORD color) {
-    constexpr float d = 10.0f;
-    const RectF r(rect.left + 0.5f, rect.top + 0.5f, rect.Width() - 1.0f, rect.Height() - 1.0f);
+// The face of a button with round corners.
+void FillRound(Graphics& g, DWORD color) {
+    constexpr float kDiameter = 12.0f;
+    constexpr float kFar = kButton - kDiameter;
     GraphicsPath path;
-    path.AddArc(r.X, r.Y, d, d, 180, 90);
-    path.AddArc(r.X + r.Width - d, r.Y, d, d, 270, 90);
-    path.AddArc(r.X + r.Width - d, r.Y + r.Height - d, d, d, 0, 90);
-    path.AddArc(r.X, r.Y + r.Height - d, d, d, 90, 90);
+    path.AddArc(0.0f, 0.0f, kDiameter, kDiameter, 180, 90);
+    path.AddArc(kFar, 0.0f, kDiameter, kDiameter, 270, 90);
+    path.AddArc(kFar, kFar, kDiameter, kDiameter, 0, 90);
+    path.AddArc(0.0f, kFar, kDiameter, kDiameter, 90, 90);
     path.CloseFigure();
     SolidBrush brush{Color(color)};
     g.FillPath(&brush, &path);
@@ -97,26 +100,28 @@ void Toolbox::OnPaint() {
     BufferedPaint paint(*this);
     Graphics& g = paint.Graphics();
     g.Clear(Color(Palette::kBar));
-    for (int button = 0; button < static_cast<int>(Tools().size()); ++button)
-        DrawButton(g, button);
+    for (int button = 0; button < static_cast<int>(Tools().size()); ++button) {
+        const CRect rect = ButtonRect(button);
+        if (!paint.Needs(rect))
+            continue;
+        const auto face = DrawSmooth(kButton, kButton, [&](Graphics& smooth) { DrawFace(smooth, button); });
+        g.DrawImage(face.get(), static_cast<INT>(rect.left), static_cast<INT>(rect.top));
+    }
     Pen edge{Color(Palette::kEdge)};
-    g.SetSmoothingMode(SmoothingModeNone);
-    g.DrawLine(&edge, kWidth - 1, 0, kWidth - 1, paint.Client().bottom);
+    g.DrawLine(&edge, kWidth - 1, 0, kWidth - 1, static_cast<INT>(paint.Client().bottom));
 }
 
-void Toolbox::DrawButton(Graphics& g, int button) const {
+void Toolbox::DrawFace(Graphics& g, int button) const {
     const ToolInfo& tool = Tools()[button];
-    const CRect rect = ButtonRect(button);
     const bool chosen = tool.kind == m_current;
     if (button == m_pressed && button == m_hot)
-        FillRound(g, rect, Palette::kPressed);
+        FillRound(g, Palette::kPressed);
     else if (chosen)
-        FillRound(g, rect, Palette::kChosen);
+        FillRound(g, Palette::kChosen);
     else if (button == m_hot)
-        FillRound(g, rect, Palette::kHover);
-    const float inset = (kButton - kIcon) / 2.0f;
-    DrawToolIcon(g, tool.kind, rect.left + inset, rect.top + inset, kIcon,
-                 chosen ? Palette::kAccent : Palette::kText);
+        FillRound(g, Palette::kHover);
+    constexpr float kInset = (kButton - kIcon) / 2.0f;
+    DrawToolIcon(g, tool.kind, kInset, kInset, kIcon, chosen ? Palette::kAccent : Palette::kText);
 }
 
 BOOL Toolbox::OnEraseBkgnd(CDC*) {
@@ -126,8 +131,10 @@ BOOL Toolbox::OnEraseBkgnd(CDC*) {
 void Toolbox::SetHot(int button) {
     if (m_hot == button)
         return;
-    m_hot = button;
-    Invalidate(FALSE);
+    for (int changed : {std::exchange(m_hot, button), button}) {
+        if (changed >= 0)
+            InvalidateRect(ButtonRect(changed), FALSE);
+    }
 }
 
 void Toolbox::OnMouseMove(UINT, CPoint point) {

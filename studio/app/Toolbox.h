@@ -32,7 +32,7 @@ protected:
 private:
     static CRect ButtonRect(int button);
     static int ButtonAt(CPoint point);
-    void DrawButton(Gdiplus::Graphics& g, int button) const;
+    void DrawFace(Gdiplus::Graphics& g, int button) const;
     void SetHot(int button);
     void AddTooltips();
 

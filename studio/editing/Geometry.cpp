@@ -88,6 +88,17 @@ void KeepProportions(const RectF& start, float& dx, float& dy) {
     dy = std::copysign(scale * height, dy);
 }
 
+// A caption that is narrow enough to be drawn may be higher than its object.
+float CaptionOverhang(CUIObject& object) {
+    constexpr float kNarrowLetter = 0.2f;
+    const float em = object.GetTextFontSize();
+    const Gdiplus::SizeF size = object.GetSize();
+    if (size.Height >= em * 1.5f ||
+        size.Width < em * kNarrowLetter * static_cast<float>(object.GetText().GetLength()))
+        return 0.0f;
+    return em;
+}
+
 }  // namespace
 
 Geometry CaptureGeometry(CUIObject& object) {
@@ -200,9 +211,7 @@ float PaintMargin(CUIObject& object) {
     // The line class triples its pen, and an anchor cap is twice as wide as the pen.
     if (AsPoly(object))
         return kTracker + object.GetLineWidth() * 6.0f;
-    // A caption may be higher than its object.
-    const float caption = object.GetTextFontSize();
-    return kTracker + object.GetLineWidth() + (object.GetSize().Height < caption * 1.5f ? caption : 0.0f);
+    return kTracker + object.GetLineWidth() + CaptionOverhang(object);
 }
 
 RectF United(const RectF& a, const RectF& b) {

@@ -40,6 +40,18 @@ GrabbedHandle FindHandle(StudioCanvas& page, CPoint at) {
     return {};
 }
 
+// Asks the selected objects only: the whole page would be too many for every move of the mouse.
+bool OverSelection(StudioCanvas& page, CPoint at) {
+    Gdiplus::PointF point = Lumo::PointGdiFromAtl(at);
+    for (CUIObject* object : page.m_selection) {
+        const Gdiplus::RectF reach =
+            Lumo::Inflated(Lumo::Normalised(object->GetPosition()), PaintMargin(*object));
+        if (Lumo::ContainsPoint(reach, point) && object->HitTest(point, 0) >= 0)
+            return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 PageTool::PageTool(Lumo::DrawShape kind) : CUIToolBase(kind) {
@@ -87,8 +99,7 @@ HCURSOR PageTool::CursorAt(StudioCanvas&, CPoint) const {
 HCURSOR SelectTool::CursorAt(StudioCanvas& page, CPoint at) const {
     if (const GrabbedHandle grabbed = FindHandle(page, at); grabbed.object)
         return grabbed.object->GetHandleCursor(grabbed.handle);
-    CUIObject* object = page.Document().ObjectAt(at);
-    return ::LoadCursor(nullptr, object ? IDC_SIZEALL : IDC_ARROW);
+    return ::LoadCursor(nullptr, OverSelection(page, at) ? IDC_SIZEALL : IDC_ARROW);
 }
 
 void SelectTool::Press(StudioCanvas& page, CPoint at, UINT flags) {

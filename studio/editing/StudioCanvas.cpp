@@ -1,5 +1,6 @@
 #include "studio/editing/StudioCanvas.h"
 
+#include "behaviour/UIObjectList.h"
 #include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UIEdit.h"
 #include "canvas/UITool.h"
@@ -17,6 +18,20 @@ using Lumo::CUICanvas;
 using Lumo::CUIObject;
 using Lumo::CUIToolBase;
 
+namespace {
+
+bool HasNamedChild(CUIObject* object, const CString& name) {
+    // The kind spares nearly every object of a large page the cast.
+    if (!object || object->GetDrawShape() != Lumo::DS_GROUP)
+        return false;
+    const auto& children = static_cast<Lumo::CUIObjectList*>(object)->GetChildren();
+    return std::any_of(children.begin(), children.end(), [&](CUIObject* child) {
+        return child->GetShapeName().CompareNoCase(name) == 0 || HasNamedChild(child, name);
+    });
+}
+
+}  // namespace
+
 BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
     ON_WM_PAINT()
     ON_WM_LBUTTONDOWN()
@@ -28,6 +43,7 @@ BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
     ON_WM_CAPTURECHANGED()
     ON_WM_MOUSELEAVE()
     ON_WM_SETCURSOR()
+    ON_WM_CTLCOLOR()
     ON_MESSAGE(WM_PARENTNOTIFY, &StudioCanvas::OnParentNotify)
 END_MESSAGE_MAP()
 
@@ -133,6 +149,18 @@ void StudioCanvas::EndTextEdit() {
     EditText(nullptr);
 }
 
+// The editor looks like the text box under it.
+HBRUSH StudioCanvas::OnCtlColor(CDC* dc, CWnd* control, UINT type) {
+    if (type != CTLCOLOR_EDIT || !m_edited)
+        return CUICanvas::OnCtlColor(dc, control, type);
+    constexpr COLORREF kGround = RGB(0x2A, 0x2E, 0x36);
+    if (!m_editGround.m_hObject)
+        m_editGround.CreateSolidBrush(kGround);
+    dc->SetBkColor(kGround);
+    dc->SetTextColor(RGB(0xFF, 0xFF, 0xFF));
+    return m_editGround;
+}
+
 // The editor has gone, by whatever key or command: its text may have changed.
 LRESULT StudioCanvas::OnParentNotify(WPARAM event, LPARAM) {
     if (LOWORD(event) == WM_DESTROY && m_edited) {
@@ -151,11 +179,29 @@ void StudioCanvas::AddObject(CUIObject* object) {
     object->SetDocument(m_pDocument);
     object->SetCanvas(this);
     m_pDocument->AppendObject(object, this);
-    m_pDocument->SetShapeName(object);
+    NameUniquely(*object);
     // Selecting alone leaves points mode; a figure that begins must not.
     const int mode = m_nMode;
     Select(object, 0);
     m_nMode = mode;
+}
+
+// The document looks at the objects of the page itself; children of groups keep their names for when they
+// come back.
+void StudioCanvas::NameUniquely(CUIObject& object) {
+    m_pDocument->SetShapeName(&object);
+    CString name = object.GetShapeName();
+    const auto isChildsName = [&] {
+        return std::any_of(Objects()->begin(), Objects()->end(),
+                           [&](CUIObject* other) { return HasNamedChild(other, name); });
+    };
+    int number = m_pDocument->GetShapeCount(object.GetDrawShape());
+    while (isChildsName()) {
+        do
+            name.Format(L"%s%d", Lumo::GetDrawShapeName(object.GetDrawShape()).GetString(), number++);
+        while (m_pDocument->CheckShapeName(name));
+    }
+    object.SetShapeName(name);
 }
 
 void StudioCanvas::SelectOnly(const Lumo::CUIObjectDeque& objects) {
@@ -165,6 +211,8 @@ void StudioCanvas::SelectOnly(const Lumo::CUIObjectDeque& objects) {
 }
 
 void StudioCanvas::InvalidatePage(const RectF& rect) {
+    if (!m_hWnd)
+        return;
     RectF page = rect;
     CRect client = Lumo::RectAtlFromGdi(page);
     DocToClient(client);

@@ -91,10 +91,12 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg void OnMouseLeave();
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     afx_msg LRESULT OnParentNotify(WPARAM event, LPARAM window);
 
 private:
     void EndGesture();
+    void NameUniquely(Lumo::CUIObject& object);
     void DropCapture();
     void SelectForMenu(CPoint at);
     void TrackPointer(CPoint at);
@@ -108,6 +110,7 @@ private:
     CPoint m_bandTo;
     Lumo::CUIObject* m_edited = nullptr;
     CString m_textBefore;
+    CBrush m_editGround;
 };
 
 }  // namespace Studio

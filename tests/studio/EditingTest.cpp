@@ -205,6 +205,9 @@ TEST_F(EditingTest, GroupsStayWhereTheyAre) {
         EXPECT_NE(0xFF000000, inside.GetValue());
         EXPECT_EQ(0xFF000000, outside.GetValue());
     }
+    // Names of children stay taken.
+    EXPECT_EQ(CString(L"Rectangle2"), Add(Lumo::DS_RECTANGLE, 300, 300, 20, 20)->GetShapeName());
+    DeleteSelection(Page());
     Drag({80, 70}, {90, 75});
     Drag({260, 155}, {460, 255});
     ExpectBounds(*group, 60, 55, 400, 200);
