@@ -40,7 +40,6 @@ enum class Language { kEnglish, kKorean };
     X(kEditProperties,     L"P&roperties...",           L"속성(&R)...") \
     X(kModeDraw,           L"&Draw",                    L"그리기(&D)") \
     X(kModePoly,           L"P&oints",                  L"점(&O)") \
-    X(kModeText,           L"&Text",                    L"문자(&T)") \
     X(kModeProperty,       L"&Properties",              L"속성(&P)") \
     X(kModeRunning,        L"&Run",                     L"실행(&R)") \
     X(kToolSelect,         L"&Select",                  L"선택(&S)") \
@@ -77,7 +76,6 @@ enum class Language { kEnglish, kKorean };
     X(kStatusNothing,      L"Nothing selected",         L"선택 없음") \
     X(kStatusMany,         L"%d selected",              L"%d개 선택") \
     X(kStatusModified,     L"Modified",                 L"수정됨") \
-    X(kErrorOpen,          L"The file \"%s\" cannot be opened.\n\n%s", L"파일 \"%s\"을(를) 열 수 없습니다.\n\n%s") \
     X(kErrorRead,          L"The file \"%s\" was not opened, and the page is as it was.\n\n%s", \
                            L"파일 \"%s\"을(를) 열지 않았으며 페이지는 그대로입니다.\n\n%s") \
     X(kErrorWrite,         L"The file \"%s\" was not saved; an older one is as it was.\n\n%s", \

@@ -5,6 +5,9 @@
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/PageEdits.h"
 
+#include <algorithm>
+#include <random>
+
 using namespace Studio;
 using Lumo::CUIObject;
 
@@ -267,4 +270,55 @@ TEST_F(EditingTest, EditsATextBoxInPlace) {
     DestroyObjects(Page(), {text});
     EXPECT_EQ(nullptr, Page().m_pEdit);
     EXPECT_TRUE(Objects().empty());
+}
+
+TEST_F(EditingTest, SurvivesCarelessUse) {
+    std::mt19937 random(7);
+    const auto upTo = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    const Lumo::DrawShape tools[] = {Lumo::DS_SELECT, Lumo::DS_SELECT,   Lumo::DS_RECTANGLE,
+                                     Lumo::DS_LINE,   Lumo::DS_POLYLINE, Lumo::DS_TEXTEDIT};
+    const UINT messages[] = {WM_LBUTTONDOWN, WM_LBUTTONUP,     WM_MOUSEMOVE,   WM_MOUSEMOVE,
+                             WM_LBUTTONUP,   WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONUP};
+    const UINT keys[] = {0, 0, MK_SHIFT, MK_CONTROL};
+    for (int step = 0; step < 6000; ++step) {
+        Mouse(messages[upTo(8)], upTo(400), upTo(300), keys[upTo(4)]);
+        const int command = upTo(60);
+        if (command < 4 || command == 6)
+            Page().FinishEditing();
+        switch (command) {
+            case 0:
+                SelectAll(Page());
+                break;
+            case 1:
+                GroupSelection(Page());
+                break;
+            case 2:
+                UngroupSelection(Page());
+                break;
+            case 3:
+                DeleteSelection(Page());
+                break;
+            case 4:
+                Page().CancelGesture();
+                break;
+            case 5:
+                ::ReleaseCapture();
+                break;
+            case 6:
+                RotateSelection(Page(), true);
+                break;
+            default:
+                if (upTo(4) == 0) {
+                    Page().FinishEditing();
+                    ChooseTool(Page(), tools[upTo(6)]);
+                }
+        }
+        for (CUIObject* selected : Page().m_selection)
+            ASSERT_NE(Objects().end(), std::find(Objects().begin(), Objects().end(), selected)) << step;
+        ASSERT_TRUE(Page().CurrentGesture() || ::GetCapture() != Page().m_hWnd) << step;
+    }
+    CString path = FileName(L"careless.cbf");
+    Page().FinishEditing();
+    EXPECT_TRUE(m_document->Save(path));
+    EXPECT_TRUE(m_document->Load(path));
 }
