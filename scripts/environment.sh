@@ -16,7 +16,7 @@ trap finish_environment EXIT
 if [ -z "${DISPLAY:-}" ] || ! xdpyinfo >/dev/null 2>&1; then
     headless=yes
     display_file=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$display_file" >/dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 1400x1000x24 -noreset -nolisten tcp 3>"$display_file" >/dev/null 2>&1 &
     xvfb_pid=$!
     for _ in $(seq 100); do
         [ -s "$display_file" ] && break
