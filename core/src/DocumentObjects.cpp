@@ -35,7 +35,8 @@ wchar_t FoldAscii(wchar_t c) {
     return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c;
 }
 
-// Whether two texts of the same length are the same but for case. From the end, where the names of one kind differ.
+// Whether two texts of the same length are the same but for case. From the end, where the names of one kind
+// differ.
 bool SameText(const CString& a, const CString& b, int length) {
     const wchar_t* left = a;
     const wchar_t* right = b;
