@@ -30,6 +30,7 @@ bool Within(float value, float limit) {
 
 void StoreAt(CArchive& ar, CUIObject& object, int depth);
 ObjectPtr LoadAt(CArchive& ar, int depth);
+void RestoreAt(CArchive& ar, CUIObject& object, int depth);
 
 void StoreExtras(CArchive& ar, const CUIObject& object) {
     ar << object.GetRemoved() << object.GetRectMode() << object.GetTextAlignment() << object.GetTextUnit()
@@ -75,9 +76,16 @@ void StoreChildren(CArchive& ar, const GroupObject& group, int depth) {
         StoreAt(ar, *child, depth + 1);
 }
 
+// A group that has its children already keeps them: each takes over what was stored of it.
 void LoadChildren(CArchive& ar, GroupObject& group, int depth) {
     DWORD count;
     ar >> count;
+    if (const auto& children = group.GetChildren(); !children.empty()) {
+        Require(children.size() == count);
+        for (CUIObject* child : children)
+            RestoreAt(ar, *child, depth + 1);
+        return;
+    }
     for (DWORD i = 0; i < count; ++i)
         group.AdoptStored(LoadAt(ar, depth + 1).release());
 }
@@ -103,6 +111,16 @@ void StoreAt(CArchive& ar, CUIObject& object, int depth) {
         StoreChildren(ar, *group, depth);
 }
 
+void LoadInto(CArchive& ar, CUIObject& object, ObjectClass objectClass, int depth) {
+    object.Serialize(ar);
+    CheckRecord(object, objectClass);
+    LoadExtras(ar, object);
+    if (auto* poly = dynamic_cast<CUIObjectPoly*>(&object))
+        LoadPoints(ar, *poly);
+    else if (auto* group = dynamic_cast<GroupObject*>(&object))
+        LoadChildren(ar, *group, depth);
+}
+
 ObjectPtr LoadAt(CArchive& ar, int depth) {
     Require(depth < kMaxDepth, Text::kFaultDepth);
     DWORD code;
@@ -110,14 +128,16 @@ ObjectPtr LoadAt(CArchive& ar, int depth) {
     const auto objectClass = static_cast<ObjectClass>(code);
     ObjectPtr object = MakeObject(objectClass);
     Require(object != nullptr);
-    object->Serialize(ar);
-    CheckRecord(*object, objectClass);
-    LoadExtras(ar, *object);
-    if (auto* poly = dynamic_cast<CUIObjectPoly*>(object.get()))
-        LoadPoints(ar, *poly);
-    else if (auto* group = dynamic_cast<GroupObject*>(object.get()))
-        LoadChildren(ar, *group, depth);
+    LoadInto(ar, *object, objectClass, depth);
     return object;
+}
+
+void RestoreAt(CArchive& ar, CUIObject& object, int depth) {
+    DWORD code;
+    ar >> code;
+    const auto objectClass = static_cast<ObjectClass>(code);
+    Require(depth < kMaxDepth && objectClass == ClassOf(object));
+    LoadInto(ar, object, objectClass, depth);
 }
 
 }  // namespace
@@ -128,6 +148,10 @@ void StoreObject(CArchive& ar, CUIObject& object) {
 
 ObjectPtr LoadObject(CArchive& ar) {
     return LoadAt(ar, 0);
+}
+
+void RestoreObject(CArchive& ar, CUIObject& object) {
+    RestoreAt(ar, object, 0);
 }
 
 }  // namespace Studio

@@ -20,4 +20,8 @@ void StoreObject(CArchive& ar, Lumo::CUIObject& object);
 /// archive's exceptions and `FileFault`.
 ObjectPtr LoadObject(CArchive& ar);
 
+/// Gives an object, and the children of a group, the state that `StoreObject` wrote of this very object: for
+/// undo, where objects stay themselves. Raises the archive's exceptions and `FileFault`.
+void RestoreObject(CArchive& ar, Lumo::CUIObject& object);
+
 }  // namespace Studio
