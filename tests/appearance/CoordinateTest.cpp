@@ -1,6 +1,6 @@
 #include "appearance/UICoordinate.h"
 
-#include "behaviour/Bytes.h"
+#include "support/Bytes.h"
 #include "support/Geometry.h"
 
 namespace Lumo {

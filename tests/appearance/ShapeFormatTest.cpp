@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "behaviour/Bytes.h"
+#include "support/Bytes.h"
 
 namespace Lumo {
 

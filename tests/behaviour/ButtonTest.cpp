@@ -1,7 +1,7 @@
 // Buttons: names, initial state, the state table, hit test and archive form.
-#include "behaviour/Bytes.h"
 #include "behaviour/Objects.h"
 #include "behaviour/UIObjectButton.h"
+#include "support/Bytes.h"
 
 using namespace Lumo;
 using Gdiplus::RectF;
@@ -68,7 +68,7 @@ void CheckConstruction(const wchar_t* name, BOOL over) {
     EXPECT_STREQ(name, placed.GetShapeName());
     EXPECT_EQ(DS_ELLIPSE, fresh.GetDrawShape());
     EXPECT_EQ(DS_BUTTONBAND, placed.GetDrawShape());
-    EXPECT_TRUE(Same(placed.GetPosition(), 1, 2, 3, 4));
+    EXPECT_EQ(Box(1, 2, 3, 4), Box(placed.GetPosition()));
     EXPECT_EQ(over, fresh.GetOver());
     EXPECT_EQ(over, placed.GetOver());
     EXPECT_EQ(-1, fresh.GetType());
@@ -126,8 +126,9 @@ TEST(Button, IsHitWithinItsEllipseOnly) {
     };
     for (const auto& test : cases) {
         RectF rect = test.rect;
-        EXPECT_EQ(test.hit, button.HitTest(rect) != 0) << ::testing::PrintToString(test.rect);
-        EXPECT_TRUE(Same(rect, test.rect.X - 2, test.rect.Y - 2, test.rect.Width + 4, test.rect.Height + 4));
+        EXPECT_EQ(test.hit, button.HitTest(rect) != 0) << ::testing::PrintToString(Box(test.rect));
+        EXPECT_EQ(Box(test.rect.X - 2, test.rect.Y - 2, test.rect.Width + 4, test.rect.Height + 4),
+                  Box(rect));
     }
     button.SetLineWidth(20);
     RectF corner(3, 3, 2, 2);

@@ -1,7 +1,7 @@
 // What a group writes for its children, and what it makes of good and hostile archives.
-#include "behaviour/Bytes.h"
 #include "behaviour/Objects.h"
 #include "behaviour/UIObjectChartBase.h"
+#include "support/Bytes.h"
 
 using namespace Lumo;
 using Gdiplus::RectF;
@@ -38,7 +38,7 @@ TEST(GroupArchive, WritesCountFlagAndItsChildren) {
     EXPECT_EQ(0u, Load(chart, want));
     EXPECT_TRUE(chart.GetChildren().empty());
     EXPECT_STREQ(L"List", chart.GetShapeName());
-    EXPECT_TRUE(Same(chart.GetPosition(), 100, 50, 80, 60));
+    EXPECT_EQ(Box(100, 50, 80, 60), Box(chart.GetPosition()));
     EXPECT_EQ(5u, Load(chart, Bytes().Add(want).W(1).W(2).Raw("x", 1)));
 }
 

@@ -30,7 +30,7 @@ TEST(Group, StartsAsItsKindSays) {
     const CUIObjectSymbol symbol(rect, DS_CHARTPEQ);
     EXPECT_STREQ(L"Symbol", symbol.GetShapeName());
     EXPECT_EQ(DS_CHARTPEQ, symbol.GetDrawShape());
-    EXPECT_TRUE(Same(symbol.GetPosition(), 1, 2, 2.5f, 99.4f));
+    EXPECT_EQ(Box(1, 2, 2.5f, 99.4f), Box(symbol.GetPosition()));
     EXPECT_EQ(3, symbol.GetInitialWidth());
     OpenSymbol empty;
     EXPECT_EQ(DS_SYMBOL, empty.GetDrawShape());
@@ -52,17 +52,17 @@ TEST(Group, MakesItsChildrenRelativeAndGivesThemBack) {
     group->MakeGroup(first);
     group->MakeGroup(second);
     group->MakeGroup(group);
-    EXPECT_TRUE(Same(first->GetPosition(), 30, 20, 20, 10));
+    EXPECT_EQ(Box(30, 20, 20, 10), Box(first->GetPosition()));
     RectF rect = first->GetPosition();
     group->NormalizeRect(rect);
-    EXPECT_TRUE(Same(rect, 130, 70, 20, 10));
+    EXPECT_EQ(Box(130, 70, 20, 10), Box(rect));
     EXPECT_EQ((std::deque<CUIObject*>{first, second}), group->GetChildren());
 
     std::deque<CUIObject*> out = {nullptr};
     group->MakeUnGroup(&out);
     EXPECT_EQ(0, ProbeGroup::s_living);
     EXPECT_EQ((std::deque<CUIObject*>{nullptr, first, second}), out);
-    EXPECT_TRUE(Same(first->GetPosition(), 130, 70, 20, 10));
+    EXPECT_EQ(Box(130, 70, 20, 10), Box(first->GetPosition()));
     first->Release();
     second->Release();
     EXPECT_EQ(0, Probe::s_living);
@@ -75,10 +75,10 @@ TEST(Group, DrawsItsChildrenWhereTheyStandAndLeavesThemThere) {
     Gdiplus::Bitmap bitmap(8, 8);
     Gdiplus::Graphics g(&bitmap);
     group->Draw(&g);
-    EXPECT_TRUE(Same(child->m_drawn, 130, 70, 20, 10));
-    EXPECT_TRUE(Same(child->GetPosition(), 130, 70, 20, 10));
+    EXPECT_EQ(Box(130, 70, 20, 10), Box(child->m_drawn));
+    EXPECT_EQ(Box(130, 70, 20, 10), Box(child->GetPosition()));
     group->Draw(&g);
-    EXPECT_TRUE(Same(child->m_drawn, 230, 120, 20, 10));
+    EXPECT_EQ(Box(230, 120, 20, 10), Box(child->m_drawn));
 }
 
 TEST(Group, TestsItsChildrenAtTheirStoredPositionsAndFoldsTheirOffsets) {
@@ -111,7 +111,7 @@ TEST(Group, TurnsItsChildrenAboutItsCentre) {
     EXPECT_NEAR(-10, turned.Y, 1e-3);
     EXPECT_NEAR(20, turned.Width, 1e-3);
     EXPECT_NEAR(40, turned.Height, 1e-3);
-    EXPECT_TRUE(Same(group->GetPosition(), 100, 50, 80, 60));
+    EXPECT_EQ(Box(100, 50, 80, 60), Box(group->GetPosition()));
 }
 
 TEST(Group, OutlinesItselfWhileItIsDragged) {
@@ -163,7 +163,7 @@ TEST(GroupLifetime, ACopySharesTheChildrenAndLosesThemWithTheFirstRelease) {
     EXPECT_EQ(group->GetChildren(), assigned.GetChildren());
     EXPECT_STREQ(L"List", assigned.GetShapeName());
     EXPECT_EQ(10, assigned.GetInitialWidth());
-    EXPECT_TRUE(Same(copy->GetPosition(), 100, 50, 10, 10));
+    EXPECT_EQ(Box(100, 50, 10, 10), Box(copy->GetPosition()));
 
     CUIDocument document;
     child->SetDocument(&document);

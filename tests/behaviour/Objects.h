@@ -2,21 +2,9 @@
 #pragma once
 
 #include <memory>
-#include <ostream>
-
-#include <gtest/gtest.h>
 
 #include "behaviour/UIObjectList.h"
-
-inline bool Same(const Gdiplus::RectF& rect, float x, float y, float width, float height) {
-    return rect.X == x && rect.Y == y && rect.Width == width && rect.Height == height;
-}
-
-namespace Gdiplus {
-inline void PrintTo(const RectF& rect, std::ostream* out) {
-    *out << "(" << rect.X << ", " << rect.Y << ", " << rect.Width << ", " << rect.Height << ")";
-}
-}  // namespace Gdiplus
+#include "support/Geometry.h"
 
 /// Counts the living ones and remembers where it was drawn.
 class Probe : public Lumo::CUIObject {

@@ -1,8 +1,8 @@
 // Archive forms, defaults and copy rules of the behaviour records.
 #include <functional>
 
-#include "behaviour/Bytes.h"
 #include "behaviour/UIPreference.h"
+#include "support/Bytes.h"
 
 namespace {
 

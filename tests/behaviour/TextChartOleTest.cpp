@@ -1,9 +1,9 @@
 // Text boxes, chart bases and embedded objects.
-#include "behaviour/Bytes.h"
 #include "behaviour/Objects.h"
 #include "behaviour/UIObjectChartBase.h"
 #include "behaviour/UIObjectOle.h"
 #include "behaviour/UIObjectTextEdit.h"
+#include "support/Bytes.h"
 
 using namespace Lumo;
 using Gdiplus::PointF;
@@ -25,7 +25,7 @@ TEST(TextEdit, IsHitWithinItsEllipseOnly) {
     CUIObjectTextEdit text(RectF(0, 0, 100, 100), DS_TEXTEDIT);
     RectF corner(0, 0, 6, 6), middle(50, 50, 0, 0);
     EXPECT_EQ(0, text.HitTest(corner));
-    EXPECT_TRUE(Same(corner, -2, -2, 10, 10));
+    EXPECT_EQ(Box(-2, -2, 10, 10), Box(corner));
     EXPECT_NE(0, text.HitTest(middle));
 }
 
@@ -61,8 +61,8 @@ TEST(Chart, IsASymbolThatDrawsNothing) {
     object->RelayEvent(nullptr, WM_LBUTTONDOWN, 0, 0);
     RectF other(0, 0, 1, 1);
     object->Init(DS_LINE, other);
-    EXPECT_TRUE(Same(child->GetPosition(), 5, 5, 1, 1));
-    EXPECT_TRUE(Same(chart.GetPosition(), 10, 10, 99.5f, 20.4f));
+    EXPECT_EQ(Box(5, 5, 1, 1), Box(child->GetPosition()));
+    EXPECT_EQ(Box(10, 10, 99.5f, 20.4f), Box(chart.GetPosition()));
     object->Release();
     EXPECT_EQ(0, Probe::s_living);
 }
@@ -84,9 +84,9 @@ TEST(Ole, ArchivesItsTwoValuesAndNoClientItem) {
 TEST(Ole, StaysWhereItIsWithoutAnOffset) {
     CUIObjectOle ole(RectF(0.3f, 0, 10, 10), DS_OLE);
     ole.MoveTo(0, PointF(0, 0));
-    EXPECT_TRUE(Same(ole.GetPosition(), 0.3f, 0, 10, 10));
+    EXPECT_EQ(Box(0.3f, 0, 10, 10), Box(ole.GetPosition()));
     ole.MoveTo(8, PointF(0, 1));
-    EXPECT_TRUE(Same(ole.GetPosition(), 0.3f, 1, 10, 10));
+    EXPECT_EQ(Box(0.3f, 1, 10, 10), Box(ole.GetPosition()));
 }
 
 }  // namespace

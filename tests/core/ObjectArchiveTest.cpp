@@ -1,5 +1,5 @@
 #include "appearance/UIObjectRectangle.h"
-#include "behaviour/Bytes.h"
+#include "support/Bytes.h"
 #include "support/Geometry.h"
 
 namespace Lumo {

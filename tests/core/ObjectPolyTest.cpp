@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "behaviour/Bytes.h"
 #include "canvas/UITool.h"
 #include "core/PaintScope.h"
+#include "support/Bytes.h"
 #include "support/Geometry.h"
 #include "support/Surface.h"
 
