@@ -1,6 +1,7 @@
 #include "studio/document/ObjectArchive.h"
 
 #include "core/UIObjectPoly.h"
+#include "studio/document/ObjectExtras.h"
 #include "studio/editing/GroupObject.h"
 
 #include <cmath>
@@ -32,12 +33,13 @@ void StoreAt(CArchive& ar, CUIObject& object, int depth);
 ObjectPtr LoadAt(CArchive& ar, int depth);
 void RestoreAt(CArchive& ar, CUIObject& object, int depth);
 
-void StoreExtras(CArchive& ar, const CUIObject& object) {
+// The values that the library's record does not keep.
+void StoreRest(CArchive& ar, const CUIObject& object) {
     ar << object.GetRemoved() << object.GetRectMode() << object.GetTextAlignment() << object.GetTextUnit()
        << object.GetLineAlignment();
 }
 
-void LoadExtras(CArchive& ar, CUIObject& object) {
+void LoadRest(CArchive& ar, CUIObject& object) {
     int removed, rectMode, textAlignment, textUnit, lineAlignment;
     ar >> removed >> rectMode >> textAlignment >> textUnit >> lineAlignment;
     object.SetRemoved(removed != 0);
@@ -45,6 +47,25 @@ void LoadExtras(CArchive& ar, CUIObject& object) {
     object.SetTextAlignment(textAlignment);
     object.SetTextUnit(textUnit);
     object.SetLineAlignment(lineAlignment);
+}
+
+void StoreExtras(CArchive& ar, const CUIObject& object) {
+    const ObjectExtras* extras = FindExtras(object);
+    ar << static_cast<BYTE>(extras != nullptr);
+    if (extras)
+        const_cast<ObjectExtras*>(extras)->Serialize(ar);
+}
+
+void LoadExtras(CArchive& ar, CUIObject& object) {
+    BYTE present;
+    ar >> present;
+    Require(present <= 1);
+    SetExtras(object, nullptr);
+    if (!present)
+        return;
+    ObjectExtras* extras = EditExtras(object);
+    Require(extras != nullptr);
+    extras->Serialize(ar);
 }
 
 void StorePoints(CArchive& ar, CUIObjectPoly& poly) {
@@ -104,6 +125,7 @@ void StoreAt(CArchive& ar, CUIObject& object, int depth) {
     Require(depth < kMaxDepth, Text::kFaultDepth);
     ar << static_cast<DWORD>(objectClass);
     object.Serialize(ar);
+    StoreRest(ar, object);
     StoreExtras(ar, object);
     if (auto* poly = dynamic_cast<CUIObjectPoly*>(&object))
         StorePoints(ar, *poly);
@@ -114,6 +136,7 @@ void StoreAt(CArchive& ar, CUIObject& object, int depth) {
 void LoadInto(CArchive& ar, CUIObject& object, ObjectClass objectClass, int depth) {
     object.Serialize(ar);
     CheckRecord(object, objectClass);
+    LoadRest(ar, object);
     LoadExtras(ar, object);
     if (auto* poly = dynamic_cast<CUIObjectPoly*>(&object))
         LoadPoints(ar, *poly);

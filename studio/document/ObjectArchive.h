@@ -12,8 +12,8 @@ struct FileFault {
 };
 
 /// Writes class, the library's record, removed mark, the values that the record does not keep (text alignment
-/// and unit, pen alignment, rectangle mode, most points, points) and the children of a group. Raises the
-/// archive's exceptions and `FileFault`.
+/// and unit, pen alignment, rectangle mode, most points, points), the extras and the children of a group.
+/// Raises the archive's exceptions and `FileFault`.
 void StoreObject(CArchive& ar, Lumo::CUIObject& object);
 
 /// Reads an object into a new one. Takes no more memory than the bytes that are there justify. Raises the

@@ -5,6 +5,7 @@
 #include "core/UIObjectPoly.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/TextBox.h"
+#include "studio/runtime/LiveObject.h"
 
 namespace Studio {
 
@@ -107,17 +108,17 @@ ObjectPtr MakeObject(ObjectClass objectClass) {
     const Lumo::DrawShape kind = KindOf(objectClass);
     switch (objectClass) {
         case ObjectClass::kRectangle:
-            return ObjectPtr(new Lumo::CUIObjectRectangle(none, kind));
+            return ObjectPtr(new LiveObject<Lumo::CUIObjectRectangle>(none, kind));
         case ObjectClass::kEllipse:
-            return ObjectPtr(new Lumo::CUIObjectEllipse(none, kind));
+            return ObjectPtr(new LiveObject<Lumo::CUIObjectEllipse>(none, kind));
         case ObjectClass::kTextBox:
-            return ObjectPtr(new TextBox(none));
+            return ObjectPtr(new LiveObject<TextBox>(none));
         case ObjectClass::kLine:
-            return ObjectPtr(new Lumo::CUIObjectLine(none, kind));
+            return ObjectPtr(new LiveObject<Lumo::CUIObjectLine>(none, kind));
         case ObjectClass::kPolyLine:
-            return ObjectPtr(new Lumo::CUIObjectPolyLine(none, kind));
+            return ObjectPtr(new LiveObject<Lumo::CUIObjectPolyLine>(none, kind));
         case ObjectClass::kGroup:
-            return ObjectPtr(new GroupObject);
+            return ObjectPtr(new LiveObject<GroupObject>);
         default:
             return nullptr;
     }

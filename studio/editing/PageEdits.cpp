@@ -3,6 +3,7 @@
 #include "core/Geometry.h"
 #include "studio/editing/Geometry.h"
 #include "studio/editing/GroupObject.h"
+#include "studio/editing/ObjectFactory.h"
 #include "studio/editing/StudioCanvas.h"
 
 #include <algorithm>
@@ -177,7 +178,7 @@ void GroupSelection(StudioCanvas& page) {
     const CUIObjectDeque children = InPageOrder(page);
     page.InvalidateAll(children);
     TakeOffPage(page, children);
-    auto* group = new GroupObject;
+    auto* group = static_cast<GroupObject*>(MakeObject(ObjectClass::kGroup).release());
     group->AdoptAll(children);
     page.AddObject(group);
     page.MarkModified();
