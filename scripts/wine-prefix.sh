@@ -26,9 +26,6 @@ for font in "Tahoma" "MS Shell Dlg" "MS Shell Dlg 2" "Segoe UI" "Microsoft Sans 
     add "$links" /v "$font" /t REG_MULTI_SZ /d "NanumGothic.ttf,NanumGothic"
 done
 
-# Without a window manager Wine draws caption and frame itself.
-add 'HKCU\Software\Wine\X11 Driver' /v "Managed" /t REG_SZ /d "N"
-
 # The symbols of the caption buttons; Tahoma stays out, or bold captions lose their Korean.
 marlett=$(find /usr/share/wine /usr/share/fonts -name marlett.ttf 2>/dev/null | head -n 1 || true)
 [ -z "$marlett" ] || cp "$marlett" "$WINEPREFIX/drive_c/windows/Fonts/"
