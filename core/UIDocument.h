@@ -23,6 +23,7 @@ using CUIPageMap = std::map<CUICanvas*, CUIObjectDeque*>;
 /// the destructor alone does not.
 class AFX_EXT_CLASS CUIDocument {
 public:
+    /// No pages, not modified.
     CUIDocument();
     /// Shares the object lists of `other`: the pages of both documents are the same lists.
     CUIDocument(const CUIDocument& other);
@@ -151,10 +152,12 @@ private:
     // The one way to make an object unreachable, and the roads to destruction that pass through it.
     static void ForgetObject(CUIObject* object);
     static void ForgetObjects(const std::unordered_set<CUIObject*>& doomed);
+    static void ForgetDestroyed(CUIObject* object);
     static void ReleaseForgotten(CUIObject* object);
     static void ForgetCanvas(CUICanvas* canvas);
 
     bool RegisterCanvasClass();
+    void LeaveObjects();
     void FreeLists();
     bool HasList(const CUIObjectDeque* objects) const;
     void DropPage(CUIPageMap::iterator page);

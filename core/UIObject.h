@@ -120,9 +120,11 @@ public:
     /// Type code of a derived class, -1 here.
     virtual int GetType();
 
-    /// Takes the object off every page and selection of its document and destroys it.
+    /// Destroys the object.
     virtual void Release();
 
+    /// Takes the object off every page, out of every selection and group, and closes an editor open on it,
+    /// whoever destroys it.
     virtual ~CUIObject();
 
     /// The document that holds the object, null when none does; not owned.
@@ -166,8 +168,8 @@ public:
     CUICoordinate& GetCoordinate() { return m_coordinate; }
     const CUICoordinate& GetCoordinate() const { return m_coordinate; }
 
-    /// True when width or height of the position is 0, next to 0 or negative.
-    bool IsEmptyArea() const;
+    /// 1 when width or height of the position is 0, next to 0 or negative; else 0.
+    int IsEmptyArea() const;
 
     /// Loads the defaults of one record, or of all.
     void LoadDefault(ShapeFormatType type) { m_coordinate.LoadDefault(type); }

@@ -132,7 +132,6 @@ void CUIObjectList::MakeUnGroup(std::deque<CUIObject*>* out) {
     }
     DetachChildren();
     m_bGrouped = FALSE;
-    CUIDocument::ForgetObject(this);
     delete this;
 }
 
@@ -173,11 +172,14 @@ void CUIObjectList::Rotate(float angle) {
 }
 
 void CUIObjectList::DrawDragImage(Gdiplus::Graphics* g, POINT) {
+    if (g == nullptr)
+        return;
     const GraphicsStateScope scope(*g);
     const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 2.0f);
     g->DrawRectangle(&pen, GetPosition());
 }
 
+// kept: the group itself is not destroyed, unlike any other object.
 void CUIObjectList::Release() {
     if (m_children.empty())
         return;

@@ -36,6 +36,8 @@ int CUIObjectTextEdit::GetType() {
 }
 
 void CUIObjectTextEdit::DrawContents(Gdiplus::Graphics* g) {
+    if (g == nullptr)
+        return;
     const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 2.0f);
     g->DrawEllipse(&pen, GetPosition());
 }

@@ -1,13 +1,11 @@
 // The registry of tools, what all tools share, and the library's own tool objects.
 #include "canvas/UITool.h"
 
-#include "appearance/UIObjectRectangle.h"
-#include "behaviour/UIObjectList.h"
-#include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UICanvas.h"
 #include "canvas/src/ToolObjects.h"
 #include "core/UIDocument.h"
 #include "core/UIObjectPoly.h"
+#include "core/src/ObjectFactory.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -78,22 +76,12 @@ CUIToolBase* CUIToolBase::FindTool(DrawShape kind) {
 }
 
 CUIObject* CUIToolBase::CreateUIObject(Gdiplus::RectF rect, DrawShape kind) {
-    switch (kind) {
-        case DS_POLYLINE:
-            return new CUIObjectPolyLine(rect, kind);
-        case DS_RECTANGLE:
-            return new CUIObjectRectangle(rect, kind);
-        case DS_ELLIPSE:
-            return new CUIObjectEllipse(rect, kind);
-        case DS_TEXTEDIT:
-            return new CUIObjectTextEdit(rect, kind);
-        case DS_SYMBOL:
-            return new CUIObjectSymbol(rect, kind);
-        case DS_LIST:
-            return new CUIObjectList(rect, kind);
-        default:
-            return new CUIObjectLine(rect, kind);
-    }
+    if (kind == DS_POLYLINE)
+        return new CUIObjectPolyLine(rect, kind);
+    if (CUIObject* object = MakeAreaObject(kind, rect))
+        return object;
+    // kept: unlike the document's factory, this one makes a line of every kind that has no class of its own.
+    return new CUIObjectLine(rect, kind);
 }
 
 void CUIToolBase::FocusRect(CUICanvas* canvas, CPoint a, CPoint b) {

@@ -1,5 +1,5 @@
-// Life of documents, and the one way in which an object becomes unreachable: every road to its destruction
-// takes it out of all page lists and selections first, whatever document or canvas holds it.
+// Life of documents, and the one way in which an object becomes unreachable: its destruction takes it out of
+// all page lists, selections and groups, whatever document or canvas holds it.
 #include "core/UIDocument.h"
 
 #include "behaviour/UIObjectList.h"
@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace Lumo {
@@ -18,6 +19,10 @@ std::vector<CUIDocument*>& Documents() {
     static std::vector<CUIDocument*> documents;
     return documents;
 }
+
+// The object that is being released after everybody has forgotten it; its destructor need not search for it
+// again. So the destruction of a whole page takes one walk, not one for every object.
+CUIObject* s_pForgotten = nullptr;
 
 }  // namespace
 
@@ -47,6 +52,7 @@ CUIDocument& CUIDocument::operator=(const CUIDocument& other) {
 }
 
 CUIDocument::~CUIDocument() {
+    LeaveObjects();
     FreeLists();
     std::erase(Documents(), this);
     for (CUICanvas* canvas : CUICanvas::Canvases())
@@ -57,6 +63,17 @@ CUIDocument::~CUIDocument() {
 void CUIDocument::Release() {
     ClearCanvas();
     delete this;
+}
+
+// kept: the objects of a document that was not cleared stay alive; they only lose their pointer to it.
+void CUIDocument::LeaveObjects() {
+    for (auto& [canvas, objects] : m_pages) {
+        if (!objects)
+            continue;
+        for (CUIObject* object : *objects)
+            if (object && object->GetDocument() == this)
+                object->SetDocument(nullptr);
+    }
 }
 
 // Frees the lists that no copy of the document shares.
@@ -105,12 +122,20 @@ void CUIDocument::DestroyObject(CUIObject* object) {
     ReleaseForgotten(object);
 }
 
+void CUIDocument::ForgetDestroyed(CUIObject* object) {
+    if (object == s_pForgotten)
+        s_pForgotten = nullptr;
+    else
+        ForgetObject(object);
+}
+
 // A group's Release destroys its children and leaves the group itself, which is then deleted here.
 void CUIDocument::ReleaseForgotten(CUIObject* object) {
-    object->SetDocument(nullptr);
+    CUIObject* const outer = std::exchange(s_pForgotten, object);
     auto* shell = dynamic_cast<CUIObjectList*>(object);
     object->Release();
     delete shell;
+    s_pForgotten = outer;
 }
 
 void CUIDocument::ForgetCanvas(CUICanvas* canvas) {

@@ -1,35 +1,16 @@
 // Objects of a page: adding and removing, finding, naming, drawing.
 #include "core/UIDocument.h"
 
-#include "appearance/UIObjectRectangle.h"
-#include "behaviour/UIObjectList.h"
-#include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UICanvas.h"
 #include "core/Geometry.h"
 #include "core/UIObject.h"
+#include "core/src/ObjectFactory.h"
 
 #include <algorithm>
 
 namespace Lumo {
 
 namespace {
-
-CUIObject* MakeObject(DrawShape kind, Gdiplus::RectF rect) {
-    switch (kind) {
-        case DS_RECTANGLE:
-            return new CUIObjectRectangle(rect, kind);
-        case DS_ELLIPSE:
-            return new CUIObjectEllipse(rect, kind);
-        case DS_TEXTEDIT:
-            return new CUIObjectTextEdit(rect, kind);
-        case DS_SYMBOL:
-            return new CUIObjectSymbol(rect, kind);
-        case DS_LIST:
-            return new CUIObjectList(rect, kind);
-        default:
-            return nullptr;
-    }
-}
 
 wchar_t FoldAscii(wchar_t c) {
     return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c;
@@ -66,7 +47,8 @@ CUIObject* FindByName(const CUIObjectDeque* objects, const CString& name) {
 }  // namespace
 
 CUIObject* CUIDocument::CreateObject(DrawShape kind, CRect rect) {
-    CUIObject* object = MakeObject(kind, RectGdiFromAtl(rect));
+    // kept: lines and polylines, which the tools' factory makes, are not made here.
+    CUIObject* object = MakeAreaObject(kind, RectGdiFromAtl(rect));
     if (object) {
         object->SetDocument(this);
         object->SetCanvas(GetCurrentCanvas());

@@ -15,7 +15,9 @@ CUIObject::CUIObject(const Gdiplus::RectF& rect, DrawShape shape)
     m_coordinate.SetPosition(rect);
 }
 
-CUIObject::~CUIObject() = default;
+CUIObject::~CUIObject() {
+    CUIDocument::ForgetDestroyed(this);
+}
 
 void CUIObject::Init(DrawShape shape, Gdiplus::RectF& rect) {
     m_nDrawShape = shape;
@@ -25,8 +27,6 @@ void CUIObject::Init(DrawShape shape, Gdiplus::RectF& rect) {
 }
 
 void CUIObject::Release() {
-    if (m_pDocument != nullptr)
-        CUIDocument::ForgetObject(this);
     delete this;
 }
 
@@ -54,7 +54,7 @@ int CUIObject::GetType() {
     return -1;
 }
 
-bool CUIObject::IsEmptyArea() const {
+int CUIObject::IsEmptyArea() const {
     const Gdiplus::RectF position = m_coordinate.GetPosition();
     return position.Width <= FLT_EPSILON || position.Height <= FLT_EPSILON;
 }

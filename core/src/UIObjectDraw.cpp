@@ -1,19 +1,16 @@
 // Caption, selection handles and rounded outline of the object base.
-#include "core/src/Caption.h"
-
 #include <algorithm>
 
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
 #include "core/UIObject.h"
+#include "core/src/Caption.h"
+#include "core/src/HandlePainter.h"
 
 namespace Lumo {
 
 namespace {
 
-constexpr Gdiplus::ARGB kTrackerLine = 0xFF000000;
-constexpr Gdiplus::ARGB kTrackerFill = 0xFF87CEEB;
-constexpr float kTrackerReach = 5.0f;
 constexpr int kCorners = 4;
 constexpr int kTrackedHandles = 8;
 
@@ -34,22 +31,15 @@ void CUIObject::DrawType(Gdiplus::Graphics*) {}
 void CUIObject::DrawDragImage(Gdiplus::Graphics*, Gdiplus::PointF) {}
 
 void CUIObject::DrawTracker(Gdiplus::Graphics* graphics) {
-    if (graphics == nullptr ||
-        PaintScope::Misses(Inflated(Normalised(m_coordinate.GetPosition()), kTrackerReach)))
+    if (graphics == nullptr)
         return;
-    Gdiplus::Pen pen{Gdiplus::Color(kTrackerLine), 1.0f};
-    Gdiplus::SolidBrush brush{Gdiplus::Color(kTrackerFill)};
+    HandlePainter painter(*graphics);
     const int count = std::min(GetHandleCount(), kTrackedHandles);
     for (int handle = 0; handle < count; ++handle) {
-        const Gdiplus::RectF rect = GetHandleRect(handle);
-        const Gdiplus::RectF inside = Inflated(rect, -1.0f);
-        if (handle < kCorners) {
-            graphics->DrawEllipse(&pen, rect);
-            graphics->FillEllipse(&brush, inside);
-        } else {
-            graphics->DrawRectangle(&pen, rect);
-            graphics->FillRectangle(&brush, inside);
-        }
+        if (handle < kCorners)
+            painter.PaintCircle(GetHandleRect(handle));
+        else
+            painter.PaintSquare(GetHandleRect(handle));
     }
 }
 

@@ -1,13 +1,13 @@
 // Handles, hit tests and moving of the object base.
 #include "core/Geometry.h"
 #include "core/UIObject.h"
+#include "core/src/HandlePainter.h"
 
 namespace Lumo {
 
 namespace {
 
 constexpr int kBodyHandle = 8;
-constexpr float kHandleSize = 8.0f;
 
 // Where the handles of a rectangle stand, as parts of its width and height, and their cursors.
 struct HandlePlace {
@@ -83,8 +83,7 @@ Gdiplus::PointF CUIObject::GetHandlePoint(int handle) {
 Gdiplus::RectF CUIObject::GetHandleRect(int handle) {
     if (handle == GetHandleCount() - 1)
         return Inflated(m_coordinate.GetPosition(), -1.0f);
-    const Gdiplus::PointF point = GetHandlePoint(handle);
-    return {point.X - kHandleSize / 2, point.Y - kHandleSize / 2, kHandleSize, kHandleSize};
+    return HandleSquare(GetHandlePoint(handle));
 }
 
 HCURSOR CUIObject::GetHandleCursor(int handle) {

@@ -6,14 +6,12 @@
 #include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 #include "core/UIObjectPoly.h"
+#include "core/src/HandlePainter.h"
 
 namespace Lumo {
 
 namespace {
 
-constexpr Gdiplus::ARGB kTrackerLine = 0xFF000000;
-constexpr Gdiplus::ARGB kTrackerFill = 0xFF87CEEB;
-constexpr float kTrackerReach = 5.0f;
 constexpr float kLineWidthFactor = 3.0f;
 // How far an anchor cap reaches beyond the end of a line, in pen widths, on the generous side.
 constexpr float kCapReach = 2.0f;
@@ -180,15 +178,9 @@ void CUIObjectPoly::DrawTracker(Gdiplus::Graphics* graphics) {
     }
     if (graphics == nullptr)
         return;
-    Gdiplus::Pen pen{Gdiplus::Color(kTrackerLine), 1.0f};
-    Gdiplus::SolidBrush brush{Gdiplus::Color(kTrackerFill)};
-    for (const Gdiplus::PointF& point : m_points) {
-        if (PaintScope::Misses(SegmentBounds(point, point, kTrackerReach)))
-            continue;
-        const Gdiplus::RectF square(point.X - 4.0f, point.Y - 4.0f, 8.0f, 8.0f);
-        graphics->DrawRectangle(&pen, square);
-        graphics->FillRectangle(&brush, Inflated(square, -1.0f));
-    }
+    HandlePainter painter(*graphics);
+    for (const Gdiplus::PointF& point : m_points)
+        painter.PaintSquare(HandleSquare(point));
 }
 
 void CUIObjectLine::Draw(Gdiplus::Graphics* graphics) {

@@ -244,14 +244,54 @@ TEST_F(DocumentTest, AGroupIsDestroyedWithItsChildren) {
     EXPECT_TRUE(Canvas(0)->m_selection.empty());
 }
 
-TEST_F(DocumentTest, AnObjectReleasedByItsHostLeavesThePage) {
+TEST_F(DocumentTest, AnObjectDestroyedByItsHostLeavesPageSelectionAndGroup) {
+    void (*const ways[])(CUIObject*) = {
+        [](CUIObject* object) { object->Release(); },
+        [](CUIObject* object) { delete object; },
+        [](CUIObject* object) { CUIDocument::DestroyObject(object); },
+    };
     m_document->AppendCanvas(Canvas(0));
-    CUIObject* object = Append();
-    object->SetDocument(m_document);
-    Canvas(0)->m_selection = {object};
+    CUIObjectList group({0, 0, 50, 50}, DS_LIST);
+    for (const auto destroy : ways) {
+        CUIObject* object = Append();
+        group.MakeGroup(object);
+        Canvas(0)->m_selection = {object};
+        destroy(object);
+        EXPECT_EQ(g_alive, 0);
+        EXPECT_TRUE(m_document->GetCanvasObjectList()->empty());
+        EXPECT_TRUE(Canvas(0)->m_selection.empty());
+        EXPECT_TRUE(group.GetChildren().empty());
+    }
+}
+
+TEST_F(DocumentTest, AReleaseThatDestroysOthersLeavesNoneOfThemBehind) {
+    struct Owner : Counted {
+        void Release() override {
+            delete m_label;
+            Counted::Release();
+        }
+        CUIObject* m_label = nullptr;
+    };
+    m_document->AppendCanvas(Canvas(0));
+    auto* owner = new Owner;
+    m_document->AppendObject(owner, nullptr);
+    m_document->AppendCanvas(Canvas(1));
+    owner->m_label = Append();
+    m_document->DeleteCanvas(Canvas(0));
+    EXPECT_EQ(g_alive, 0);
+    EXPECT_TRUE(m_document->GetCanvasObjectList(Canvas(1))->empty());
+}
+
+TEST_F(DocumentTest, ADocumentThatGoesWithoutReleaseLeavesItsObjectsAlive) {
+    CUIObject* object = nullptr;
+    {
+        CUIDocument document;
+        document.AppendCanvas(Canvas(0));
+        object = document.CreateObject(DS_RECTANGLE, CRect(0, 0, 1, 1));
+        EXPECT_EQ(object->GetDocument(), &document);
+    }
+    EXPECT_EQ(object->GetDocument(), nullptr);
     object->Release();
-    EXPECT_TRUE(m_document->GetCanvasObjectList()->empty());
-    EXPECT_TRUE(Canvas(0)->m_selection.empty());
 }
 
 }  // namespace
