@@ -33,7 +33,7 @@ scripts/wine-prefix.sh
 # Where no window manager runs Wine draws caption and frame itself.
 managed=Y
 xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' || managed=N
-if [ "$(cat build/managed 2>/dev/null)" != "$managed" ]; then
+if [ "$(cat "$WINEPREFIX/.tessel-managed" 2>/dev/null)" != "$managed" ]; then
     wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d "$managed" /f >/dev/null 2>&1
-    echo "$managed" >build/managed
+    echo "$managed" >"$WINEPREFIX/.tessel-managed"
 fi
