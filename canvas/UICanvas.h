@@ -32,9 +32,11 @@ class AFX_EXT_CLASS CUICanvas : public CWnd {
     DECLARE_DYNAMIC(CUICanvas)
 
 public:
+    /// A canvas without a document: it shows nothing but its ground and takes no edits.
     CUICanvas();
     /// A canvas of `document`, which is not owned.
     explicit CUICanvas(CUIDocument* document);
+    /// Destroys the window if it still lives and takes the page out of every document.
     ~CUICanvas() override;
     CUICanvas(const CUICanvas&) = delete;
     CUICanvas& operator=(const CUICanvas&) = delete;
@@ -53,15 +55,21 @@ public:
     /// Switches the mouse on (1) or off (0).
     void SetInteractive(int interactive) { m_bInteractive = interactive; }
 
-    /// Client pixels to page units, in place; rectangles come back normalised.
+    /// Client pixels to page units, in place.
     void ClientToDoc(CPoint& point);
+    /// The same for a rectangle, which comes back normalised.
     void ClientToDoc(CRect& rect);
+    /// The same, through whole pixels.
     void ClientToDoc(Gdiplus::PointF& point);
+    /// The same for a rectangle, which comes back normalised.
     void ClientToDoc(Gdiplus::RectF& rect);
-    /// Page units to client pixels, in place; rectangles come back normalised.
+    /// Page units to client pixels, in place.
     void DocToClient(CPoint& point);
+    /// The same for a rectangle, which comes back normalised.
     void DocToClient(CRect& rect);
+    /// The same, through whole units.
     void DocToClient(Gdiplus::PointF& point);
+    /// The same for a rectangle, which comes back normalised.
     void DocToClient(Gdiplus::RectF& rect);
 
     /// Stores the scale factor of `step` (0 to 8: 0.25 to 4) and repaints; an unknown step changes nothing.
@@ -103,15 +111,19 @@ public:
     /// Removes the mouse registration; the keyboard stays. 0 on failure.
     int UnRegisterRawInput();
 
-    // Mode commands: each stores its mode and nothing else.
+    /// Draw mode. Like the other mode commands it stores the mode and does nothing else.
     void OnModeDraw() { m_nMode = CM_DRAW; }
+    /// Poly mode.
     void OnModePoly() { m_nMode = CM_POLY; }
+    /// Text mode.
     void OnModeText() { m_nMode = CM_TEXT; }
+    /// Property mode.
     void OnModeProperty() { m_nMode = CM_PROPERTY; }
+    /// Run mode.
     void OnModeRunning() { m_nMode = CM_RUNNING; }
 
-    // Editing commands.
-    /// Puts the selected objects on the clipboard.
+    /// Puts the selected objects on the clipboard: their archive records, newest selection first, and for a
+    /// single object also its caption as text. What fails is logged and leaves the clipboard as it was.
     void OnEditObjectCopy();
     /// Copies, then deletes.
     void OnEditObjectCut();
@@ -120,26 +132,36 @@ public:
     /// Empties the selection and marks the document modified; adds nothing.
     void OnEditObjectPaste();
 
-    // Arrangement commands. The reference of an alignment is the object selected last.
+    /// Moves the selected objects to the left edge of the reference. The reference of every alignment is the
+    /// object selected last; one that covers no area aligns nothing.
     void OnToolsAlignLeft();
+    /// Moves them to the reference's right edge.
     void OnToolsAlignRight();
+    /// Moves them to the reference's top edge.
     void OnToolsAlignTop();
+    /// Moves them to the reference's bottom edge.
     void OnToolsAlignBottom();
     /// Moves sideways onto the reference's vertical axis.
     void OnToolsAlignVCenter();
     /// Moves up or down onto the reference's horizontal axis.
     void OnToolsAlignHCenter();
+    /// Moves onto the reference's centre.
     void OnToolsAlignCenter();
-    /// Turns the selection by -90 degrees.
+    /// Turns the selection by -90 degrees: one object about its own centre, several about the centre of the
+    /// rectangle from the origin to their far corner.
     void OnToolsRotateLeft();
-    /// Turns the selection by 90 degrees (clockwise).
+    /// The same by 90 degrees (clockwise).
     void OnToolsRotateRight();
-    // Stacking of the object selected last.
+    /// Puts the object selected last below all others of the page.
     void OnToolsPositionBack();
+    /// Moves it one place down.
     void OnToolsPositionBackward();
+    /// Moves it one place up.
     void OnToolsPositionForward();
+    /// Puts it on top of all others.
     void OnToolsPositionFront();
-    /// Puts the selected objects into a new group.
+    /// Puts the selected objects into a new group whose rectangle reaches from the origin to their far
+    /// corner.
     void OnToolsMakeGroup();
     /// Dissolves the group selected last; its children stay selected.
     void OnToolsMakeUngroup();
@@ -154,7 +176,9 @@ public:
     static CLIPFORMAT m_cfObject;
 
     // Slot order is part of the contract.
+    /// The base's: the canvas routes no commands, not even those of its own menu.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    /// Swallows Shift+F2 and the context menu message.
     BOOL PreTranslateMessage(MSG* msg) override;
     /// Repaints the rectangle of `obj` with its outline and, when it is selected, its handles.
     virtual void InvalidateObject(CUIObject* obj);
@@ -178,7 +202,7 @@ protected:
     afx_msg void OnNcDestroy();
 
     int m_nReserved1[2] = {};
-    int m_nWidth;  // page size in pixels, not set before Init
+    int m_nWidth;  // kept: the page size in pixels is not set before Init
     int m_nHeight;
     int m_nReserved2[6] = {};
 
@@ -202,9 +226,11 @@ protected:
 
 private:
     friend class CUIDocument;
+    class RepaintBatch;
 
     CUIToolBase* FindModeTool() const;
     void BuildContextMenu();
+    void Repaint(const CUIObject& object, bool tracked);
     void InvalidateObjects(const std::deque<CUIObject*>& objects);
     void ForgetObject(CUIObject* object);
     void ForgetObjects(const std::unordered_set<CUIObject*>& doomed);
@@ -216,6 +242,9 @@ private:
     void CopySelection();
 
     static std::vector<CUICanvas*>& Canvases();
+
+    RepaintBatch* m_pBatch = nullptr;  // the one that collects, or null
+    size_t m_nFound = 0;               // where `IsSelected` found an object last
 };
 
 }  // namespace Lumo

@@ -14,9 +14,12 @@ class AFX_EXT_CLASS CUIEdit : public CEdit {
     DECLARE_DYNAMIC(CUIEdit)
 
 public:
+    /// An editor without a window: `Create` must follow.
     CUIEdit();
+    /// Only `PostNcDestroy` ends an editor that has had a window.
     ~CUIEdit() override;
 
+    /// The plain control's, which edits no object.
     using CEdit::Create;
     /// Creates the control over `obj` as a child of `parent`, a canvas, and sets the object's editing flag.
     /// `ownerSlot` (may be null) is the owner's pointer to the editor; it is set to null when the editor

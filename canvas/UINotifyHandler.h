@@ -16,14 +16,15 @@ enum DragState : int {
 /// Mouse and key events of one window, with drags told by the messages' points. The host derives, overrides
 /// what it needs, and calls the handlers with the messages of its window: `wnd` is that window, `message` the
 /// message number, `flags` the MK_ key-state flags, `packed` the client point with x in the low and y in the
-/// high 16 bits, both unsigned. `OnKeyDown` gets the key data instead. Handlers without a comment do nothing
-/// here.
+/// high 16 bits, both unsigned. `OnKeyDown` gets the key data instead.
 ///
 /// A handler serves one window at a time. Call `OnLButtonDown` of this class before the first move: only it
 /// puts the drag state into a new handler.
 class AFX_EXT_CLASS CUINotifyHandler {
 public:
+    /// All points at the origin. Kept: the drag state is not set before the first press.
     CUINotifyHandler();
+    /// Copies every field; so does the assignment.
     CUINotifyHandler(const CUINotifyHandler&) = default;
     CUINotifyHandler& operator=(const CUINotifyHandler&) = default;
 
@@ -32,15 +33,23 @@ public:
     virtual void OnLButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
     /// Ends a drag, unless the release is within 2 pixels of the press: then the drag stays open.
     virtual void OnLButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a double click of the left button.
     virtual void OnLButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a press of the right button.
     virtual void OnRButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a release of the right button.
     virtual void OnRButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a double click of the right button.
     virtual void OnRButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a press of the middle button.
     virtual void OnMButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a release of the middle button.
     virtual void OnMButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a double click of the middle button.
     virtual void OnMButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
     /// Starts a drag when MK_LBUTTON is set and the point has left the press point; continues one.
     virtual void OnMouseMove(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: the wheel.
     virtual void OnMouseWheel(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
     /// A drag starts; `point` is where the button went down.
     virtual void OnDragEnter(CWnd* wnd, UINT flags, const CPoint& point);
@@ -48,6 +57,7 @@ public:
     virtual void OnDrag(CWnd* wnd, UINT flags, const CPoint& point);
     /// A drag ends; `point` is where the button was released.
     virtual void OnDragLeave(CWnd* wnd, UINT flags, const CPoint& point);
+    /// For derived classes: a key.
     virtual void OnKeyDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
 
 protected:
@@ -65,7 +75,9 @@ protected:
 /// that finds it apart from the previous one. Call `OnLButtonDown` of this class before the first move.
 class AFX_EXT_CLASS CUINotifyHandlerEx {
 public:
+    /// Both positions at the origin. Kept: marker and drag state are not set before the first press.
     CUINotifyHandlerEx();
+    /// Copies every field; so does the assignment.
     CUINotifyHandlerEx(const CUINotifyHandlerEx&) = default;
     CUINotifyHandlerEx& operator=(const CUINotifyHandlerEx&) = default;
 
@@ -74,15 +86,23 @@ public:
     virtual void OnLButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
     /// Ends a drag; both positions become the cursor's.
     virtual void OnLButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a double click of the left button.
     virtual void OnLButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a press of the right button.
     virtual void OnRButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a release of the right button.
     virtual void OnRButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a double click of the right button.
     virtual void OnRButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a press of the middle button.
     virtual void OnMButtonDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a release of the middle button.
     virtual void OnMButtonUp(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: a double click of the middle button.
     virtual void OnMButtonDblClk(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
     /// Starts a drag when the left button is down and the positions differ; continues one.
     virtual void OnMouseMove(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
+    /// For derived classes: the wheel.
     virtual void OnMouseWheel(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
     /// A drag starts; `point` is the current position.
     virtual void OnDragEnter(CWnd* wnd, UINT flags, const CPoint& point);
@@ -90,6 +110,7 @@ public:
     virtual void OnDrag(CWnd* wnd, UINT flags, const CPoint& point);
     /// A drag ends; `point` is the previous position.
     virtual void OnDragLeave(CWnd* wnd, UINT flags, const CPoint& point);
+    /// For derived classes: a key.
     virtual void OnKeyDown(CWnd* wnd, UINT message, UINT flags, LPARAM packed);
 
 protected:

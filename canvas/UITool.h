@@ -25,9 +25,9 @@ public:
     CUIToolBase(const CUIToolBase&) = delete;
     CUIToolBase& operator=(const CUIToolBase&) = delete;
 
-    // Slot order is part of the contract. `flags` are the MK_ key-state flags, `point` is in client
-    // coordinates.
-    /// Captures the mouse, stores the press point in `run_down` and `run_last`, shows the cross cursor.
+    // Slot order is part of the contract.
+    /// Captures the mouse, stores the press point in `run_down` and `run_last`, shows the cross cursor. In
+    /// all handlers `flags` are the MK_ key-state flags and `point` is in client coordinates.
     virtual void OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point);
     /// Does nothing.
     virtual void OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point);
@@ -80,6 +80,7 @@ public:
     /// What a drag does.
     enum DragMode { kNone = 0, kMove = 1, kHandle = 2, kRubberBand = 3 };
 
+    /// A tool for kind 16, idle.
     CUISelectTool();
 
     /// Grabs a handle or the body of the one selected object, else selects what is under the pointer, else
@@ -107,6 +108,7 @@ private:
 /// Creates an object with a single click.
 class AFX_EXT_CLASS CUIDownTool : public CUIToolBase {
 public:
+    /// Registers the tool for `kind`.
     explicit CUIDownTool(DrawShape kind);
 
     /// Creates an object of the current drawing shape at the press point; one that covers no area is
@@ -122,6 +124,7 @@ public:
 /// argument (low word x, high word y).
 class AFX_EXT_CLASS CUISymbolTool : public CUIDownTool {
 public:
+    /// Registers the tool for `kind`.
     explicit CUISymbolTool(DrawShape kind);
 
     /// Relays WM_LBUTTONDOWN.
@@ -139,6 +142,7 @@ public:
 /// Creates rectangles, ellipses, text boxes and lists by dragging out their rectangle.
 class AFX_EXT_CLASS CUIDownUpTool : public CUIToolBase {
 public:
+    /// Registers the tool for `kind`.
     explicit CUIDownUpTool(DrawShape kind);
 
     /// Creates, names and selects an empty object; the drag that follows pulls its handle 2.
@@ -153,6 +157,7 @@ public:
 /// line.
 class AFX_EXT_CLASS CUIMultiDownTool : public CUIToolBase {
 public:
+    /// Registers the tool for `kind`.
     explicit CUIMultiDownTool(DrawShape kind);
 
     /// Adds a point, creating the object with the first one.
@@ -175,6 +180,7 @@ private:
 /// Opens the in-place editor on the text object under the pointer; anything else goes to the select tool.
 class AFX_EXT_CLASS CUITextTool : public CUIToolBase {
 public:
+    /// A tool for kind 0xFF01.
     CUITextTool();
 
     /// Opens or closes the editor.
@@ -186,6 +192,7 @@ public:
 /// A tool whose handlers do nothing, for a host's configuration mode.
 class AFX_EXT_CLASS CUIConfigurationTool : public CUIToolBase {
 public:
+    /// Registers the tool for `kind`.
     explicit CUIConfigurationTool(DrawShape kind);
     /// Does nothing.
     void OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point) override;
@@ -196,6 +203,7 @@ public:
 /// A tool whose handlers do nothing, for a host's run mode.
 class AFX_EXT_CLASS CUIRunningTool : public CUIToolBase {
 public:
+    /// Registers the tool for `kind`.
     explicit CUIRunningTool(DrawShape kind);
     /// Does nothing.
     void OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point) override;

@@ -27,6 +27,7 @@ public:
     CUIDocument();
     /// Shares the object lists of `other`: the pages of both documents are the same lists.
     CUIDocument(const CUIDocument& other);
+    /// The same; the lists that this document alone held are freed, the objects in them are not.
     CUIDocument& operator=(const CUIDocument& other);
 
     // Slot order is part of the contract.

@@ -1,6 +1,5 @@
 // Aligning, quarter turns and stacking.
-#include "canvas/UICanvas.h"
-
+#include "canvas/src/RepaintBatch.h"
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
 #include "core/UIObject.h"
@@ -26,6 +25,7 @@ void CUICanvas::AlignSelection(Shift shift) {
     const CRect reference = GetSelectionLastRect();
     if (reference.IsRectEmpty())
         return;
+    const RepaintBatch batch(*this);
     for (CUIObject* object : m_selection) {
         const Gdiplus::PointF delta = shift(reference, object->GetPosition());
         // A NaN must count as a displacement, hence the comparison with zero.
@@ -82,6 +82,7 @@ void CUICanvas::RotateSelection(float angle) {
     if (several && bounds.IsEmptyArea())
         return;
     Gdiplus::PointF centre = Lumo::CentreOf(bounds);
+    const RepaintBatch batch(*this);
     for (CUIObject* object : m_selection) {
         InvalidateObject(object);
         if (several) {

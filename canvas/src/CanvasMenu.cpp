@@ -60,6 +60,7 @@ constexpr MenuItem kMenu[] = {
 }  // namespace
 
 void CUICanvas::BuildContextMenu() {
+    m_contextMenu.DestroyMenu();  // a window of this canvas before
     if (!m_contextMenu.Attach(::CreatePopupMenu()))
         return;
     for (const MenuItem& item : kMenu)

@@ -1,10 +1,11 @@
 // Coordinates, and the way of a mouse message to its tool.
-#include "canvas/UICanvas.h"
-
 #include "canvas/UITool.h"
+#include "canvas/src/MappedDC.h"
 #include "core/Geometry.h"
 
 #include <afxext.h>
+
+#include <algorithm>
 
 namespace Lumo {
 
@@ -12,19 +13,9 @@ namespace {
 
 constexpr int kZoomPercent = 100;  // kept: frozen, so that one page unit is one pixel on the screen
 
-// A device context of the canvas with the page's mapping.
-class MappedDC : public CClientDC {
-public:
-    explicit MappedDC(CUICanvas* canvas) : CClientDC(canvas) { canvas->OnPrepareDC(this, nullptr); }
-};
-
-template <class Convert>
-void ConvertRect(CUICanvas* canvas, CRect& rect, Convert convert) {
-    MappedDC dc(canvas);
-    CPoint corners[] = {rect.TopLeft(), rect.BottomRight()};
-    (dc.*convert)(corners, 2);
-    rect = CRect(corners[0], corners[1]);
-    rect.NormalizeRect();
+// How many device pixels of a printer make the window's extent; a device of no size counts as one millimetre.
+int PrintExtent(const CDC& dc, int resolution, int millimetres) {
+    return dc.GetDeviceCaps(resolution) * 5 / std::max(1, dc.GetDeviceCaps(millimetres));
 }
 
 }  // namespace
@@ -37,8 +28,8 @@ void CUICanvas::OnPrepareDC(CDC* dc, CPrintInfo* info) {
     int x = dpiX;
     int y = dpiY;
     if (info) {
-        x = dc->GetDeviceCaps(HORZRES) * 5 / dc->GetDeviceCaps(HORZSIZE);
-        y = dc->GetDeviceCaps(VERTRES) * 5 / dc->GetDeviceCaps(VERTSIZE);
+        x = PrintExtent(*dc, HORZRES, HORZSIZE);
+        y = PrintExtent(*dc, VERTRES, VERTSIZE);
     }
     dc->SetWindowExt(x * kZoomPercent / 100, y * kZoomPercent / 100);
 }
@@ -48,7 +39,7 @@ void CUICanvas::ClientToDoc(CPoint& point) {
 }
 
 void CUICanvas::ClientToDoc(CRect& rect) {
-    ConvertRect(this, rect, static_cast<void (CDC::*)(LPPOINT, int) const>(&CDC::DPtoLP));
+    MappedDC(this).ToDoc(rect);
 }
 
 void CUICanvas::ClientToDoc(Gdiplus::PointF& point) {
@@ -68,7 +59,7 @@ void CUICanvas::DocToClient(CPoint& point) {
 }
 
 void CUICanvas::DocToClient(CRect& rect) {
-    ConvertRect(this, rect, static_cast<void (CDC::*)(LPPOINT, int) const>(&CDC::LPtoDP));
+    MappedDC(this).ToClient(rect);
 }
 
 void CUICanvas::DocToClient(Gdiplus::PointF& point) {

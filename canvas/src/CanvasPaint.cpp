@@ -1,7 +1,6 @@
 // Painting a page off-screen, and asking for it.
-#include "canvas/UICanvas.h"
-
 #include "canvas/UITool.h"
+#include "canvas/src/RepaintBatch.h"
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
 #include "core/UIDocument.h"
@@ -69,18 +68,21 @@ void CUICanvas::OnPaintTest(HDC hdc) {
 }
 
 void CUICanvas::InvalidateObject(CUIObject* obj) {
-    if (!obj || !m_hWnd)
+    if (obj)
+        Repaint(*obj, IsSelected(obj));
+}
+
+// Repaints an object with its outline and, when `tracked`, the handles around it.
+void CUICanvas::Repaint(const CUIObject& object, bool tracked) {
+    if (!m_hWnd)
         return;
-    Gdiplus::RectF position = obj->GetPosition();
-    CRect rect = RectAtlFromGdi(position);
-    DocToClient(rect);
-    const int margin =
-        static_cast<int>(obj->GetLineWidth() + (IsSelected(obj) ? kTrackerMargin : kPlainMargin));
-    rect.InflateRect(margin, margin);
-    InvalidateRect(rect, TRUE);
+    const int margin = TruncToInt(object.GetLineWidth() + (tracked ? kTrackerMargin : kPlainMargin));
+    RepaintBatch batch(*this);
+    m_pBatch->Add(RectAtlFromGdi(object.GetPosition()), margin);
 }
 
 void CUICanvas::InvalidateObjects(const std::deque<CUIObject*>& objects) {
+    const RepaintBatch batch(*this);
     for (CUIObject* object : objects)
         InvalidateObject(object);
 }
@@ -121,6 +123,7 @@ void CUICanvas::MoveTo(const int& how, CPoint& from, CPoint& to, int) {
     const Gdiplus::PointF delta(static_cast<float>(to.x - from.x), static_cast<float>(to.y - from.y));
     if (delta.X == 0 && delta.Y == 0)
         return;
+    const RepaintBatch batch(*this);
     for (CUIObject* object : m_selection) {
         InvalidateObject(object);
         object->MoveTo(how, delta);

@@ -40,15 +40,28 @@ void CUICanvas::Select(CUIObject* obj, int add) {
 }
 
 void CUICanvas::Deselect(CUIObject* obj) {
-    if (!IsSelected(obj))
+    if (!obj || !IsSelected(obj))
         return;
-    // Before it leaves the selection: afterwards the margin of its handles would not be repainted.
-    InvalidateObject(obj);
+    // Once it has left the selection, the room of its handles is no longer repainted with it.
+    Repaint(*obj, true);
     std::erase(m_selection, obj);
+    InvalidateObject(obj);
 }
 
+// A walk over the selection asks for its objects in order: the answer mostly stands where the last one stood,
+// or next to it, or in front.
 BOOL CUICanvas::IsSelected(const CUIObject* obj) {
-    return std::find(m_selection.begin(), m_selection.end(), obj) != m_selection.end();
+    for (const size_t place : {m_nFound, m_nFound + 1, size_t{0}}) {
+        if (place < m_selection.size() && m_selection[place] == obj) {
+            m_nFound = place;
+            return TRUE;
+        }
+    }
+    const auto found = std::find(m_selection.begin(), m_selection.end(), obj);
+    if (found == m_selection.end())
+        return FALSE;
+    m_nFound = static_cast<size_t>(found - m_selection.begin());
+    return TRUE;
 }
 
 void CUICanvas::SelectWithinRect(CRect, int add, int) {

@@ -85,10 +85,8 @@ void CUIDownTool::OnLButtonDown(CUICanvas* canvas, UINT, const CPoint&) {
 }
 
 void CUIDownTool::OnLButtonUp(CUICanvas* canvas, UINT, const CPoint&) {
-    if (!IsCurrent(canvas))
-        return;
-    ::ReleaseCapture();
-    ShowCursor(IDC_ARROW);
+    if (IsCurrent(canvas))
+        EndPress();
 }
 
 void CUIDownTool::OnRButtonDown(CUICanvas* canvas, UINT, const CPoint&) {

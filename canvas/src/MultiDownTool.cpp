@@ -96,7 +96,7 @@ void CUIMultiDownTool::ContinueFigure(CUICanvas* canvas, UINT flags, const CPoin
 }
 
 void CUIMultiDownTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    if (!IsCurrent(canvas) || run_handle != 1)
+    if (!IsCurrent(canvas) || run_handle != 1 || !Figure(canvas))
         return;
     const CRect click(run_down.x - kClickSlack, run_down.y - kClickSlack, run_down.x + kClickSlack,
                       run_down.y + kClickSlack);

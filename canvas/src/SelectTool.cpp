@@ -89,15 +89,14 @@ void CUISelectTool::MoveSelection(CUICanvas* canvas, const CPoint& pt, int last)
 }
 
 void CUISelectTool::Hover(CUICanvas* canvas, const CPoint& pt) {
+    run_handle = -1;
     if (canvas->m_selection.size() != 1 || run_drawshape != DS_SELECT)
         return;
     CUIObject* object = canvas->m_selection.front();
-    Gdiplus::PointF at(static_cast<float>(pt.x), static_cast<float>(pt.y));
+    Gdiplus::PointF at = PointGdiFromAtl(pt);
     const int handle = object->HitTest(at, 1);
-    if (handle < 0 || handle >= object->GetHandleCount()) {
-        run_handle = -1;
+    if (handle < 0 || handle >= object->GetHandleCount())
         return;
-    }
     run_handle = handle;
     ::SetCursor(object->GetHandleCursor(handle));
 }
@@ -126,8 +125,7 @@ void CUISelectTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& poi
     const CPoint pt = ToDoc(canvas, point);
     if (pt != run_down)
         FinishDrag(canvas, flags, pt);
-    ::ReleaseCapture();
-    ShowCursor(IDC_ARROW);
+    EndPress();
     run_handle = -1;
     m_nDragMode = kNone;
 }

@@ -29,10 +29,8 @@ void CUITextTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& poi
 }
 
 void CUITextTool::OnLButtonUp(CUICanvas* canvas, UINT, const CPoint&) {
-    if (!IsCurrent(canvas))
-        return;
-    ::ReleaseCapture();
-    ShowCursor(IDC_ARROW);
+    if (IsCurrent(canvas))
+        EndPress();
 }
 
 }  // namespace Lumo

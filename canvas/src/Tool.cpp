@@ -13,7 +13,7 @@
 namespace Lumo {
 
 std::deque<CUIToolBase*> CUIToolBase::m_tools;
-DrawShape CUIToolBase::run_drawshape = DS_RECTANGLE;
+DrawShape CUIToolBase::run_drawshape = DS_LINE;
 int CUIToolBase::run_handle = -1;
 CPoint CUIToolBase::run_down(0, 0);
 CPoint CUIToolBase::run_last(0, 0);
@@ -55,7 +55,7 @@ void CUIToolBase::OnLButtonDown(CUICanvas* canvas, UINT, const CPoint& point) {
     CPoint pt = point;
     canvas->ClientToDoc(pt);
     run_down = run_last = pt;
-    ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
+    ShowCursor(IDC_CROSS);
 }
 
 void CUIToolBase::OnLButtonUp(CUICanvas*, UINT, const CPoint&) {}
@@ -111,7 +111,9 @@ void CUIToolBase::MoveControl(const CPoint& anchor, CPoint& pt) {
 }
 
 void CUIToolBase::MoveControl(const CRect& limit, CPoint& pt) {
-    if (limit.PtInRect(pt))
+    CRect region = limit;
+    region.NormalizeRect();
+    if (region.PtInRect(pt))
         return;
     if (pt.x < limit.left)
         pt.x = limit.left;

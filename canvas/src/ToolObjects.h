@@ -10,20 +10,30 @@ namespace Lumo {
 /// The select tool that the creating tools hand their drags to, whatever the host registered ahead of it.
 CUISelectTool& SelectTool();
 
+/// Shows a system cursor (IDC_ARROW and the like).
 inline void ShowCursor(LPCTSTR systemCursor) {
     ::SetCursor(::LoadCursor(nullptr, systemCursor));
 }
 
+/// A client point in page units.
 inline CPoint ToDoc(CUICanvas* canvas, const CPoint& client) {
     CPoint pt = client;
     canvas->ClientToDoc(pt);
     return pt;
 }
 
+/// Whether the mouse is captured by the canvas.
 inline bool HasCapture(const CUICanvas* canvas) {
     return canvas->m_hWnd && ::GetCapture() == canvas->m_hWnd;
 }
 
+/// Ends a press that began no drag.
+inline void EndPress() {
+    ::ReleaseCapture();
+    ShowCursor(IDC_ARROW);
+}
+
+/// The object selected last, or null.
 inline CUIObject* FrontSelected(const CUICanvas* canvas) {
     return canvas->m_selection.empty() ? nullptr : canvas->m_selection.front();
 }

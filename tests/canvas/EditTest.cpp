@@ -1,6 +1,6 @@
 #include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UIEdit.h"
-#include "tests/canvas/CanvasFixture.h"
+#include "canvas/CanvasFixture.h"
 
 using namespace Lumo;
 

@@ -1,5 +1,5 @@
 #include "behaviour/UIObjectList.h"
-#include "tests/canvas/CanvasFixture.h"
+#include "canvas/CanvasFixture.h"
 
 using namespace Lumo;
 

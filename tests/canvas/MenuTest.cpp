@@ -1,5 +1,5 @@
 #include "canvas/CanvasCommands.h"
-#include "tests/canvas/CanvasFixture.h"
+#include "canvas/CanvasFixture.h"
 
 namespace {
 

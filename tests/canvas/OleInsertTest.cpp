@@ -1,4 +1,4 @@
-#include "tests/canvas/CanvasFixture.h"
+#include "canvas/CanvasFixture.h"
 
 #include <afxole.h>
 

@@ -1,4 +1,6 @@
-#include "tests/canvas/CanvasFixture.h"
+#include "canvas/CanvasFixture.h"
+
+#include <algorithm>
 
 using namespace Lumo;
 
@@ -45,6 +47,63 @@ TEST_F(Selection, RepaintsWhatIsSelectedAndWhatNoLongerIsWithItsHandles) {
     m_canvas->Select(nullptr, 0);
     EXPECT_EQ(TakeUpdateRect(), withHandles);
     EXPECT_TRUE(m_canvas->m_selection.empty());
+}
+
+TEST_F(Selection, FollowsAHostThatChangesTheQueueItself) {
+    CUIObject* a = AddRectangle(10, 10, 5, 5);
+    CUIObject* b = AddRectangle(20, 10, 5, 5);
+    CUIObject* c = AddRectangle(30, 10, 5, 5);
+    for (const List& selected : {List{a, b, c}, List{c, a}, List{b}, List{}, List{c, b, a}}) {
+        m_canvas->m_selection = selected;
+        for (CUIObject* object : {c, a, b, b, a, c})
+            EXPECT_EQ(m_canvas->IsSelected(object) != 0, std::ranges::count(selected, object) != 0);
+    }
+}
+
+// A page of a host that watches what is repainted.
+class WatchingCanvas : public CUICanvas {
+public:
+    using CUICanvas::CUICanvas;
+    void InvalidateObject(CUIObject* obj) override {
+        repainted.emplace_back(obj, IsSelected(obj));
+        CUICanvas::InvalidateObject(obj);
+    }
+    std::vector<std::pair<CUIObject*, BOOL>> repainted;
+};
+
+TEST_F(Selection, AnObjectIsInTheSelectionWhenItsSelectingIsRepaintedAndOutOfItAfterwards) {
+    CUIObject* a = AddRectangle(10, 10, 5, 5);
+    WatchingCanvas canvas(m_document);
+    canvas.Select(a, 0);
+    canvas.Deselect(a);
+    canvas.Select(a, 1);
+    canvas.Select(nullptr, 0);
+    const decltype(canvas.repainted) expected = {{a, TRUE}, {a, FALSE}, {a, TRUE}, {a, TRUE}};
+    EXPECT_EQ(canvas.repainted, expected);
+}
+
+TEST_F(Selection, MovingFewRepaintsTheirPlacesAndMovingManyTheRectangleAroundThem) {
+    const auto isMiddleInvalid = [&] {
+        CRgn invalid;
+        invalid.CreateRectRgn(0, 0, 0, 0);
+        m_canvas->GetUpdateRgn(&invalid);
+        return invalid.PtInRegion(200, 150) != 0;
+    };
+    CPoint from(0, 0);
+    CPoint to(7, 5);
+    for (const int count : {1, 100}) {
+        m_canvas->Select(nullptr, 0);
+        for (int i = 0; i < count; ++i) {
+            m_canvas->Select(AddRectangle(20, 20, 10, 10), 1);
+            m_canvas->Select(AddRectangle(350, 250, 10, 10), 1);
+        }
+        TakeUpdateRect();
+        m_canvas->MoveTo(8, from, to, 0);
+        EXPECT_EQ(isMiddleInvalid(), count > 1);
+        EXPECT_EQ(TakeUpdateRect(), CRect(14, 14, 373, 271));
+        for (CUIObject* object : m_canvas->m_selection)
+            EXPECT_EQ(static_cast<int>(object->GetPosition().X) % 10, 7);
+    }
 }
 
 TEST_F(Selection, StartingAnewLeavesPolyAndTextModeOnly) {

@@ -154,6 +154,15 @@ TEST_F(ToolTest, HoveringOverTheSelectedObjectRemembersTheHandle) {
     EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_SIZENWSE));
     Move(200, 200, 0);
     EXPECT_EQ(CUIToolBase::run_handle, -1);
+    Move(89, 50, 0);
+    EXPECT_EQ(CUIToolBase::run_handle, 1);
+    CUIToolBase::run_drawshape = DS_LINE;
+    Release(150, 150);  // a handle's number is not a count of points
+    EXPECT_EQ(Objects().size(), 1u);
+    CUIToolBase::run_drawshape = DS_SELECT;
+    m_canvas->Select(nullptr, 0);
+    Move(89, 50, 0);
+    EXPECT_EQ(CUIToolBase::run_handle, -1);
 }
 
 TEST_F(ToolTest, PressDragReleaseDrawsALine) {

@@ -1,5 +1,7 @@
 #include "canvas/CanvasFixture.h"
 
+#include <afxext.h>
+
 using namespace Lumo;
 
 namespace {
@@ -95,6 +97,20 @@ TEST_F(WindowTest, OneUnitIsOnePixelAndRectanglesComeBackNormalised) {
     CPoint whole(7, 9);
     m_canvas->DocToClient(whole);
     EXPECT_EQ(whole, CPoint(7, 9));
+}
+
+TEST_F(WindowTest, APrinterMapsByItsResolution) {
+    CClientDC dc(m_canvas);
+    CPrintInfo info;
+    m_canvas->OnPrepareDC(&dc, &info);
+    SIZE window, viewport;
+    ::GetWindowExtEx(dc.m_hDC, &window);
+    ::GetViewportExtEx(dc.m_hDC, &viewport);
+    EXPECT_EQ(::GetMapMode(dc.m_hDC), MM_ANISOTROPIC);
+    EXPECT_EQ(window.cx, dc.GetDeviceCaps(HORZRES) * 5 / dc.GetDeviceCaps(HORZSIZE));
+    EXPECT_EQ(window.cy, dc.GetDeviceCaps(VERTRES) * 5 / dc.GetDeviceCaps(VERTSIZE));
+    EXPECT_EQ(viewport.cx, dc.GetDeviceCaps(LOGPIXELSX));
+    EXPECT_EQ(viewport.cy, dc.GetDeviceCaps(LOGPIXELSY));
 }
 
 TEST_F(WindowTest, InvalidatesTheObjectWithRoomForOutlineAndHandles) {
