@@ -1,0 +1,124 @@
+// How a tab control looks: one style object per control, in families of styles with colour variants.
+#pragma once
+
+#include "core/Platform.h"
+
+namespace Lumo {
+
+/// Ready-made colours of tab controls.
+enum class TabTheme { kLight, kDark, kBlue };
+
+/// The colours a style paints with.
+struct TabColors {
+    COLORREF ground;       ///< the strip behind the tabs
+    COLORREF tab;          ///< a tab that is neither current nor under the pointer
+    COLORREF hover;        ///< the tab under the pointer
+    COLORREF current;      ///< the current tab
+    COLORREF text;         ///< texts and signs
+    COLORREF currentText;  ///< text of the current tab
+    COLORREF edge;         ///< lines around and between tabs
+    COLORREF accent;       ///< the mark of the current tab, and of the place where a dragged tab would go
+};
+
+/// The colours of a theme.
+AFX_EXT_CLASS TabColors TabColorsOf(TabTheme theme);
+
+/// The side of the pages on which the tabs are.
+enum class TabSide { kAbove, kBelow };
+
+/// What is painted besides the tabs.
+enum class TabSign { kClose, kAdd, kScrollLeft, kScrollRight };
+
+/// How a tab or a sign is shown now.
+struct TabState {
+    bool current = false;   ///< the current tab
+    bool hover = false;     ///< under the pointer
+    bool pressed = false;   ///< held by the button or dragged
+    bool focused = false;   ///< the current tab of a control that has the keyboard
+    bool disabled = false;  ///< a sign that does nothing now
+};
+
+/// The base of all styles: measures and paints a plain strip of rectangles. A host's own style overrides what
+/// looks different. Sizes are in pixels.
+class AFX_EXT_CLASS TabStyle {
+public:
+    explicit TabStyle(const TabColors& colors);
+    virtual ~TabStyle() = default;
+    TabStyle(const TabStyle&) = delete;
+    TabStyle& operator=(const TabStyle&) = delete;
+
+    const TabColors& Colors() const { return m_colors; }
+    /// The font of the texts; the system's for menus and small captions. Owned by the style.
+    HFONT Font() const { return m_font; }
+
+    /// Height of the strip.
+    virtual int Height() const { return 30; }
+    /// Space between two tabs; negative when they overlap.
+    virtual int Gap() const { return 0; }
+    /// Space at the left of the first tab.
+    virtual int Indent() const { return 6; }
+    /// Space between a tab's edge and its text.
+    virtual int Padding() const { return 14; }
+    /// Width of a tab for a text of that width, without a close button.
+    virtual int TabWidth(int textWidth) const;
+    /// The rectangle that a tab paints in, of the part of the strip that belongs to it.
+    virtual CRect TabBounds(const CRect& cell, TabSide side) const;
+
+    /// Paints the strip before the tabs.
+    virtual void DrawGround(CDC& dc, const CRect& strip, TabSide side) const;
+    /// Paints one tab without its text. The current one is painted last.
+    virtual void DrawTab(CDC& dc, const CRect& bounds, TabSide side, const TabState& state) const;
+    /// The colour of a tab's text.
+    virtual COLORREF TextColorOf(const TabState& state) const;
+    /// Paints a text into what the tab leaves for it.
+    virtual void DrawText(CDC& dc, const CString& text, const CRect& bounds, const TabState& state) const;
+    /// Paints a close, add or scroll sign in the middle of `bounds`.
+    virtual void DrawSign(CDC& dc, TabSign sign, const CRect& bounds, const TabState& state) const;
+    /// Paints the mark between two tabs at which a dragged one would go; `x` is between them.
+    virtual void DrawDropMark(CDC& dc, int x, const CRect& strip) const;
+
+protected:
+    /// The colour of a tab's face.
+    COLORREF FaceOf(const TabState& state) const;
+
+private:
+    TabColors m_colors;
+    CFont m_font;
+};
+
+/// No faces: texts on the strip, the current one in the accent colour with a bar at the page's side.
+class AFX_EXT_CLASS FlatTabStyle : public TabStyle {
+public:
+    explicit FlatTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
+    explicit FlatTabStyle(const TabColors& colors) : TabStyle(colors) {}
+
+    void DrawGround(CDC& dc, const CRect& strip, TabSide side) const override;
+    void DrawTab(CDC& dc, const CRect& bounds, TabSide side, const TabState& state) const override;
+    COLORREF TextColorOf(const TabState& state) const override;
+};
+
+/// Buttons on a bar: separate faces with round corners, the current one filled with the accent colour.
+class AFX_EXT_CLASS BarTabStyle : public TabStyle {
+public:
+    explicit BarTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
+    explicit BarTabStyle(const TabColors& colors) : TabStyle(colors) {}
+
+    int Gap() const override { return 4; }
+    CRect TabBounds(const CRect& cell, TabSide side) const override;
+    void DrawTab(CDC& dc, const CRect& bounds, TabSide side, const TabState& state) const override;
+    COLORREF TextColorOf(const TabState& state) const override;
+};
+
+/// Index cards: the current tab is one piece with the page beside the strip.
+class AFX_EXT_CLASS ClientAreaTabStyle : public TabStyle {
+public:
+    explicit ClientAreaTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
+    explicit ClientAreaTabStyle(const TabColors& colors) : TabStyle(colors) {}
+
+    int Gap() const override { return -1; }
+    CRect TabBounds(const CRect& cell, TabSide side) const override;
+    void DrawGround(CDC& dc, const CRect& strip, TabSide side) const override;
+    void DrawTab(CDC& dc, const CRect& bounds, TabSide side, const TabState& state) const override;
+};
+
+}  // namespace Lumo
