@@ -1,6 +1,8 @@
 // Every text that a user of Studio reads, in one table.
 #pragma once
 
+#include "studio/app/EditTexts.h"
+
 #include <afxwin.h>
 
 namespace Studio {
@@ -101,6 +103,7 @@ enum class Language { kEnglish, kKorean };
 enum class Text {
 #define STUDIO_TEXT_KEY(key, english, korean) key,
     STUDIO_TEXTS(STUDIO_TEXT_KEY)
+    STUDIO_EDIT_TEXTS(STUDIO_TEXT_KEY)
 #undef STUDIO_TEXT_KEY
 };
 

@@ -37,6 +37,7 @@ StudioDocument::StudioDocument(CWnd& parent, CanvasListener& listener)
     : m_parent(parent), m_listener(listener) {}
 
 StudioDocument::~StudioDocument() {
+    m_edits.Clear();
     m_pageOrder.clear();
 }
 
@@ -51,7 +52,7 @@ bool StudioDocument::NewFile() {
         return false;
     }
     m_path.Empty();
-    SetModifiedFlag(0);
+    m_edits.MarkSaved();
     return true;
 }
 
@@ -84,7 +85,7 @@ int StudioDocument::Load(CString& path) {
     if (!Attempt(Text::kErrorRead, path, load))
         return 0;
     m_path = FullPath(path);
-    SetModifiedFlag(0);
+    m_edits.MarkSaved();
     return 1;
 }
 
@@ -93,7 +94,7 @@ int StudioDocument::Save(CString& path) {
     if (!Attempt(Text::kErrorWrite, path, save))
         return 0;
     m_path = FullPath(path);
-    SetModifiedFlag(0);
+    m_edits.MarkSaved();
     return 1;
 }
 
@@ -173,6 +174,7 @@ void StudioDocument::Adopt(LoadedDocument loaded) {
 }
 
 void StudioDocument::DropPages() {
+    m_edits.Clear();
     ClearCanvas();
     m_pageOrder.clear();
 }

@@ -3,6 +3,7 @@
 
 #include "core/UIDocument.h"
 #include "studio/document/ObjectArchive.h"
+#include "studio/editing/History.h"
 #include "studio/editing/StudioCanvas.h"
 
 #include <vector>
@@ -42,6 +43,9 @@ public:
     /// Path of the file last loaded or saved, empty for a new document.
     const CString& GetPath() const { return m_path; }
 
+    /// The undo history; it is cleared when the pages are replaced.
+    History& Edits() { return m_edits; }
+
     /// All pages in their order.
     const std::vector<Page>& Pages() const { return m_pageOrder; }
     /// The page shown now; null before the first one.
@@ -70,6 +74,7 @@ private:
     CWnd& m_parent;
     CanvasListener& m_listener;
     std::vector<Page> m_pageOrder;
+    History m_edits{*this};
     CString m_path;
     CString m_error;
 };

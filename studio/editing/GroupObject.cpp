@@ -48,6 +48,13 @@ void GroupObject::AdoptStored(CUIObject* child) {
     m_bGrouped = TRUE;
 }
 
+void GroupObject::SetChildren(const std::deque<CUIObject*>& children) {
+    const std::deque<CUIObject*> kept = children;
+    DetachChildren();
+    for (CUIObject* child : kept)
+        AppendChild(child);
+}
+
 void GroupObject::Draw(Gdiplus::Graphics* g) {
     const RectF group = GetPosition();
     Lumo::GraphicsStateScope state(*g);

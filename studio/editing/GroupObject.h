@@ -20,6 +20,10 @@ public:
     /// Takes over one object whose geometry is already measured from the group's corner.
     void AdoptStored(Lumo::CUIObject* child);
 
+    /// Replaces the children; those that were there are let go and live on. Their geometry, measured from the
+    /// group's corner, and the group's own stay as they are.
+    void SetChildren(const std::deque<Lumo::CUIObject*>& children);
+
     /// Draws the children where they stand.
     void Draw(Gdiplus::Graphics* g) override;
     /// TRUE when a child is hit.

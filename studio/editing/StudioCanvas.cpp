@@ -5,6 +5,7 @@
 #include "canvas/UIEdit.h"
 #include "canvas/UITool.h"
 #include "core/Geometry.h"
+#include "studio/document/StudioDocument.h"
 #include "studio/editing/Geometry.h"
 #include "studio/editing/PageTool.h"
 
@@ -47,8 +48,8 @@ BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
     ON_MESSAGE(WM_PARENTNOTIFY, &StudioCanvas::OnParentNotify)
 END_MESSAGE_MAP()
 
-StudioCanvas::StudioCanvas(Lumo::CUIDocument& document, CanvasListener& listener)
-    : CUICanvas(&document), m_listener(listener) {}
+StudioCanvas::StudioCanvas(StudioDocument& document, CanvasListener& listener)
+    : CUICanvas(&document), m_history(document.Edits()), m_listener(listener) {}
 
 StudioCanvas::~StudioCanvas() {
     m_gesture.reset();

@@ -10,7 +10,9 @@
 
 namespace Studio {
 
+class History;
 class StudioCanvas;
+class StudioDocument;
 
 /// What a canvas tells its host.
 class CanvasListener {
@@ -28,13 +30,15 @@ public:
 class StudioCanvas : public Lumo::CUICanvas {
 public:
     /// Neither document nor listener is owned; both outlive the canvas.
-    StudioCanvas(Lumo::CUIDocument& document, CanvasListener& listener);
+    StudioCanvas(StudioDocument& document, CanvasListener& listener);
     ~StudioCanvas() override;
 
     /// Makes the hidden window as a child of `parent`. The current drawing tool stays. False when that fails.
     bool CreatePage(CWnd& parent);
 
     Lumo::CUIDocument& Document() const { return *m_pDocument; }
+    /// The document's undo history.
+    History& Edits() const { return m_history; }
     /// This page's objects in drawing order; null before the page belongs to the document.
     Lumo::CUIObjectDeque* Objects() const {
         return m_pDocument->GetCanvasObjectList(const_cast<StudioCanvas*>(this));
@@ -101,6 +105,7 @@ private:
     void SelectForMenu(CPoint at);
     void TrackPointer(CPoint at);
 
+    History& m_history;
     CanvasListener& m_listener;
     std::unique_ptr<Gesture> m_gesture;
     bool m_swallowRightUp = false;
