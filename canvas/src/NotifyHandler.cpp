@@ -17,6 +17,22 @@ bool IsOutsidePressBox(const CPoint& press, const CPoint& point) {
 
 }  // namespace
 
+void CUINotifyBase::OnLButtonDown(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnLButtonUp(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnLButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnRButtonDown(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnRButtonUp(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnRButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnMButtonDown(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnMButtonUp(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnMButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnMouseMove(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnMouseWheel(CWnd*, UINT, UINT, LPARAM) {}
+void CUINotifyBase::OnDragEnter(CWnd*, UINT, const CPoint&) {}
+void CUINotifyBase::OnDrag(CWnd*, UINT, const CPoint&) {}
+void CUINotifyBase::OnDragLeave(CWnd*, UINT, const CPoint&) {}
+void CUINotifyBase::OnKeyDown(CWnd*, UINT, UINT, LPARAM) {}
+
 // kept: the reserved words and the drag state are left as they come; the first press sets the state.
 CUINotifyHandler::CUINotifyHandler() : m_ptPress(0, 0), m_ptLast(0, 0), m_ptCursor(0, 0) {}
 
@@ -49,18 +65,5 @@ void CUINotifyHandler::OnLButtonUp(CWnd* wnd, UINT, UINT flags, LPARAM packed) {
         OnDragLeave(wnd, flags, m_ptLast);
     }
 }
-
-void CUINotifyHandler::OnLButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnRButtonDown(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnRButtonUp(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnRButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnMButtonDown(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnMButtonUp(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnMButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnMouseWheel(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandler::OnDragEnter(CWnd*, UINT, const CPoint&) {}
-void CUINotifyHandler::OnDrag(CWnd*, UINT, const CPoint&) {}
-void CUINotifyHandler::OnDragLeave(CWnd*, UINT, const CPoint&) {}
-void CUINotifyHandler::OnKeyDown(CWnd*, UINT, UINT, LPARAM) {}
 
 }  // namespace Lumo

@@ -53,17 +53,4 @@ void CUINotifyHandlerEx::OnLButtonUp(CWnd* wnd, UINT, UINT flags, LPARAM) {
     m_nMarker = kNoMarker;
 }
 
-void CUINotifyHandlerEx::OnLButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnRButtonDown(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnRButtonUp(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnRButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnMButtonDown(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnMButtonUp(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnMButtonDblClk(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnMouseWheel(CWnd*, UINT, UINT, LPARAM) {}
-void CUINotifyHandlerEx::OnDragEnter(CWnd*, UINT, const CPoint&) {}
-void CUINotifyHandlerEx::OnDrag(CWnd*, UINT, const CPoint&) {}
-void CUINotifyHandlerEx::OnDragLeave(CWnd*, UINT, const CPoint&) {}
-void CUINotifyHandlerEx::OnKeyDown(CWnd*, UINT, UINT, LPARAM) {}
-
 }  // namespace Lumo

@@ -1,5 +1,7 @@
 #include "canvas/CanvasFixture.h"
 
+#include "support/TemporaryFile.h"
+
 #include <afxadv.h>
 #include <afxole.h>
 
@@ -46,32 +48,6 @@ TEST(ClipboardReader, DISABLED_Report) {
     ::fclose(file);
 }
 
-class TempFile {
-public:
-    TempFile() {
-        wchar_t folder[MAX_PATH];
-        ::GetTempPath(MAX_PATH, folder);
-        ::GetTempFileName(folder, L"clp", 0, m_path);
-    }
-    ~TempFile() { ::DeleteFile(m_path); }
-    TempFile(const TempFile&) = delete;
-    TempFile& operator=(const TempFile&) = delete;
-
-    const wchar_t* Path() const { return m_path; }
-
-    Bytes Read() const {
-        Bytes bytes(1 << 16);
-        FILE* file = ::_wfopen(m_path, L"rb");
-        bytes.resize(file != nullptr ? ::fread(bytes.data(), 1, bytes.size(), file) : 0);
-        if (file != nullptr)
-            ::fclose(file);
-        return bytes;
-    }
-
-private:
-    wchar_t m_path[MAX_PATH];
-};
-
 // Messages have to be pumped meanwhile: the clipboard's owner hands the data out on request.
 void PumpUntilEnd(HANDLE process) {
     while (::MsgWaitForMultipleObjects(1, &process, FALSE, 30000, QS_ALLINPUT) == WAIT_OBJECT_0 + 1) {
@@ -82,7 +58,7 @@ void PumpUntilEnd(HANDLE process) {
 }
 
 Bytes ReadInAnotherProcess() {
-    const TempFile report;
+    const TemporaryFile report;
     ::SetEnvironmentVariable(kReportFile, report.Path());
     wchar_t program[MAX_PATH];
     ::GetModuleFileName(nullptr, program, MAX_PATH);
@@ -102,7 +78,8 @@ Bytes ReadInAnotherProcess() {
     EXPECT_EQ(code, 0u);
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
-    return report.Read();
+    const std::string read = report.Read();
+    return {read.begin(), read.end()};
 }
 
 Bytes Record(CUIObject* object) {
@@ -217,14 +194,13 @@ TEST_F(Clipboard, ACopyThatFailsLeavesTheClipboardAloneAndIsLogged) {
     m_document->AppendObject(bad, nullptr);
     Pick({a, bad});
 
-    const TempFile log;
+    const TemporaryFile log;
     ::SetEnvironmentVariable(L"MARROWLOG_FILE", log.Path());
     EXPECT_NO_THROW(m_canvas->OnEditObjectCopy());
     ::SetEnvironmentVariable(L"MARROWLOG_FILE", nullptr);
     EXPECT_EQ(ReadClipboard(PrivateFormat()), Record(a));
     EXPECT_EQ(m_canvas->m_selection, (List{bad, a}));
-    const Bytes bytes = log.Read();
-    const std::string line(bytes.begin(), bytes.end());
+    const std::string line = log.Read();
     EXPECT_NE(line.find("[5] [예외] Unknown CMemoryException exception in OnEditObjectCopy - "),
               std::string::npos)
         << line;
