@@ -1,0 +1,272 @@
+// Tabs under real messages: choosing, dragging, renaming, closing, scrolling, and what is painted.
+#include "window/TabCtrl.h"
+
+#include "afx/WindowSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using namespace Lumo;
+
+namespace {
+
+constexpr UINT kId = 77;
+
+// Remembers the notifications and refuses one of them on demand.
+class Host : public CWnd {
+public:
+    struct Note {
+        UINT code;
+        int tab, target;
+        CString text;
+    };
+    std::vector<Note> notes;
+    UINT refused = 0;
+
+    bool Got(UINT code, int tab, int target = -1) const {
+        for (const Note& note : notes) {
+            if (note.code == code && note.tab == tab && note.target == target)
+                return true;
+        }
+        return false;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message != WM_NOTIFY)
+            return CWnd::WindowProc(message, wParam, lParam);
+        const auto& notify = *reinterpret_cast<const TabNotify*>(lParam);
+        EXPECT_EQ(kId, wParam);
+        notes.push_back({notify.hdr.code, notify.tab, notify.target, notify.text});
+        return notify.hdr.code == refused;
+    }
+};
+
+class Tabs : public ::testing::Test {
+protected:
+    void SetUp() override {
+        const LPCWSTR windowClass = AfxRegisterWndClass(0);
+        ASSERT_TRUE(m_host.CreateEx(0, windowClass, L"Host", WS_POPUP | WS_VISIBLE, CRect(0, 0, 600, 200),
+                                    nullptr, 0));
+        ASSERT_TRUE(m_tabs.Create(WS_VISIBLE, CRect(0, 0, 600, 30), &m_host, kId));
+        for (LPCWSTR text : {L"One", L"Two", L"Three", L"Four"})
+            m_tabs.AddTab(text, text[0]);
+    }
+    void TearDown() override { m_host.DestroyWindow(); }
+
+    CString Order() const {
+        CString order;
+        for (int i = 0; i < m_tabs.GetTabCount(); ++i)
+            order += m_tabs.GetTabText(i) + (i == m_tabs.GetCurrent() ? L"* " : L" ");
+        return order.Trim();
+    }
+
+    CPoint Middle(int tab) const { return m_tabs.GetTabRect(tab).CenterPoint(); }
+    void Mouse(UINT message, CPoint at) {
+        m_tabs.SendMessage(message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    }
+    void Click(CPoint at) {
+        Mouse(WM_LBUTTONDOWN, at);
+        Mouse(WM_LBUTTONUP, at);
+    }
+    void Key(UINT key) { m_tabs.SendMessage(WM_KEYDOWN, key); }
+    // Presses a tab and moves it in front of another one, without releasing it.
+    void Pull(int from, CPoint to) {
+        Mouse(WM_LBUTTONDOWN, Middle(from));
+        Mouse(WM_MOUSEMOVE, Middle(from) + CSize(20, 0));
+        Mouse(WM_MOUSEMOVE, to);
+    }
+    // A key as the program's pump gets it.
+    bool Pump(HWND window, UINT key) {
+        MSG message = {window, WM_KEYDOWN, key, 0, 0, {}};
+        return AfxPreTranslateMessage(&message) != FALSE;
+    }
+    COLORREF PixelAt(CPoint at) {
+        m_tabs.RedrawWindow();
+        CClientDC dc(&m_tabs);
+        return dc.GetPixel(at.x, at.y);
+    }
+
+    Host m_host;
+    TabCtrl m_tabs;
+};
+
+TEST_F(Tabs, ListKeepsTheCurrentTab) {
+    EXPECT_EQ(L"One* Two Three Four", Order());
+    m_tabs.SetCurrent(2);
+    EXPECT_EQ(1, m_tabs.InsertTab(1, L"New"));
+    EXPECT_EQ(L"One New Two Three* Four", Order());
+    const struct {
+        int from, to;
+        LPCWSTR order;
+    } moves[] = {{0, 4, L"New Two Three* Four One"},
+                 {2, 0, L"Three* New Two Four One"},
+                 {3, 0, L"Four Three* New Two One"},
+                 {1, 4, L"Four New Two One Three*"}};
+    for (const auto& move : moves) {
+        EXPECT_TRUE(m_tabs.MoveTab(move.from, move.to));
+        EXPECT_EQ(move.order, Order());
+    }
+    EXPECT_TRUE(m_tabs.RemoveTab(4));
+    EXPECT_EQ(L"Four New Two One*", Order());
+    EXPECT_TRUE(m_tabs.RemoveTab(0));
+    EXPECT_EQ(L"New Two One*", Order());
+    EXPECT_EQ(static_cast<DWORD_PTR>(L'T'), m_tabs.GetTabData(1));
+    for (int none : {-1, 3}) {
+        EXPECT_FALSE(m_tabs.RemoveTab(none));
+        EXPECT_FALSE(m_tabs.MoveTab(none, 0));
+        EXPECT_FALSE(m_tabs.SetCurrent(none));
+        EXPECT_FALSE(m_tabs.SetTabText(none, L"x"));
+        EXPECT_TRUE(m_tabs.GetTabRect(none).IsRectEmpty());
+    }
+    m_tabs.RemoveAllTabs();
+    EXPECT_EQ(-1, m_tabs.GetCurrent());
+    Key(VK_RIGHT);
+    EXPECT_TRUE(m_host.notes.empty());
+}
+
+TEST_F(Tabs, MouseAndKeysChooseUnlessTheHostRefuses) {
+    Click(Middle(2));
+    EXPECT_TRUE(m_host.Got(TABN_CHANGING, 2) && m_host.Got(TABN_CHANGED, 2));
+    for (const auto& [key, current] :
+         {std::pair{VK_LEFT, 1}, {VK_HOME, 0}, {VK_LEFT, 0}, {VK_END, 3}, {VK_RIGHT, 3}}) {
+        Key(static_cast<UINT>(key));
+        EXPECT_EQ(current, m_tabs.GetCurrent());
+    }
+    m_host.refused = TABN_CHANGING;
+    Click(Middle(0));
+    EXPECT_EQ(3, m_tabs.GetCurrent());
+    m_tabs.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(500, 10));
+    EXPECT_TRUE(m_host.Got(TABN_MENU, -1));
+}
+
+TEST_F(Tabs, DragReordersAndCanBeGivenUp) {
+    Pull(0, Middle(2) + CSize(5, 0));
+    EXPECT_FALSE(m_tabs.IsDragging()) << "not allowed yet";
+    Mouse(WM_LBUTTONUP, Middle(2));
+    m_tabs.SetReorder(true);
+
+    Pull(0, Middle(2) + CSize(5, 0));
+    EXPECT_TRUE(m_tabs.IsDragging());
+    Mouse(WM_LBUTTONUP, Middle(2));
+    EXPECT_EQ(L"Two Three One* Four", Order());
+    EXPECT_TRUE(m_host.Got(TABN_MOVED, 0, 2));
+
+    Pull(3, Middle(0) - CSize(5, 0));
+    EXPECT_TRUE(Pump(m_tabs, VK_ESCAPE));
+    EXPECT_FALSE(m_tabs.IsDragging());
+    Mouse(WM_LBUTTONUP, Middle(0));
+    Pull(3, Middle(0) - CSize(5, 0));
+    ::ReleaseCapture();
+    EXPECT_FALSE(m_tabs.IsDragging());
+    m_host.refused = TABN_MOVE;
+    Pull(3, Middle(0) - CSize(5, 0));
+    Mouse(WM_LBUTTONUP, Middle(0));
+    EXPECT_EQ(L"Two Three One Four*", Order());
+
+    Pull(3, Middle(0));
+    m_tabs.RemoveTab(3);
+    EXPECT_FALSE(m_tabs.IsDragging()) << "the tab is gone";
+    Mouse(WM_LBUTTONUP, Middle(0));
+}
+
+TEST_F(Tabs, EditorRenamesOnReturnAndOnLeaving) {
+    Mouse(WM_LBUTTONDBLCLK, Middle(1));
+    EXPECT_FALSE(m_tabs.IsRenaming()) << "not allowed yet";
+    m_tabs.SetRename(true);
+    const auto type = [&](int tab, LPCWSTR text) {
+        Mouse(WM_LBUTTONDBLCLK, Middle(tab));
+        EXPECT_TRUE(m_tabs.IsRenaming());
+        CWnd* editor = m_tabs.GetWindow(GW_CHILD);
+        editor->SetWindowText(text);
+        return editor->m_hWnd;
+    };
+    EXPECT_TRUE(Pump(type(1, L" New name "), VK_RETURN));
+    EXPECT_EQ(L"One* New name Three Four", Order());
+    EXPECT_TRUE(Pump(type(1, L"No"), VK_ESCAPE));
+    EXPECT_TRUE(Pump(type(1, L"  "), VK_RETURN));
+    type(2, L"Left");
+    ::SetFocus(m_host);
+    PumpQueue();
+    EXPECT_FALSE(m_tabs.IsRenaming());
+    EXPECT_EQ(L"One* New name Left Four", Order());
+    m_host.refused = TABN_RENAME;
+    Pump(type(0, L"No"), VK_RETURN);
+    m_host.refused = TABN_BEGINRENAME;
+    EXPECT_FALSE(m_tabs.BeginRename(0));
+    EXPECT_EQ(L"One* New name Left Four", Order());
+
+    m_host.refused = 0;
+    type(3, L"Gone");
+    m_tabs.RemoveTab(3);
+    EXPECT_FALSE(m_tabs.IsRenaming());
+    PumpQueue();
+    EXPECT_EQ(L"One* New name Left", Order());
+}
+
+TEST_F(Tabs, ButtonsAskTheHost) {
+    m_tabs.SetAddButton(true);
+    m_tabs.SetCloseButtons(true);
+    Click(m_tabs.GetPartRect(TabPart::kAdd).CenterPoint());
+    Click(m_tabs.GetPartRect(TabPart::kClose, 2).CenterPoint());
+    EXPECT_TRUE(m_host.Got(TABN_ADD, -1) && m_host.Got(TABN_CLOSE, 2));
+    EXPECT_EQ(L"One* Two Three Four", Order()) << "the host decides";
+    m_host.notes.clear();
+    Mouse(WM_LBUTTONDOWN, m_tabs.GetPartRect(TabPart::kClose, 1).CenterPoint());
+    Mouse(WM_LBUTTONUP, Middle(0));
+    EXPECT_FALSE(m_host.Got(TABN_CLOSE, 1)) << "released elsewhere";
+    Mouse(WM_MBUTTONUP, Middle(3));
+    EXPECT_TRUE(m_host.Got(TABN_CLOSE, 3));
+}
+
+TEST_F(Tabs, ScrollWhenTheyDoNotFit) {
+    EXPECT_FALSE(m_tabs.IsScrolling());
+    for (int i = 0; i < 12; ++i)
+        m_tabs.AddTab(L"Another page");
+    ASSERT_TRUE(m_tabs.IsScrolling());
+    const CRect right = m_tabs.GetPartRect(TabPart::kScrollRight);
+    EXPECT_EQ(TabPart::kScrollRight, m_tabs.HitTest(right.CenterPoint()));
+    const int before = m_tabs.GetTabRect(0).left;
+    Click(right.CenterPoint());
+    EXPECT_LT(m_tabs.GetTabRect(0).left, before);
+    m_tabs.SetCurrent(15);
+    EXPECT_LE(m_tabs.GetTabRect(15).right, m_tabs.GetPartRect(TabPart::kScrollLeft).left);
+    m_tabs.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 100 * WHEEL_DELTA), 0);
+    EXPECT_EQ(before, m_tabs.GetTabRect(0).left) << "no farther than the first";
+    m_tabs.SetCurrent(15);
+    while (m_tabs.GetTabCount() > 2)
+        m_tabs.RemoveTab(0);
+    EXPECT_FALSE(m_tabs.IsScrolling());
+    EXPECT_EQ(before, m_tabs.GetTabRect(0).left);
+}
+
+TEST_F(Tabs, StylesPaintCurrentHoverAndTheRest) {
+    const TabColors dark = TabColorsOf(TabTheme::kDark);
+    m_tabs.SetStyle(std::make_unique<ClientAreaTabStyle>(TabTheme::kDark));
+    const auto face = [&](int tab) { return PixelAt(m_tabs.GetTabRect(tab).TopLeft() + CSize(8, 14)); };
+    EXPECT_EQ(dark.current, face(0));
+    EXPECT_EQ(dark.tab, face(1));
+    Mouse(WM_MOUSEMOVE, Middle(1));
+    EXPECT_EQ(1, m_tabs.GetHover());
+    EXPECT_EQ(dark.hover, face(1));
+    const CRect current = m_tabs.GetTabRect(0);
+    EXPECT_EQ(dark.current, PixelAt({current.CenterPoint().x, 29})) << "one piece with the page";
+    EXPECT_EQ(dark.edge, PixelAt({Middle(2).x, 29}));
+    m_tabs.SetSide(TabSide::kBelow);
+    EXPECT_EQ(dark.current, PixelAt({current.CenterPoint().x, 0}));
+    EXPECT_EQ(dark.edge, PixelAt({Middle(2).x, 0}));
+
+    const TabColors blue = TabColorsOf(TabTheme::kBlue);
+    m_tabs.SetStyle(std::make_unique<FlatTabStyle>(TabTheme::kBlue));
+    EXPECT_EQ(blue.accent, PixelAt({Middle(0).x, 0}));
+    EXPECT_EQ(blue.ground, face(2));
+    m_tabs.SetStyle(std::make_unique<BarTabStyle>(TabTheme::kBlue));
+    EXPECT_EQ(blue.accent, face(0));
+    EXPECT_EQ(blue.tab, face(2));
+    m_tabs.SetStyle(nullptr);
+    EXPECT_EQ(TabColorsOf(TabTheme::kLight).accent, PixelAt({Middle(0).x, 0}));
+}
+
+}  // namespace
