@@ -23,6 +23,7 @@ public:
 
     /// The embedded record of that kind, null for a value that is no kind. Valid as long as this object.
     CUIShapeFormat* GetShapeFormat(ShapeFormatType type);
+    /// The same, for reading.
     const CUIShapeFormat* GetShapeFormat(ShapeFormatType type) const;
 
     /// The embedded record of a class without a copy: `Format<CUIShapeFormatFill>()`.
@@ -30,6 +31,7 @@ public:
     const Record& Format() const {
         return static_cast<const Record&>(*GetShapeFormat(Record::Type));
     }
+    /// The same, for writing.
     template <class Record>
     Record& Format() {
         return static_cast<Record&>(*GetShapeFormat(Record::Type));
@@ -44,17 +46,23 @@ public:
     /// Kept: does nothing. A record is enabled or disabled by assigning one.
     void EnableShapeFormat(ShapeFormatType type, int enabled);
 
-    /// Copies of the records.
+    /// A copy of the text record.
     CUIShapeFormatText GetShapeFormatText() const { return m_text; }
+    /// A copy of the fill record.
     CUIShapeFormatFill GetShapeFormatFill() const { return m_fill; }
+    /// A copy of the line colour record.
     CUIShapeFormatLineColor GetShapeFormatLineColor() const { return m_lineColor; }
+    /// A copy of the line style record.
     CUIShapeFormatLineStyle GetShapeFormatLineStyle() const { return m_lineStyle; }
+    /// A copy of the scale record.
     CUIShapeFormatScale GetShapeFormatScale() const { return m_scale; }
+    /// A copy of the position record.
     CUIShapeFormatPosition GetShapeFormatPosition() const { return m_position; }
-    /// Kept: the transposed letters belong to the exported name.
+    /// A copy of the shadow record. Kept: the transposed letters belong to the exported name.
     CUIShapeFormatShadow GetShpaeFormatShadow() const { return m_shadow; }
 
-    /// Replace whole records, kind, name and enabled flag included.
+    /// Replaces the text record as a whole, kind, name and enabled flag included. The other setters of this
+    /// name do the same with theirs.
     void SetShapeFormatText(CUIShapeFormatText format) { m_text = format; }
     void SetShapeFormatFill(CUIShapeFormatFill format) { m_fill = format; }
     void SetShapeFormatLineColor(CUIShapeFormatLineColor format) { m_lineColor = format; }

@@ -13,10 +13,8 @@ public:
     ~CPrefInput() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Kind of value.
-    int m_nType = 0;
-    /// Step of the value.
-    int m_nStep = 1;
+    int m_nType = 0;  ///< kind of value
+    int m_nStep = 1;  ///< step of the value
 };
 
 /// Action of a button.
@@ -28,19 +26,15 @@ public:
     ~CPrefButton() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Captions of the button while it is off and on.
-    CString m_strOffText;
-    CString m_strOnText;
-    /// Action code, its value, and whether the user is asked first.
-    int m_nAction = 0;
-    int m_nValue = 0;
-    int m_bConfirm = 0;
-    /// What the user is asked, and the commands for pressing and releasing.
-    CString m_strConfirmText;
-    CString m_strPressCommand;
-    CString m_strReleaseCommand;
-    /// Arguments of the commands.
-    CString m_strArguments[15];
+    CString m_strOffText;         ///< caption while the button is off
+    CString m_strOnText;          ///< caption while the button is on
+    int m_nAction = 0;            ///< action code
+    int m_nValue = 0;             ///< value of the action
+    int m_bConfirm = 0;           ///< 1 when the user is asked first
+    CString m_strConfirmText;     ///< what the user is asked
+    CString m_strPressCommand;    ///< command for pressing
+    CString m_strReleaseCommand;  ///< command for releasing
+    CString m_strArguments[15];   ///< arguments of the commands
 };
 
 /// Switch to another page.
@@ -52,13 +46,10 @@ public:
     ~CPrefPage() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Way of switching.
-    int m_nMode = 0;
-    /// Number of the page.
-    int m_nPage = 0;
-    /// Name of the page and its file.
-    CString m_strPageName;
-    CString m_strPagePath;
+    int m_nMode = 0;        ///< way of switching
+    int m_nPage = 0;        ///< number of the page
+    CString m_strPageName;  ///< name of the page
+    CString m_strPagePath;  ///< file of the page
 };
 
 /// Display of the bound value as text.
@@ -70,10 +61,8 @@ public:
     ~CPrefText() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Kind of value.
-    int m_nType = 0;
-    /// Format of the text.
-    CString m_strFormat;
+    int m_nType = 0;      ///< kind of value
+    CString m_strFormat;  ///< format of the text
 };
 
 /// Slider.
@@ -85,11 +74,8 @@ public:
     ~CPrefSlider() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Direction code.
-    int m_nDirection = 0;
-    /// Way of sliding.
-    int m_nMode = 0;
-    /// Bound value at the two ends.
-    int m_nLowValue = 0;
-    int m_nHighValue = 100;
+    int m_nDirection = 0;    ///< direction code
+    int m_nMode = 0;         ///< way of sliding
+    int m_nLowValue = 0;     ///< bound value at the lower end
+    int m_nHighValue = 100;  ///< bound value at the upper end
 };

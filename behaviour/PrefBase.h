@@ -4,9 +4,9 @@
 // records; the host evaluates them, and gives every field its meaning and its range. No field is checked
 // here.
 //
-// All records copy alike: an assignment copies the record's own fields and leaves the target's name, a copy
-// constructor starts from an empty name. A behaviour copied onto another object so keeps that object's
-// binding.
+// A new record has an empty name and the values that stand beside its fields. All records copy alike: an
+// assignment copies the record's own fields and leaves the target's name, a copy constructor starts from an
+// empty name. A behaviour copied onto another object so keeps that object's binding.
 #pragma once
 
 #include "core/Platform.h"
@@ -29,14 +29,10 @@ public:
 
 /// One comparison of a condition.
 struct CPrefComparison {
-    /// Comparison code.
-    int m_nCompare = 0;
-    /// The value compared with, or the lower limit.
-    int m_nLowValue = 0;
-    /// The upper limit.
-    int m_nHighValue = 0;
-    /// How the result is joined with the next comparison.
-    int m_nJoin = 0;
+    int m_nCompare = 0;    ///< comparison code
+    int m_nLowValue = 0;   ///< the value compared with, or the lower limit
+    int m_nHighValue = 0;  ///< the upper limit
+    int m_nJoin = 0;       ///< how the result is joined with the next comparison
 };
 
 /// The condition under which an object's behaviours act: up to four joined comparisons.
@@ -50,5 +46,5 @@ public:
     /// reduced to them.
     void Serialize(CArchive& ar) override;
 
-    CPrefComparison m_comparisons[4];
+    CPrefComparison m_comparisons[4];  ///< the comparisons in the order in which they are joined
 };

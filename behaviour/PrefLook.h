@@ -13,16 +13,13 @@ public:
     ~CPrefBlink() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Speed code.
-    int m_nSpeed = 1;
-    /// What blinks.
-    int m_bBlinkFill = 0;
-    int m_bBlinkLine = 0;
-    int m_bBlinkText = 0;
-    /// Comparison code and the limits of the bound value between which the object blinks.
-    int m_nCompare = 0;
-    int m_nLowValue = 0;
-    int m_nHighValue = 0;
+    int m_nSpeed = 1;      ///< speed code
+    int m_bBlinkFill = 0;  ///< 1 when the interior blinks
+    int m_bBlinkLine = 0;  ///< 1 when the outline blinks
+    int m_bBlinkText = 0;  ///< 1 when the text blinks
+    int m_nCompare = 0;    ///< comparison code
+    int m_nLowValue = 0;   ///< bound value from which the object blinks
+    int m_nHighValue = 0;  ///< bound value up to which the object blinks
 };
 
 /// Change of colours. All fields are ARGB.
@@ -34,17 +31,13 @@ public:
     ~CPrefColor() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Interior while the bound value is on and off.
-    DWORD m_dwFillOnColor = 0xFFFF0000;
-    DWORD m_dwFillOffColor = 0xFF800000;
-    /// Text while the bound value is on and off.
-    DWORD m_dwTextOnColor = 0xFFFFFFFF;
-    DWORD m_dwTextOffColor = 0xFF000080;
-    /// Outline.
-    DWORD m_dwLineColor = 0xFF0000FF;
-    /// A value beyond its limits, and a value within them.
-    DWORD m_dwAlarmColor = 0xFFFF0000;
-    DWORD m_dwNormalColor = 0xFF00FF00;
+    DWORD m_dwFillOnColor = 0xFFFF0000;   ///< interior while the bound value is on
+    DWORD m_dwFillOffColor = 0xFF800000;  ///< interior while the bound value is off
+    DWORD m_dwTextOnColor = 0xFFFFFFFF;   ///< text while the bound value is on
+    DWORD m_dwTextOffColor = 0xFF000080;  ///< text while the bound value is off
+    DWORD m_dwLineColor = 0xFF0000FF;     ///< outline
+    DWORD m_dwAlarmColor = 0xFFFF0000;    ///< a value beyond its limits
+    DWORD m_dwNormalColor = 0xFF00FF00;   ///< a value within its limits
 };
 
 /// Hiding.
@@ -56,16 +49,13 @@ public:
     ~CPrefHide() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Hiding mode.
-    int m_nMode = 0;
-    /// What is hidden.
-    int m_bHideFill = 0;
-    int m_bHideLine = 0;
-    int m_bHideText = 0;
-    /// Comparison code and the limits of the bound value between which the object is hidden.
-    int m_nCompare = 0;
-    int m_nLowValue = 0;
-    int m_nHighValue = 0;
+    int m_nMode = 0;       ///< hiding mode
+    int m_bHideFill = 0;   ///< 1 when the interior is hidden
+    int m_bHideLine = 0;   ///< 1 when the outline is hidden
+    int m_bHideText = 0;   ///< 1 when the text is hidden
+    int m_nCompare = 0;    ///< comparison code
+    int m_nLowValue = 0;   ///< bound value from which the object is hidden
+    int m_nHighValue = 0;  ///< bound value up to which the object is hidden
 };
 
 /// Filling of a part of the object in proportion to the bound value.
@@ -77,17 +67,12 @@ public:
     ~CPrefFill() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Filling mode.
-    int m_nMode = 0;
-    /// Image file of the filled part.
-    CString m_strImagePath;
-    /// Side from which the object fills.
-    int m_nDirection = 0;
-    /// Bound value of the empty and of the full object.
-    int m_nLowValue = 0;
-    int m_nHighValue = 100;
-    /// ARGB colours of the empty part, the filled part and the border between them.
-    DWORD m_dwEmptyColor = 0xFFFFFFFF;
-    DWORD m_dwFilledColor = 0xFF00FF00;
-    DWORD m_dwBorderColor = 0xFF0000FF;
+    int m_nMode = 0;                     ///< filling mode
+    CString m_strImagePath;              ///< image file of the filled part
+    int m_nDirection = 0;                ///< side from which the object fills
+    int m_nLowValue = 0;                 ///< bound value of the empty object
+    int m_nHighValue = 100;              ///< bound value of the full object
+    DWORD m_dwEmptyColor = 0xFFFFFFFF;   ///< empty part, ARGB
+    DWORD m_dwFilledColor = 0xFF00FF00;  ///< filled part, ARGB
+    DWORD m_dwBorderColor = 0xFF0000FF;  ///< border between the two, ARGB
 };

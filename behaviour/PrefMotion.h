@@ -13,15 +13,11 @@ public:
     ~CPrefMove() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Direction code.
-    int m_nDirection = 1;
-    /// Movement mode.
-    int m_nMode = 0;
-    /// Distance covered, in page units.
-    float m_fDistance = 10.0f;
-    /// Bound value at the beginning and at the end of the way.
-    int m_nLowValue = 0;
-    int m_nHighValue = 100;
+    int m_nDirection = 1;       ///< direction code
+    int m_nMode = 0;            ///< movement mode
+    float m_fDistance = 10.0f;  ///< distance covered, in page units
+    int m_nLowValue = 0;        ///< bound value at the beginning of the way
+    int m_nHighValue = 100;     ///< bound value at the end of the way
 };
 
 /// Resizing; an object has two of them.
@@ -33,16 +29,12 @@ public:
     ~CPrefSize() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Direction code.
-    int m_nDirection = 0;
-    /// Resizing mode.
-    int m_nMode = 0;
-    /// Size at the lower and at the upper value.
-    int m_nSmallSize = 0;
-    int m_nLargeSize = 0;
-    /// Bound value of the smallest and of the largest size.
-    int m_nLowValue = 0;
-    int m_nHighValue = 100;
+    int m_nDirection = 0;    ///< direction code
+    int m_nMode = 0;         ///< resizing mode
+    int m_nSmallSize = 0;    ///< size at the lower value
+    int m_nLargeSize = 0;    ///< size at the upper value
+    int m_nLowValue = 0;     ///< bound value of the smallest size
+    int m_nHighValue = 100;  ///< bound value of the largest size
 };
 
 /// Rotation.
@@ -54,12 +46,9 @@ public:
     ~CPrefRotate() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Angle at the lower and at the upper value, in degrees.
-    int m_nStartAngle = 0;
-    int m_nEndAngle = 90;
-    /// Bound value at the start and at the end angle.
-    int m_nLowValue = 0;
-    int m_nHighValue = 100;
-    /// Centre of the rotation.
-    POINT m_ptCenter = {0, 0};
+    int m_nStartAngle = 0;      ///< angle at the lower value, in degrees
+    int m_nEndAngle = 90;       ///< angle at the upper value, in degrees
+    int m_nLowValue = 0;        ///< bound value at the start angle
+    int m_nHighValue = 100;     ///< bound value at the end angle
+    POINT m_ptCenter = {0, 0};  ///< centre of the rotation
 };

@@ -14,13 +14,11 @@ public:
     ~CPrefTrendLine() override = default;
     void Serialize(CArchive& ar) override;
 
-    /// Width of the line.
-    int m_nWidth = 1;
-    /// Colour or index of the line; -1 for the host's choice.
-    int m_nColor = -1;
+    int m_nWidth = 1;   ///< width of the line
+    int m_nColor = -1;  ///< colour or index of the line; -1 for the host's choice
 };
 
-/// Trend graph. The lines belong to whoever uses the record: neither the destructor nor an assignment
+/// Trend graph. The lines belong to whoever uses the record. Kept: neither the destructor nor an assignment
 /// destroys the lines that were in the list, so the owner deletes them before the record goes or is
 /// overwritten.
 class AFX_EXT_CLASS CPrefTrend : public CPrefBase {
@@ -35,18 +33,14 @@ public:
     /// a new record. A number of lines below 0 raises the archive exception.
     void Serialize(CArchive& ar) override;
 
-    /// Kind of graph.
-    int m_nType = 1;
-    /// Time shown, and number of divisions of the time axis.
-    int m_nTimeSpan = 60;
-    int m_nTimeDivisions = 6;
-    /// Ends of the value axis, and number of its divisions.
-    int m_nHighValue = 100;
-    int m_nLowValue = 0;
-    int m_nValueDivisions = 5;
-    /// ARGB colours of the grid and of the background.
-    DWORD m_dwGridColor = 0xFFC0C0C0;
-    DWORD m_dwBackColor = 0xFF000000;
+    int m_nType = 1;                   ///< kind of graph
+    int m_nTimeSpan = 60;              ///< time shown
+    int m_nTimeDivisions = 6;          ///< number of divisions of the time axis
+    int m_nHighValue = 100;            ///< upper end of the value axis
+    int m_nLowValue = 0;               ///< lower end of the value axis
+    int m_nValueDivisions = 5;         ///< number of divisions of the value axis
+    DWORD m_dwGridColor = 0xFFC0C0C0;  ///< grid, ARGB
+    DWORD m_dwBackColor = 0xFF000000;  ///< background, ARGB
     /// The lines in the order in which they were added.
     std::list<CPrefTrendLine*> m_lines;
 };

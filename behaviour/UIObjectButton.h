@@ -33,13 +33,19 @@ public:
     void Draw(Gdiplus::Graphics* g) override;
     ~CUIObjectButton() override;
 
-    /// Slots 32 to 37: what the host draws for state 0, 1, 2, 3, 4 and 5. All are empty here.
+    // Virtual slots 32 to 37, in this order: what the host draws for each state. All are empty here.
+
+    /// State 0.
     virtual void DrawNormal(Gdiplus::Graphics* g);
+    /// State 1.
     virtual void DrawDown(Gdiplus::Graphics* g);
+    /// State 2.
     virtual void DrawFocus(Gdiplus::Graphics* g);
+    /// State 3.
     virtual void DrawOver(Gdiplus::Graphics* g);
+    /// State 4.
     virtual void DrawDisabled(Gdiplus::Graphics* g);
-    /// `reserved` is always 0.
+    /// State 5; `reserved` is always 0.
     virtual void DrawChecked(Gdiplus::Graphics* g, int reserved);
 
     /// Kind of button; the host interprets it.

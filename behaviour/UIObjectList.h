@@ -64,15 +64,12 @@ public:
 
     /// The children in drawing order (the first is drawn first). Owned by the group, never null entries.
     const std::deque<CUIObject*>& GetChildren() const { return m_children; }
-    /// Width and height at construction, rounded to whole units.
+    /// Width at construction, rounded to whole units.
     int GetInitialWidth() const { return m_nInitialWidth; }
+    /// Height at construction, rounded to whole units.
     int GetInitialHeight() const { return m_nInitialHeight; }
     /// 1 from construction with a rectangle or the first child on, 0 after ungrouping.
     BOOL GetGrouped() const { return m_bGrouped; }
-
-    /// Takes `object` out of every group that holds it. Whoever is about to destroy an object calls this, so
-    /// that no group keeps a pointer to it; for an object in no group it costs one look-up.
-    static void ForgetChild(CUIObject* object);
 
 protected:
     /// Kind 18, name "List", no size, not grouped.
@@ -88,6 +85,9 @@ protected:
 
 private:
     friend class CUIDocument;
+
+    // Takes an object that is about to go out of every group. For one in no group it costs one look-up.
+    static void ForgetChild(CUIObject* object);
 
     bool Holds(const CUIObject* object) const;
     void StoreChildren(CArchive& ar);

@@ -31,9 +31,10 @@ public:
     /// Slot 32: draws nothing; a host draws the embedded item here.
     virtual void Draw(CDC* dc);
 
-    /// The two archived values; the host gives them their meaning.
+    /// The first of two archived values; the host gives them their meaning.
     float GetFirstValue() const { return m_fFirstValue; }
     void SetFirstValue(float value) { m_fFirstValue = value; }
+    /// The second one.
     float GetSecondValue() const { return m_fSecondValue; }
     void SetSecondValue(float value) { m_fSecondValue = value; }
     /// The client item that holds the embedded object, null until the host attaches one. Not owned.

@@ -12,6 +12,7 @@
 /// host that keeps one per object archives it itself.
 class AFX_EXT_CLASS CUIPreference {
 public:
+    /// Sixteen records with their defaults and empty names.
     CUIPreference();
     /// Copies the values; all names of the copy are empty.
     CUIPreference(const CUIPreference& source);
@@ -21,20 +22,20 @@ public:
     /// Stores or loads the sixteen records in order of declaration, and nothing of its own.
     virtual void Serialize(CArchive& ar);
 
-    CPrefCondition m_condition;
-    CPrefFill m_fill;
-    CPrefMove m_move1;
-    CPrefMove m_move2;
-    CPrefSize m_size1;
-    CPrefSize m_size2;
-    CPrefRotate m_rotate;
-    CPrefColor m_color;
-    CPrefHide m_hide;
-    CPrefInput m_input;
-    CPrefBlink m_blink;
-    CPrefButton m_button;
-    CPrefPage m_page;
-    CPrefText m_text;
-    CPrefSlider m_slider;
-    CPrefTrend m_trend;
+    CPrefCondition m_condition;  ///< when the other behaviours act
+    CPrefFill m_fill;            ///< partial filling
+    CPrefMove m_move1;           ///< first movement
+    CPrefMove m_move2;           ///< second movement
+    CPrefSize m_size1;           ///< first resizing
+    CPrefSize m_size2;           ///< second resizing
+    CPrefRotate m_rotate;        ///< rotation
+    CPrefColor m_color;          ///< change of colours
+    CPrefHide m_hide;            ///< hiding
+    CPrefInput m_input;          ///< input of a value
+    CPrefBlink m_blink;          ///< blinking
+    CPrefButton m_button;        ///< action of a button
+    CPrefPage m_page;            ///< switch to another page
+    CPrefText m_text;            ///< display as text
+    CPrefSlider m_slider;        ///< slider
+    CPrefTrend m_trend;          ///< trend graph
 };

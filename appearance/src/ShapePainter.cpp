@@ -110,7 +110,7 @@ private:
         Fill(brush, area);
     }
 
-    // Into the whole rectangle for the ellipse, too.
+    // Kept: into the whole rectangle for the ellipse, too.
     void DrawFadedPicture() {
         Gdiplus::Bitmap bitmap(m_fill.m_strImagePath);
         if (bitmap.GetLastStatus() != Gdiplus::Ok)
@@ -141,7 +141,7 @@ void PaintShape(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, Sh
     ShapePainter painter(graphics, coordinate, kind, stage);
     if (painter.Misses())
         return;
-    // Kept: the fill comes last and covers the inner half of the outline.
+    // Kept: the fill comes last and covers the inner half of the outline, and the caption drawn before both.
     painter.PaintOutline();
     painter.PaintFill();
 }

@@ -34,7 +34,7 @@ void ArchiveField(CArchive& ar, Value (&values)[count]) {
         ArchiveField(ar, value);
 }
 
-/// Copies the fields of the table, and nothing else: the name stays.
+/// Copies the fields of the table, and nothing else. Kept: the target keeps its name.
 template <class Record, class... Fields>
 void CopyFields(Record& target, const Record& source, const std::tuple<Fields Record::*...>& table) {
     std::apply([&](auto... field) { (CopyField(target.*field, source.*field), ...); }, table);

@@ -74,6 +74,7 @@ int CUIDocument::Load(CString& path) {
     CFile file;
     if (!file.Open(path, CFile::modeRead | CFile::shareDenyWrite))
         return 0;
+    // kept: with the pages go the objects that could read themselves; a host makes its own before it reads.
     ClearCanvas();
     return Archive(file, CArchive::load, path, L"파일(%s) 형식을 알수 없습니다.\n\n%s", [&](CArchive& ar) {
         if (file.GetLength() != 0)
