@@ -110,6 +110,7 @@ private:
     void RequireFile() const;
     void FillBuffer(UINT needed);
     ULONGLONG BytesLeft() const;
+    bool LoadBufferedText(CString& string);
     void LetGo();
 
     UINT m_nMode;

@@ -149,6 +149,29 @@ ULONGLONG CArchive::BytesLeft() const {
     return ULONGLONG(m_lpBufMax - m_lpBufCur) + (length > position ? length - position : 0);
 }
 
+// The common case: a short text that the buffer holds whole. A text that is there already keeps its sharing.
+bool CArchive::LoadBufferedText(CString& string) {
+    constexpr int kHead = 4;
+    const BYTE* head = m_lpBufCur;
+    const ptrdiff_t buffered = m_lpBufMax - head;
+    if (!IsLoading() || buffered < kHead || head[0] != 0xFF || head[1] != 0xFE || head[2] != 0xFF ||
+        head[3] == 0xFF)
+        return false;
+    const int count = head[3];
+    const int size = kHead + count * int(sizeof(wchar_t));
+    if (buffered < size)
+        return false;
+    if (count != string.GetLength() ||
+        std::memcmp(head + kHead, string.GetString(), size_t(size - kHead)) != 0) {
+        CString loaded;
+        std::memcpy(loaded.GetBuffer(count), head + kHead, size_t(size - kHead));
+        loaded.ReleaseBuffer(count);
+        string = std::move(loaded);
+    }
+    m_lpBufCur += size;
+    return true;
+}
+
 namespace {
 
 constexpr BYTE kLongerThanByte = 0xFF;
@@ -207,6 +230,8 @@ CArchive& AFXAPI operator<<(CArchive& ar, const CString& string) {
 }
 
 CArchive& AFXAPI operator>>(CArchive& ar, CString& string) {
+    if (ar.LoadBufferedText(string))
+        return ar;
     const StoredLength length = ReadStringLength(ar);
     const ULONGLONG buffered = ULONGLONG(ar.m_lpBufMax - ar.m_lpBufCur);
     // The file is only asked for what the buffer does not hold already.
@@ -217,12 +242,6 @@ CArchive& AFXAPI operator>>(CArchive& ar, CString& string) {
         AfxThrowMemoryException();
     const int count = int(length.characters);
     const UINT bytes = UINT(count) * length.characterSize;
-    // A text that is there already keeps its sharing.
-    if (length.characterSize == sizeof(wchar_t) && count == string.GetLength() && bytes <= buffered &&
-        std::memcmp(ar.m_lpBufCur, string.GetString(), bytes) == 0) {
-        ar.m_lpBufCur += bytes;
-        return ar;
-    }
     CString loaded, ansi;
     // Bytes of the ANSI form are read into a string's memory and converted from there.
     CString& target = length.characterSize == sizeof(wchar_t) ? loaded : ansi;
