@@ -242,6 +242,13 @@ CArchive& AFXAPI operator>>(CArchive& ar, CString& string) {
         AfxThrowMemoryException();
     const int count = int(length.characters);
     const UINT bytes = UINT(count) * length.characterSize;
+    // A text that is there already keeps its sharing.
+    if (length.characterSize == sizeof(wchar_t) && count == string.GetLength() &&
+        bytes <= ULONGLONG(ar.m_lpBufMax - ar.m_lpBufCur) &&
+        std::memcmp(ar.m_lpBufCur, string.GetString(), bytes) == 0) {
+        ar.m_lpBufCur += bytes;
+        return ar;
+    }
     CString loaded, ansi;
     // Bytes of the ANSI form are read into a string's memory and converted from there.
     CString& target = length.characterSize == sizeof(wchar_t) ? loaded : ansi;
