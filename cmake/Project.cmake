@@ -17,7 +17,8 @@ function(tessel_sources out folder)
 endfunction()
 
 if(MINGW)
-    foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    set(TESSEL_RUNTIME_DLLS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    foreach(dll ${TESSEL_RUNTIME_DLLS})
         execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
                         OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
         if(NOT EXISTS "${path}")
