@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "canvas/UITool.h"
-#include "core/PaintScope.h"
 #include "support/Bytes.h"
 #include "support/Geometry.h"
+#include "support/PaintScopes.h"
 #include "support/Surface.h"
 
 namespace Lumo {
@@ -345,26 +345,18 @@ TEST_F(PolyDrawTest, TrackerHasASquareOnEveryPoint) {
     EXPECT_EQ(m_surface.At(75, 55), Surface::kWhite);
 }
 
-// Caps reach beyond the points, segments are left out one by one: no pixel of the update may change.
+// Caps reach beyond the points, and segments are left out one by one.
 TEST_F(PolyDrawTest, PaintScopeChangesNoPixelOfTheUpdate) {
     Add(m_line, {{60, 60}, {130, 90}});
     m_line.SetLineWidth(5);
     Add(m_polyLine, {{21, 158}, {58, 182}, {102, 158}, {178, 158}, {178, 21}});
     m_polyLine.SetLineWidth(8);
     m_polyLine.SetLineShapeMode(2);
-    m_line.Draw(m_surface);
-    m_polyLine.Draw(m_surface);
-    for (int y = 0; y < 200; y += 20)
-        for (int x = 0; x < 200; x += 20) {
-            Surface part(200, 200);
-            const PaintScope scope(Gdiplus::RectF(static_cast<float>(x), static_cast<float>(y), 20, 20));
-            m_line.Draw(part);
-            m_polyLine.Draw(part);
-            for (int dy = 0; dy < 20; ++dy)
-                for (int dx = 0; dx < 20; ++dx)
-                    ASSERT_EQ(part.At(x + dx, y + dy), m_surface.At(x + dx, y + dy))
-                        << x + dx << ", " << y + dy;
-        }
+    ExpectSamePixelsInEveryUpdate(200, 200, 20, [&](Surface& surface) {
+        m_line.Draw(surface);
+        m_polyLine.Draw(surface);
+        m_polyLine.DrawTracker(surface);
+    });
 }
 
 }  // namespace Lumo
