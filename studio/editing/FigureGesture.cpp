@@ -2,8 +2,8 @@
 
 #include "canvas/UITool.h"
 #include "core/Geometry.h"
+#include "studio/editing/Grid.h"
 #include "studio/editing/ObjectFactory.h"
-#include "studio/editing/PageEdits.h"
 #include "studio/editing/PageTool.h"
 
 #include <cstdlib>
@@ -24,8 +24,9 @@ bool Near(CPoint a, CPoint b, int distance) {
 }  // namespace
 
 FigureGesture::FigureGesture(StudioCanvas& page, Lumo::DrawShape kind, CPoint down)
-    : m_page(page), m_modifiedBefore(page.Document().GetModifiedFlag()), m_lastFixed(down) {
-    const PointF at = Lumo::PointGdiFromAtl(down);
+    : m_page(page), m_edit(page, Text::kStepDraw), m_lastFixed(PageGrid().Snap(down)) {
+    m_edit.TouchList(page);
+    const PointF at = Lumo::PointGdiFromAtl(m_lastFixed);
     ObjectPtr object = MakeDrawnObject(kind, Gdiplus::RectF(at.X, at.Y, 0.0f, 0.0f));
     m_figure = static_cast<Lumo::CUIObjectPoly*>(object.release());
     auto& points = *m_figure->NewPoints(2);
@@ -41,6 +42,8 @@ void FigureGesture::Move(CPoint at, UINT flags) {
 void FigureGesture::Follow(CPoint at, UINT flags) {
     if (flags & MK_CONTROL)
         Lumo::CUIToolBase::MoveControl(m_lastFixed, at);
+    else
+        at = PageGrid().Snap(at);
     m_page.InvalidateObject(m_figure);
     m_figure->NormalizePoints()->back() = Lumo::PointGdiFromAtl(at);
     m_figure->RecalcBounds();
@@ -73,7 +76,6 @@ bool FigureGesture::FixPoint() {
     if (fixed == m_lastFixed)
         return false;
     m_lastFixed = fixed;
-    m_page.Document().SetModifiedFlag(1);
     if (static_cast<int>(points.size()) >= m_figure->GetMaxPoints()) {
         ChooseTool(m_page, Lumo::DS_SELECT);
         return true;
@@ -99,8 +101,7 @@ void FigureGesture::Finish() {
 }
 
 void FigureGesture::Cancel() {
-    DestroyObjects(m_page, {m_figure});
-    m_page.Document().SetModifiedFlag(m_modifiedBefore);
+    m_edit.Cancel();
 }
 
 }  // namespace Studio

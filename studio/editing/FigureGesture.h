@@ -4,6 +4,7 @@
 #include "core/DrawShape.h"
 #include "core/UIObjectPoly.h"
 #include "studio/editing/Gesture.h"
+#include "studio/editing/History.h"
 #include "studio/editing/StudioCanvas.h"
 
 namespace Studio {
@@ -28,7 +29,7 @@ private:
     bool End();
 
     StudioCanvas& m_page;
-    const int m_modifiedBefore;
+    EditScope m_edit;
     Lumo::CUIObjectPoly* m_figure;
     CPoint m_lastFixed;
     bool m_firstPress = true;

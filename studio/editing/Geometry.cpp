@@ -178,6 +178,27 @@ void TurnObject(CUIObject& object, const PointF& centre, bool clockwise) {
     }
 }
 
+void FlipObject(CUIObject& object, const PointF& centre, bool horizontally) {
+    if (auto* poly = AsFigure(object)) {
+        for (PointF& point : *poly->NormalizePoints())
+            (horizontally ? point.X : point.Y) =
+                horizontally ? 2.0f * centre.X - point.X : 2.0f * centre.Y - point.Y;
+        poly->RecalcBounds();
+        return;
+    }
+    RectF bounds = object.GetPosition();
+    if (auto* group = AsGroup(object)) {
+        const PointF middle(bounds.Width * 0.5f, bounds.Height * 0.5f);
+        for (CUIObject* child : group->GetChildren())
+            FlipObject(*child, middle, horizontally);
+    }
+    if (horizontally)
+        bounds.X = 2.0f * centre.X - bounds.X - bounds.Width;
+    else
+        bounds.Y = 2.0f * centre.Y - bounds.Y - bounds.Height;
+    PutBounds(object, bounds);
+}
+
 void PutBounds(CUIObject& object, const RectF& bounds) {
     const PointF offset = object.GetPositionOffset();
     object.SetPosition(RectF(bounds.X - offset.X, bounds.Y - offset.Y, bounds.Width, bounds.Height));

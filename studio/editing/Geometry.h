@@ -35,6 +35,10 @@ void ShiftObject(Lumo::CUIObject& object, const Gdiplus::PointF& delta);
 /// Turns the object by a quarter about `centre`, with its points and children.
 void TurnObject(Lumo::CUIObject& object, const Gdiplus::PointF& centre, bool clockwise);
 
+/// Mirrors the object about `centre`, left and right (`horizontally`) or top and bottom, with its points and
+/// children.
+void FlipObject(Lumo::CUIObject& object, const Gdiplus::PointF& centre, bool horizontally);
+
 /// Sets the rectangle that `GetPosition` gives, whatever position offset the object carries.
 void PutBounds(Lumo::CUIObject& object, const Gdiplus::RectF& bounds);
 

@@ -6,6 +6,8 @@
 #include "core/UIObjectPoly.h"
 #include "studio/editing/Geometry.h"
 
+#include <algorithm>
+
 namespace Studio {
 
 using Gdiplus::PointF;
@@ -53,6 +55,24 @@ void GroupObject::SetChildren(const std::deque<CUIObject*>& children) {
     DetachChildren();
     for (CUIObject* child : kept)
         AppendChild(child);
+}
+
+std::deque<CUIObject*> GroupObject::TakeApart() {
+    const std::deque<CUIObject*> children = GetChildren();
+    const RectF group = GetPosition();
+    for (CUIObject* child : children)
+        ShiftObject(*child, PointF(group.X, group.Y));
+    DetachChildren();
+    return children;
+}
+
+int GroupObject::Depth() const {
+    int depth = 0;
+    for (const CUIObject* child : GetChildren()) {
+        if (const auto* group = dynamic_cast<const GroupObject*>(child))
+            depth = std::max(depth, group->Depth());
+    }
+    return depth + 1;
 }
 
 void GroupObject::Draw(Gdiplus::Graphics* g) {

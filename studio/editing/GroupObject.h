@@ -24,6 +24,12 @@ public:
     /// group's corner, and the group's own stay as they are.
     void SetChildren(const std::deque<Lumo::CUIObject*>& children);
 
+    /// Lets the children go and gives them back where they stand on the page, in drawing order. The group is
+    /// empty then, and lives on.
+    std::deque<Lumo::CUIObject*> TakeApart();
+    /// How many groups are nested here, this one included.
+    int Depth() const;
+
     /// Draws the children where they stand.
     void Draw(Gdiplus::Graphics* g) override;
     /// TRUE when a child is hit.

@@ -164,7 +164,7 @@ void HistoryStep::PutList(const Change& change, const CUIObjectDeque& list) cons
         for (const PlacedObject& placed : *part)
             concerned.insert(placed.object);
     }
-    std::erase_if(change.page->m_selection, [&](CUIObject* object) { return concerned.count(object) != 0; });
+    change.page->Forget(concerned);
     *objects = list;
 }
 

@@ -3,6 +3,7 @@
 #include "canvas/UITool.h"
 #include "core/Geometry.h"
 #include "core/UIObjectPoly.h"
+#include "studio/editing/Grid.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -30,16 +31,22 @@ bool EditsPoints(CUIObject& object) {
 
 }  // namespace
 
-SelectionGesture::SelectionGesture(StudioCanvas& page, CPoint down)
-    : m_page(page), m_down(down), m_objects(page.m_selection) {
+SelectionGesture::SelectionGesture(StudioCanvas& page, CPoint down, Text name)
+    : m_page(page), m_down(down), m_objects(page.m_selection), m_name(name) {
     m_start.reserve(m_objects.size());
     for (CUIObject* object : m_objects)
         m_start.push_back(CaptureGeometry(*object));
 }
 
+void SelectionGesture::BeginMove() {
+    if (HasMoved())
+        return;
+    m_edit.emplace(m_page, m_name);
+    m_edit->TouchPlace(m_objects);
+}
+
 void SelectionGesture::Finish() {
-    if (m_moved)
-        m_page.MarkModified();
+    m_edit.reset();
 }
 
 bool SelectionGesture::Release(CPoint at, UINT flags) {
@@ -49,53 +56,71 @@ bool SelectionGesture::Release(CPoint at, UINT flags) {
 }
 
 void SelectionGesture::Cancel() {
-    if (!m_moved)
-        return;
-    m_page.InvalidateAll(m_objects);
-    for (size_t i = 0; i < m_objects.size(); ++i)
-        RestoreGeometry(*m_objects[i], m_start[i]);
-    m_page.InvalidateAll(m_objects);
+    if (m_edit)
+        m_edit->Cancel();
+    m_edit.reset();
 }
 
 MoveGesture::MoveGesture(StudioCanvas& page, CPoint down, CUIObject* pick)
-    : SelectionGesture(page, down), m_pick(pick) {}
+    : SelectionGesture(page, down, Text::kStepMove), m_pick(pick) {
+    if (m_start.empty())
+        return;
+    RectF all = Lumo::Normalised(m_start.front().bounds);
+    for (const Geometry& start : m_start)
+        all = United(all, Lumo::Normalised(start.bounds));
+    m_corner = PointF(all.X, all.Y);
+}
 
 void MoveGesture::Move(CPoint at, UINT flags) {
-    if (!m_moved && std::abs(at.x - m_down.x) < kThreshold && std::abs(at.y - m_down.y) < kThreshold)
+    if (!HasMoved() && std::abs(at.x - m_down.x) < kThreshold && std::abs(at.y - m_down.y) < kThreshold)
         return;
-    m_moved = true;
-    if (flags & MK_CONTROL)
-        Lumo::CUIToolBase::MoveControl(m_down, at);
-    const PointF delta = Difference(at, m_down);
+    BeginMove();
+    const PointF delta = Shift(at, flags);
     m_page.InvalidateAll(m_objects);
     for (size_t i = 0; i < m_objects.size(); ++i)
         PlaceShifted(*m_objects[i], m_start[i], delta);
     m_page.InvalidateAll(m_objects);
 }
 
+// Ctrl snaps to directions, the grid to places.
+PointF MoveGesture::Shift(CPoint at, UINT flags) const {
+    if (flags & MK_CONTROL) {
+        Lumo::CUIToolBase::MoveControl(m_down, at);
+        return Difference(at, m_down);
+    }
+    return PageGrid().SnapShift(m_corner, Difference(at, m_down));
+}
+
 bool MoveGesture::Release(CPoint at, UINT flags) {
-    SelectionGesture::Release(at, flags);
-    if (!m_moved && m_pick && !(flags & MK_SHIFT))
+    Move(at, flags);
+    const bool moved = HasMoved();
+    Finish();
+    if (!moved && m_pick && !(flags & MK_SHIFT))
         m_page.Select(m_pick, 0);
     return true;
 }
 
 ResizeGesture::ResizeGesture(StudioCanvas& page, CUIObject& grabbed, int handle, CPoint down)
-    : SelectionGesture(page, down), m_grabbed(grabbed), m_handle(handle) {
+    : SelectionGesture(page, down, EditsPoints(grabbed) ? Text::kStepPoint : Text::kStepResize),
+      m_grabbed(grabbed),
+      m_handle(handle) {
     const int neighbour = handle == 0   ? std::min(3, grabbed.GetHandleCount() - 2)
                           : handle == 1 ? 2
                                         : handle - 1;
+    m_handlePoint = grabbed.GetHandlePoint(handle);
     m_neighbour = Lumo::PointAtlFromGdi(
         grabbed.GetHandlePoint(EditsPoints(grabbed) ? (handle == 0 ? 1 : handle - 1) : neighbour));
 }
 
 void ResizeGesture::Move(CPoint at, UINT flags) {
-    if (!m_moved && at == m_down)
+    if (!HasMoved() && at == m_down)
         return;
-    m_moved = true;
+    BeginMove();
     if (flags & MK_CONTROL)
         Lumo::CUIToolBase::MoveControl(m_neighbour, at);
-    const PointF delta = Difference(at, m_down);
+    PointF delta = Difference(at, m_down);
+    if (!(flags & MK_CONTROL))
+        delta = PageGrid().SnapShift(m_handlePoint, delta);
     m_page.InvalidateAll(m_objects);
     for (size_t i = 0; i < m_objects.size(); ++i)
         Place(*m_objects[i], m_start[i], delta, (flags & MK_SHIFT) != 0);

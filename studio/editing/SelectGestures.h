@@ -3,28 +3,41 @@
 
 #include "studio/editing/Geometry.h"
 #include "studio/editing/Gesture.h"
+#include "studio/editing/History.h"
 #include "studio/editing/StudioCanvas.h"
+
+#include <optional>
 
 namespace Studio {
 
 /// A gesture on all selected objects that knows where each of them started.
 class SelectionGesture : public Gesture {
 public:
-    SelectionGesture(StudioCanvas& page, CPoint down);
+    /// `name` is the name of the step that can be undone.
+    SelectionGesture(StudioCanvas& page, CPoint down, Text name);
     /// Keeps what has been done; called when a command comes in between.
     void Finish() override;
     void Cancel() override;
     bool Release(CPoint at, UINT flags) override;
 
 protected:
+    /// Whether anything was moved yet.
+    bool HasMoved() const { return m_edit.has_value(); }
+    /// To be called before each change.
+    void BeginMove();
+
     StudioCanvas& m_page;
     const CPoint m_down;
     Lumo::CUIObjectDeque m_objects;
     std::vector<Geometry> m_start;
-    bool m_moved = false;
+
+private:
+    const Text m_name;
+    std::optional<EditScope> m_edit;
 };
 
-/// Moves the selection. Ctrl keeps to the horizontal, the vertical and the diagonals.
+/// Moves the selection; its corner snaps to the grid. Ctrl keeps to the horizontal, the vertical and the
+/// diagonals.
 class MoveGesture : public SelectionGesture {
 public:
     /// With `pick`, an object that was selected already, a click without movement selects it alone.
@@ -33,7 +46,10 @@ public:
     bool Release(CPoint at, UINT flags) override;
 
 private:
+    Gdiplus::PointF Shift(CPoint at, UINT flags) const;
+
     Lumo::CUIObject* m_pick;
+    Gdiplus::PointF m_corner;  // left top of the selection at the start
 };
 
 /// Drags one handle of every selected object that has it; of a line, only the grabbed one's point. Shift
@@ -50,6 +66,7 @@ private:
     Lumo::CUIObject& m_grabbed;
     const int m_handle;
     CPoint m_neighbour;
+    Gdiplus::PointF m_handlePoint;
 };
 
 /// Selects what a dotted band touches; with Shift in addition to what is selected.

@@ -2,8 +2,8 @@
 
 #include "core/Geometry.h"
 #include "studio/editing/Geometry.h"
+#include "studio/editing/Grid.h"
 #include "studio/editing/ObjectFactory.h"
-#include "studio/editing/PageEdits.h"
 #include "studio/editing/PageTool.h"
 
 namespace Studio {
@@ -15,8 +15,9 @@ constexpr float kTooSmall = 3.0f;
 }  // namespace
 
 ShapeGesture::ShapeGesture(StudioCanvas& page, Lumo::DrawShape kind, CPoint down)
-    : m_page(page), m_down(down), m_modifiedBefore(page.Document().GetModifiedFlag()) {
-    const Gdiplus::PointF at = Lumo::PointGdiFromAtl(down);
+    : m_page(page), m_down(PageGrid().Snap(down)), m_edit(page, Text::kStepDraw) {
+    m_edit.TouchList(page);
+    const Gdiplus::PointF at = Lumo::PointGdiFromAtl(m_down);
     m_object = MakeDrawnObject(kind, Gdiplus::RectF(at.X, at.Y, 0.0f, 0.0f)).release();
     m_page.AddObject(m_object);
     if (kind != Lumo::DS_TEXTEDIT)
@@ -24,7 +25,7 @@ ShapeGesture::ShapeGesture(StudioCanvas& page, Lumo::DrawShape kind, CPoint down
 }
 
 void ShapeGesture::Move(CPoint at, UINT flags) {
-    Gdiplus::RectF bounds = Lumo::RectGdiFromAtl(CRect(m_down, at));
+    Gdiplus::RectF bounds = Lumo::RectGdiFromAtl(CRect(m_down, PageGrid().Snap(at)));
     if (flags & MK_SHIFT) {
         const Gdiplus::RectF start(bounds.X, bounds.Y, 0.0f, 0.0f);
         bounds = ResizedBounds(start, 2, Gdiplus::PointF(bounds.Width, bounds.Height), true);
@@ -36,19 +37,21 @@ void ShapeGesture::Move(CPoint at, UINT flags) {
 
 bool ShapeGesture::Release(CPoint at, UINT flags) {
     Move(at, flags);
+    Finish();
+    return true;
+}
+
+// A shape that is too small to be seen vanishes.
+void ShapeGesture::Finish() {
     const Gdiplus::SizeF size = m_object->GetSize();
     if (size.Width < kTooSmall || size.Height < kTooSmall) {
         Cancel();
         ChooseTool(m_page, Lumo::DS_SELECT);
-    } else {
-        m_page.MarkModified();
     }
-    return true;
 }
 
 void ShapeGesture::Cancel() {
-    DestroyObjects(m_page, {m_object});
-    m_page.Document().SetModifiedFlag(m_modifiedBefore);
+    m_edit.Cancel();
 }
 
 }  // namespace Studio

@@ -3,6 +3,7 @@
 
 #include "core/DrawShape.h"
 #include "studio/editing/Gesture.h"
+#include "studio/editing/History.h"
 #include "studio/editing/StudioCanvas.h"
 
 namespace Studio {
@@ -14,12 +15,13 @@ public:
     ShapeGesture(StudioCanvas& page, Lumo::DrawShape kind, CPoint down);
     void Move(CPoint at, UINT flags) override;
     bool Release(CPoint at, UINT flags) override;
+    void Finish() override;
     void Cancel() override;
 
 private:
     StudioCanvas& m_page;
     const CPoint m_down;
-    const int m_modifiedBefore;
+    EditScope m_edit;
     Lumo::CUIObject* m_object;
 };
 

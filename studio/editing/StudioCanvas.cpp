@@ -162,18 +162,30 @@ HBRUSH StudioCanvas::OnCtlColor(CDC* dc, CWnd* control, UINT type) {
     return m_editGround;
 }
 
-// The editor has gone, by whatever key or command: its text may have changed.
-LRESULT StudioCanvas::OnParentNotify(WPARAM event, LPARAM) {
+// The editor goes, by whatever key or command.
+LRESULT StudioCanvas::OnParentNotify(WPARAM event, LPARAM window) {
     if (LOWORD(event) == WM_DESTROY && m_edited) {
         const auto* objects = Objects();
         CUIObject* edited = std::exchange(m_edited, nullptr);
-        if (objects && std::find(objects->begin(), objects->end(), edited) != objects->end()) {
-            InvalidateObject(edited);
-            if (edited->GetText() != m_textBefore)
-                MarkModified();
-        }
+        if (objects && std::find(objects->begin(), objects->end(), edited) != objects->end())
+            KeepTypedText(*edited, reinterpret_cast<HWND>(window));
     }
     return Default();
+}
+
+// The editor has stored its text by now, unless it was left with Escape; or unless it is empty, which the
+// object does not take as a text.
+void StudioCanvas::KeepTypedText(CUIObject& object, HWND editor) {
+    const bool emptied = ::GetWindowTextLength(editor) == 0 && ::GetKeyState(VK_ESCAPE) >= 0;
+    const CString typed = emptied ? CString() : object.GetText();
+    InvalidateObject(&object);
+    if (typed == m_textBefore)
+        return;
+    CString& text = object.GetCoordinate().Format<Lumo::CUIShapeFormatText>().m_strText;
+    text = m_textBefore;
+    EditScope edit(*this, Text::kStepTyping);
+    edit.Touch(object);
+    text = typed;
 }
 
 void StudioCanvas::AddObject(CUIObject* object) {
@@ -211,6 +223,14 @@ void StudioCanvas::SelectOnly(const Lumo::CUIObjectDeque& objects) {
     InvalidateAll(m_selection);
 }
 
+void StudioCanvas::Forget(const std::unordered_set<CUIObject*>& objects) {
+    std::erase_if(m_selection, [&](CUIObject* object) { return objects.count(object) != 0; });
+    if (m_edited && objects.count(m_edited)) {
+        m_edited = nullptr;
+        EditText(nullptr);
+    }
+}
+
 void StudioCanvas::InvalidatePage(const RectF& rect) {
     if (!m_hWnd)
         return;
@@ -240,45 +260,6 @@ void StudioCanvas::InvalidateAll(const Lumo::CUIObjectDeque& objects) {
     for (CUIObject* object : objects)
         all = United(all, painted(*object));
     InvalidatePage(all);
-}
-
-void StudioCanvas::ShowBand(CPoint from, CPoint to) {
-    // What the press repainted has to be on the screen before the band is inverted over it.
-    UpdateWindow();
-    HideBand();
-    m_bandFrom = from;
-    m_bandTo = to;
-    m_band = true;
-    CUIToolBase::FocusRect(this, from, to);
-}
-
-void StudioCanvas::HideBand() {
-    if (std::exchange(m_band, false)) {
-        UpdateWindow();
-        CUIToolBase::FocusRect(this, m_bandFrom, m_bandTo);
-    }
-}
-
-void StudioCanvas::OnPaint() {
-    if (!m_band) {
-        CUICanvas::OnPaint();
-        return;
-    }
-    // The paint wipes the band inside the update region only; inverting it there again makes it whole.
-    CRgn painted;
-    painted.CreateRectRgn(0, 0, 0, 0);
-    ::GetUpdateRgn(m_hWnd, painted, FALSE);
-    CUICanvas::OnPaint();
-    CRect band(m_bandFrom, m_bandTo);
-    DocToClient(band);
-    CClientDC dc(this);
-    ::SelectClipRgn(dc, painted);
-    dc.DrawFocusRect(band);
-}
-
-void StudioCanvas::MarkModified() {
-    m_pDocument->SetModifiedFlag(1);
-    NotifyState();
 }
 
 void StudioCanvas::OnLButtonDown(UINT flags, CPoint point) {

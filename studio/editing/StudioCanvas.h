@@ -5,8 +5,10 @@
 #include "canvas/UICanvas.h"
 #include "core/UIDocument.h"
 #include "studio/editing/Gesture.h"
+#include "studio/editing/PageBitmap.h"
 
 #include <memory>
+#include <unordered_set>
 
 namespace Studio {
 
@@ -67,6 +69,9 @@ public:
     /// Selects exactly these objects; the last of them counts as selected last.
     void SelectOnly(const Lumo::CUIObjectDeque& objects);
 
+    /// Objects are about to leave the page: they are deselected, and an editor open on one is closed unsaved.
+    void Forget(const std::unordered_set<Lumo::CUIObject*>& objects);
+
     /// Repaints one object with everything it paints.
     void InvalidateObject(Lumo::CUIObject* object) override;
     /// Repaints several objects; many of them by one rectangle around all.
@@ -78,8 +83,6 @@ public:
     void ShowBand(CPoint from, CPoint to);
     void HideBand();
 
-    /// Marks the document modified and tells the host.
-    void MarkModified();
     /// Tells the host that something may have changed.
     void NotifyState() { m_listener.OnCanvasState(*this); }
 
@@ -99,7 +102,9 @@ protected:
     afx_msg LRESULT OnParentNotify(WPARAM event, LPARAM window);
 
 private:
+    void PaintObjects(const CRect& part);
     void EndGesture();
+    void KeepTypedText(Lumo::CUIObject& object, HWND editor);
     void NameUniquely(Lumo::CUIObject& object);
     void DropCapture();
     void SelectForMenu(CPoint at);
@@ -110,6 +115,7 @@ private:
     std::unique_ptr<Gesture> m_gesture;
     bool m_swallowRightUp = false;
     bool m_trackingLeave = false;
+    PageBitmap m_picture;
     bool m_band = false;
     CPoint m_bandFrom;
     CPoint m_bandTo;

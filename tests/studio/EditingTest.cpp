@@ -267,7 +267,7 @@ TEST_F(EditingTest, EditsATextBoxInPlace) {
     // An object that goes while it is edited takes its editor along.
     Mouse(WM_LBUTTONDBLCLK, 60, 60);
     ASSERT_NE(nullptr, Page().m_pEdit);
-    DestroyObjects(Page(), {text});
+    RemoveObjects(Page(), {text}, Text::kStepDelete);
     EXPECT_EQ(nullptr, Page().m_pEdit);
     EXPECT_TRUE(Objects().empty());
 }

@@ -1,0 +1,56 @@
+#include "studio/editing/PageBitmap.h"
+
+#include <algorithm>
+
+namespace Studio {
+
+namespace {
+
+constexpr int kDash = 3;  // pixels of one colour
+
+}  // namespace
+
+void PageBitmap::Begin(const CRect& part, DWORD ground) {
+    m_part = part;
+    m_width = static_cast<size_t>(part.Width());
+    m_pixels.assign(m_width * static_cast<size_t>(part.Height()), ground);
+    m_bitmap = std::make_unique<Gdiplus::Bitmap>(
+        part.Width(), part.Height(), static_cast<INT>(m_width * sizeof(DWORD)), PixelFormat32bppPARGB,
+        reinterpret_cast<BYTE*>(m_pixels.data()));
+}
+
+std::unique_ptr<Gdiplus::Graphics> PageBitmap::MakeGraphics() {
+    auto graphics = std::make_unique<Gdiplus::Graphics>(m_bitmap.get());
+    graphics->TranslateTransform(static_cast<float>(-m_part.left), static_cast<float>(-m_part.top));
+    return graphics;
+}
+
+void PageBitmap::DottedFrame(const CRect& frame, DWORD first, DWORD second) {
+    const auto color = [&](int along) { return along / kDash % 2 == 0 ? first : second; };
+    const int left = std::max(frame.left, m_part.left);
+    const int right = std::min(frame.right, m_part.right - 1);
+    const int top = std::max(frame.top, m_part.top);
+    const int bottom = std::min(frame.bottom, m_part.bottom - 1);
+    for (int x = left; x <= right; ++x) {
+        Dot(x, frame.top, color(x - frame.left));
+        Dot(x, frame.bottom, color(x - frame.left));
+    }
+    for (int y = top; y <= bottom; ++y) {
+        Dot(frame.left, y, color(y - frame.top));
+        Dot(frame.right, y, color(y - frame.top));
+    }
+}
+
+void PageBitmap::Show(HDC dc) const {
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = m_part.Width();
+    info.bmiHeader.biHeight = -m_part.Height();
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    ::SetDIBitsToDevice(dc, m_part.left, m_part.top, m_part.Width(), m_part.Height(), 0, 0, 0,
+                        m_part.Height(), m_pixels.data(), &info, DIB_RGB_COLORS);
+}
+
+}  // namespace Studio
