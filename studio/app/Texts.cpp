@@ -13,6 +13,7 @@ constexpr Row kRows[] = {
 #define STUDIO_TEXT_ROW(key, english, korean) {english, korean},
     STUDIO_TEXTS(STUDIO_TEXT_ROW)
     STUDIO_EDIT_TEXTS(STUDIO_TEXT_ROW)
+    STUDIO_PAGE_TEXTS(STUDIO_TEXT_ROW)
 #undef STUDIO_TEXT_ROW
 };
 

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "studio/app/EditTexts.h"
+#include "studio/app/PageTexts.h"
+
+#include "studio/app/PropertyTexts.h"
 
 #include <afxwin.h>
 
@@ -96,7 +99,8 @@ enum class Language { kEnglish, kKorean };
                            L"이 버전이 저장할 수 없는 개체가 들어 있습니다.") \
     X(kFaultDepth,         L"Its groups are nested too deeply.", L"그룹이 너무 깊이 중첩되어 있습니다.") \
     X(kFaultMemory,        L"There is not enough memory.", L"메모리가 부족합니다.") \
-    X(kFaultWindow,        L"A page window could not be made.", L"페이지 창을 만들 수 없습니다.")
+    X(kFaultWindow,        L"A page window could not be made.", L"페이지 창을 만들 수 없습니다.") \
+    STUDIO_PROPERTY_TEXTS(X)
 // clang-format on
 
 /// Names a text of the table.
@@ -104,6 +108,7 @@ enum class Text {
 #define STUDIO_TEXT_KEY(key, english, korean) key,
     STUDIO_TEXTS(STUDIO_TEXT_KEY)
     STUDIO_EDIT_TEXTS(STUDIO_TEXT_KEY)
+    STUDIO_PAGE_TEXTS(STUDIO_TEXT_KEY)
 #undef STUDIO_TEXT_KEY
 };
 

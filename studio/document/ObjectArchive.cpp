@@ -14,6 +14,7 @@ using Lumo::CUIObjectPoly;
 
 namespace {
 
+constexpr DWORD kVersionWithExtras = 2;
 constexpr int kMaxDepth = 64;
 constexpr int kMaxPoints = 65536;
 // Far beyond any screen, and far from where float arithmetic or the graphics library would fail.
@@ -30,8 +31,8 @@ bool Within(float value, float limit) {
 }
 
 void StoreAt(CArchive& ar, CUIObject& object, int depth);
-ObjectPtr LoadAt(CArchive& ar, int depth);
-void RestoreAt(CArchive& ar, CUIObject& object, int depth);
+ObjectPtr LoadAt(CArchive& ar, int depth, DWORD version);
+void RestoreAt(CArchive& ar, CUIObject& object, int depth, DWORD version);
 
 // The values that the library's record does not keep.
 void StoreRest(CArchive& ar, const CUIObject& object) {
@@ -98,17 +99,17 @@ void StoreChildren(CArchive& ar, const GroupObject& group, int depth) {
 }
 
 // A group that has its children already keeps them: each takes over what was stored of it.
-void LoadChildren(CArchive& ar, GroupObject& group, int depth) {
+void LoadChildren(CArchive& ar, GroupObject& group, int depth, DWORD version) {
     DWORD count;
     ar >> count;
     if (const auto& children = group.GetChildren(); !children.empty()) {
         Require(children.size() == count);
         for (CUIObject* child : children)
-            RestoreAt(ar, *child, depth + 1);
+            RestoreAt(ar, *child, depth + 1, version);
         return;
     }
     for (DWORD i = 0; i < count; ++i)
-        group.AdoptStored(LoadAt(ar, depth + 1).release());
+        group.AdoptStored(LoadAt(ar, depth + 1, version).release());
 }
 
 void CheckRecord(CUIObject& object, ObjectClass objectClass) {
@@ -133,34 +134,35 @@ void StoreAt(CArchive& ar, CUIObject& object, int depth) {
         StoreChildren(ar, *group, depth);
 }
 
-void LoadInto(CArchive& ar, CUIObject& object, ObjectClass objectClass, int depth) {
+void LoadInto(CArchive& ar, CUIObject& object, ObjectClass objectClass, int depth, DWORD version) {
     object.Serialize(ar);
     CheckRecord(object, objectClass);
     LoadRest(ar, object);
-    LoadExtras(ar, object);
+    if (version >= kVersionWithExtras)
+        LoadExtras(ar, object);
     if (auto* poly = dynamic_cast<CUIObjectPoly*>(&object))
         LoadPoints(ar, *poly);
     else if (auto* group = dynamic_cast<GroupObject*>(&object))
-        LoadChildren(ar, *group, depth);
+        LoadChildren(ar, *group, depth, version);
 }
 
-ObjectPtr LoadAt(CArchive& ar, int depth) {
+ObjectPtr LoadAt(CArchive& ar, int depth, DWORD version) {
     Require(depth < kMaxDepth, Text::kFaultDepth);
     DWORD code;
     ar >> code;
     const auto objectClass = static_cast<ObjectClass>(code);
     ObjectPtr object = MakeObject(objectClass);
     Require(object != nullptr);
-    LoadInto(ar, *object, objectClass, depth);
+    LoadInto(ar, *object, objectClass, depth, version);
     return object;
 }
 
-void RestoreAt(CArchive& ar, CUIObject& object, int depth) {
+void RestoreAt(CArchive& ar, CUIObject& object, int depth, DWORD version) {
     DWORD code;
     ar >> code;
     const auto objectClass = static_cast<ObjectClass>(code);
     Require(depth < kMaxDepth && objectClass == ClassOf(object));
-    LoadInto(ar, object, objectClass, depth);
+    LoadInto(ar, object, objectClass, depth, version);
 }
 
 }  // namespace
@@ -169,12 +171,12 @@ void StoreObject(CArchive& ar, CUIObject& object) {
     StoreAt(ar, object, 0);
 }
 
-ObjectPtr LoadObject(CArchive& ar) {
-    return LoadAt(ar, 0);
+ObjectPtr LoadObject(CArchive& ar, DWORD version) {
+    return LoadAt(ar, 0, version);
 }
 
 void RestoreObject(CArchive& ar, CUIObject& object) {
-    RestoreAt(ar, object, 0);
+    RestoreAt(ar, object, 0, kArchiveVersion);
 }
 
 }  // namespace Studio

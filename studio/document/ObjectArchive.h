@@ -11,14 +11,17 @@ struct FileFault {
     Text reason;
 };
 
+/// Version of what `StoreObject` writes: 1 had no binding and behaviours.
+inline constexpr DWORD kArchiveVersion = 2;
+
 /// Writes class, the library's record, removed mark, the values that the record does not keep (text alignment
 /// and unit, pen alignment, rectangle mode, most points, points), the extras and the children of a group.
 /// Raises the archive's exceptions and `FileFault`.
 void StoreObject(CArchive& ar, Lumo::CUIObject& object);
 
-/// Reads an object into a new one. Takes no more memory than the bytes that are there justify. Raises the
-/// archive's exceptions and `FileFault`.
-ObjectPtr LoadObject(CArchive& ar);
+/// Reads an object that was written in a version from 1 to `kArchiveVersion` into a new one. Takes no more
+/// memory than the bytes that are there justify. Raises the archive's exceptions and `FileFault`.
+ObjectPtr LoadObject(CArchive& ar, DWORD version = kArchiveVersion);
 
 /// Gives an object, and the children of a group, the state that `StoreObject` wrote of this very object: for
 /// undo, where objects stay themselves. Raises the archive's exceptions and `FileFault`.

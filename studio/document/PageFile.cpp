@@ -18,7 +18,6 @@ static_assert(sizeof(FileHeader) == 24, "the header is written as it stands in m
 
 // The control characters show a file that went through a text conversion.
 constexpr char kMagic[8] = {'T', 'S', 'P', 'G', '\r', '\n', 0x1A, '\n'};
-constexpr DWORD kVersion = 1;
 constexpr int kBuffer = 16 * 1024;
 
 // A file beside the real one, deleted unless it takes its place.
@@ -51,7 +50,8 @@ private:
     bool m_replaced = false;
 };
 
-void CheckHeader(CFile& file) {
+// Checks the header, and returns the version in it.
+DWORD CheckHeader(CFile& file) {
     const ULONGLONG size = file.GetLength();
     FileHeader header = {};
     if (size == 0)
@@ -59,18 +59,19 @@ void CheckHeader(CFile& file) {
     if (file.Read(&header, sizeof header) != sizeof header ||
         std::memcmp(header.magic, kMagic, sizeof kMagic) != 0)
         throw FileFault{Text::kFaultForeign};
-    if (header.version != kVersion)
+    if (header.version == 0 || header.version > kArchiveVersion)
         throw FileFault{Text::kFaultVersion};
     if (header.length != size - sizeof header)
         throw FileFault{Text::kFaultLength};
     if (header.checksum != FileChecksum(file, sizeof header))
         throw FileFault{Text::kFaultChecksum};
+    return header.version;
 }
 
 void WriteHeader(CFile& file) {
     FileHeader header = {};
     std::memcpy(header.magic, kMagic, sizeof kMagic);
-    header.version = kVersion;
+    header.version = kArchiveVersion;
     header.checksum = FileChecksum(file, sizeof header);
     header.length = file.GetLength() - sizeof header;
     file.SeekToBegin();
@@ -92,12 +93,12 @@ void WritePageFile(const CString& path, const std::function<void(CArchive&)>& st
     target.Replace();
 }
 
-void ReadPageFile(const CString& path, const std::function<void(CArchive&)>& load) {
+void ReadPageFile(const CString& path, const std::function<void(CArchive& ar, DWORD version)>& load) {
     CFile file(FullPath(path), CFile::modeRead | CFile::shareDenyWrite);
-    CheckHeader(file);
+    const DWORD version = CheckHeader(file);
     file.Seek(sizeof(FileHeader), CFile::begin);
     CArchive ar(&file, CArchive::load | CArchive::bNoFlushOnDelete, kBuffer);
-    load(ar);
+    load(ar, version);
 }
 
 CString FullPath(const CString& path) {

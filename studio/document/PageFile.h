@@ -12,9 +12,9 @@ namespace Studio {
 /// file is as it was then.
 void WritePageFile(const CString& path, const std::function<void(CArchive&)>& store);
 
-/// Opens `path`, checks header, length and checksum, and lets `load` read the contents. Raises the exceptions
-/// of file and archive and `FileFault`.
-void ReadPageFile(const CString& path, const std::function<void(CArchive&)>& load);
+/// Opens `path`, checks header, length and checksum, and lets `load` read the contents, which were written in
+/// `version` (1 to `kArchiveVersion`). Raises the exceptions of file and archive and `FileFault`.
+void ReadPageFile(const CString& path, const std::function<void(CArchive& ar, DWORD version)>& load);
 
 /// The full path of a file name, against the current folder.
 CString FullPath(const CString& path);

@@ -2,10 +2,11 @@
 #pragma once
 
 #include "core/UIDocument.h"
-#include "studio/document/ObjectArchive.h"
+#include "studio/document/PageContents.h"
 #include "studio/editing/History.h"
 #include "studio/editing/StudioCanvas.h"
 
+#include <functional>
 #include <vector>
 
 namespace Studio {
@@ -28,12 +29,19 @@ public:
 
     /// Replaces everything by one empty page. False when its window cannot be made; everything stays then.
     bool NewFile();
+    /// Replaces everything by pages that belong to no file and count as unmodified. False as above.
+    bool NewFile(DocumentContents contents);
 
     /// Reads a file. When it is refused the result is 0, the open pages stay as they are, and `GetError` says
     /// why.
     int Load(CString& path) override;
+    /// Reads what was saved by itself for the file `path` (empty: a document without a file), which the
+    /// document belongs to and differs from afterwards. False as for `Load`.
+    bool Recover(const CString& autosave, const CString& path);
     /// Writes a file whole or not at all. 0 on failure; `GetError` says why.
     int Save(CString& path) override;
+    /// Writes a copy whole or not at all; the document keeps its path and modified mark. False on failure.
+    bool SaveCopy(const CString& path);
     /// Stores all pages, or replaces them by what the archive holds to its end. Raises the archive's
     /// exceptions and `FileFault`; the pages stay as they are then.
     void Serialize(CArchive& ar) override;
@@ -50,23 +58,45 @@ public:
     const std::vector<Page>& Pages() const { return m_pageOrder; }
     /// The page shown now; null before the first one.
     StudioCanvas* CurrentPage();
+    /// Index of the page shown now, or of `canvas`; -1 when there is none.
+    int CurrentIndex();
+    int IndexOf(const Lumo::CUICanvas* canvas) const;
+
+    /// Makes a page the one that is shown. False for an index that is none.
+    bool ShowPage(int index);
+
+    // Page commands; each is one step of the history and shows the page concerned.
+    /// Puts an empty page behind the one at `index`. False when its window cannot be made.
+    bool AddPage(int index);
+    /// Puts a copy of a page behind it.
+    bool DuplicatePage(int index);
+    /// Takes a page away. False for the only one.
+    bool RemovePage(int index);
+    /// Renames a page. False for an empty name and for one that another page has.
+    bool RenamePage(int index, const CString& name);
+    /// Moves a page so that it has the index `to` afterwards. False for indices that are none.
+    bool MovePage(int from, int to);
+    /// Whether a page of this name is there, case ignored.
+    bool HasPageName(const CString& name) const;
+
+    /// Called when pages came, went, changed order or name, or another one is to be shown.
+    std::function<void()> onPages;
 
 private:
-    struct LoadedPage {
-        CString name;
-        std::vector<ObjectPtr> objects;
-    };
-    struct LoadedDocument {
-        std::vector<LoadedPage> pages;
-        size_t current = 0;
-    };
+    struct AbsentPage;
 
-    void StorePages(CArchive& ar);
-    static LoadedDocument LoadPages(CArchive& ar);
-    static LoadedPage LoadPage(CArchive& ar);
-    void Adopt(LoadedDocument loaded);
+    bool IsPage(int index) const { return index >= 0 && index < static_cast<int>(m_pageOrder.size()); }
     std::unique_ptr<StudioCanvas> MakeCanvas();
+    void FillPage(StudioCanvas& canvas, std::vector<ObjectPtr> objects);
+    void Adopt(DocumentContents loaded);
     void DropPages();
+
+    bool InsertPage(int index, CString name, std::vector<ObjectPtr> objects, Text step);
+    void Attach(AbsentPage& absent, int index);
+    void Detach(AbsentPage& absent, int index);
+    CString FreePageName() const;
+    CString FreeCopyName(const CString& name) const;
+    void PagesChanged();
 
     template <class Action>
     bool Attempt(Text sentence, const CString& path, Action action);

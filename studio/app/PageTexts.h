@@ -1,0 +1,52 @@
+// Texts of pages, files and symbols: a part of the table of texts.
+#pragma once
+
+// clang-format off
+/// key, English, Korean.
+#define STUDIO_PAGE_TEXTS(X) \
+    X(kMenuPage,           L"&Page",                    L"페이지(&P)") \
+    X(kPageAdd,            L"&Add Page",                L"페이지 추가(&A)") \
+    X(kPageDuplicate,      L"&Duplicate Page",          L"페이지 복제(&D)") \
+    X(kPageRemove,         L"&Remove Page",             L"페이지 삭제(&R)") \
+    X(kPageRename,         L"Re&name Page",             L"페이지 이름 바꾸기(&N)") \
+    X(kPageMoveLeft,       L"Move Page &Left",          L"왼쪽으로 옮기기(&L)") \
+    X(kPageMoveRight,      L"Move Page Ri&ght",         L"오른쪽으로 옮기기(&G)") \
+    X(kGoNextPage,         L"Ne&xt Page",               L"다음 페이지(&X)") \
+    X(kGoPreviousPage,      L"&Previous Page",           L"이전 페이지(&P)") \
+    X(kStepAddPage,        L"Add Page",                 L"페이지 추가") \
+    X(kStepDuplicatePage,  L"Duplicate Page",           L"페이지 복제") \
+    X(kStepRemovePage,     L"Remove Page",              L"페이지 삭제") \
+    X(kStepRenamePage,     L"Rename Page",              L"페이지 이름 바꾸기") \
+    X(kStepMovePage,       L"Move Page",                L"페이지 옮기기") \
+    X(kStepInsertSymbol,   L"Insert Symbol",            L"심볼 넣기") \
+    X(kErrorPageName,      L"There is already a page named \"%s\".", L"이름이 \"%s\"인 페이지가 이미 있습니다.") \
+    X(kFileExport,         L"&Export Page as PNG...",   L"페이지를 PNG로 내보내기(&E)...") \
+    X(kFileDemo,           L"Open &Demo Project",       L"데모 프로젝트 열기(&D)") \
+    X(kExportFilter,       L"PNG pictures (*.png)|*.png||", L"PNG 그림 (*.png)|*.png||") \
+    X(kErrorExport,        L"The picture \"%s\" was not written.\n\n%s", \
+                           L"그림 \"%s\"을(를) 저장하지 못했습니다.\n\n%s") \
+    X(kFaultPicture,       L"The picture could not be made.", L"그림을 만들 수 없습니다.") \
+    X(kFaultNoPage,        L"There is no such page.",   L"그런 페이지가 없습니다.") \
+    X(kAskRecover,         L"Studio ended before the changes to \"%s\" were saved.\n\nRecover them?", \
+                           L"\"%s\"의 변경 내용을 저장하기 전에 Studio가 종료되었습니다.\n\n복구할까요?") \
+    X(kDemoName,           L"Demo",                     L"데모") \
+    X(kCheckSound,         L"%s: sound, %d pages, %d objects", L"%s: 정상, 페이지 %d개, 개체 %d개") \
+    X(kCheckFaulty,        L"%s: not sound. %s",        L"%s: 손상됨. %s") \
+    X(kCheckPage,          L"Page %d \"%s\": %d objects", L"페이지 %d \"%s\": 개체 %d개") \
+    X(kUsage,              L"Studio [--lang en|ko] [--demo] [file.cbf]\n" \
+                           L"Studio --render file.cbf picture.png [page]\n" \
+                           L"Studio --check file.cbf\n" \
+                           L"Studio --make-demo file.cbf\n" \
+                           L"Studio --make-symbols folder\n", \
+                           L"Studio [--lang en|ko] [--demo] [파일.cbf]\n" \
+                           L"Studio --render 파일.cbf 그림.png [페이지]\n" \
+                           L"Studio --check 파일.cbf\n" \
+                           L"Studio --make-demo 파일.cbf\n" \
+                           L"Studio --make-symbols 폴더\n") \
+    X(kSymbols,            L"Symbols",                  L"심볼") \
+    X(kViewSymbols,        L"S&ymbol Library",          L"심볼 라이브러리(&Y)") \
+    X(kSymbolsFolder,      L"Folder...",                L"폴더...") \
+    X(kSymbolsFolderTitle, L"Folder with symbols",      L"심볼이 들어 있는 폴더") \
+    X(kSymbolsNone,        L"No symbols in this folder", L"이 폴더에 심볼이 없습니다") \
+    X(kErrorSymbol,        L"The symbol \"%s\" was not inserted.\n\n%s", L"심볼 \"%s\"을(를) 넣지 못했습니다.\n\n%s")
+// clang-format on
