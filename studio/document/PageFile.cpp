@@ -80,17 +80,23 @@ void WriteHeader(CFile& file) {
 
 }  // namespace
 
-void WritePageFile(const CString& path, const std::function<void(CArchive&)>& store) {
+void WriteWholeFile(const CString& path, const std::function<void(LPCWSTR temporary)>& write) {
     NewFile target(FullPath(path));
-    CFile file(target.Name(), CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive);
-    file.Seek(sizeof(FileHeader), CFile::begin);
-    CArchive ar(&file, CArchive::store | CArchive::bNoFlushOnDelete, kBuffer);
-    store(ar);
-    ar.Close();
-    WriteHeader(file);
-    file.Flush();
-    file.Close();
+    write(target.Name());
     target.Replace();
+}
+
+void WritePageFile(const CString& path, const std::function<void(CArchive&)>& store) {
+    WriteWholeFile(path, [&](LPCWSTR temporary) {
+        CFile file(temporary, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive);
+        file.Seek(sizeof(FileHeader), CFile::begin);
+        CArchive ar(&file, CArchive::store | CArchive::bNoFlushOnDelete, kBuffer);
+        store(ar);
+        ar.Close();
+        WriteHeader(file);
+        file.Flush();
+        file.Close();
+    });
 }
 
 void ReadPageFile(const CString& path, const std::function<void(CArchive& ar, DWORD version)>& load) {

@@ -1,0 +1,29 @@
+// Pictures of pages that no window shows.
+#pragma once
+
+#include "studio/document/PageContents.h"
+
+namespace Studio {
+
+/// Draws objects as their page shows them, without handles and grid. Objects that are marked removed are left
+/// out.
+void DrawObjects(Gdiplus::Graphics& g, const Lumo::CUIObjectDeque& objects);
+
+/// The rectangle around everything that objects paint, in page units; empty when there is nothing.
+Gdiplus::RectF PaintedBounds(const Lumo::CUIObjectDeque& objects);
+
+/// A picture of a page from its corner to the end of what is on it; of an empty page, a small one.
+std::unique_ptr<Gdiplus::Bitmap> DrawPage(const Lumo::CUIObjectDeque& objects);
+
+/// A picture of at most `size` pixels with the objects scaled down to fit, in the middle of a ground of
+/// `ground` (ARGB).
+std::unique_ptr<Gdiplus::Bitmap> DrawThumbnail(const Lumo::CUIObjectDeque& objects, CSize size, DWORD ground);
+
+/// Writes a picture of a page as a PNG file, whole or not at all. Raises `FileFault` and the exceptions of
+/// files.
+void WritePagePicture(const Lumo::CUIObjectDeque& objects, const CString& path);
+
+/// The objects of contents as the list that the functions above take; not owned.
+Lumo::CUIObjectDeque ListOf(const PageContents& page);
+
+}  // namespace Studio
