@@ -69,7 +69,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatText& other);
+    virtual void Set(const CUIShapeFormatText& other) { *this = other; }
 
     CString m_strText;         ///< caption
     float m_fFontSize = 0.0f;  ///< em size in the unit below
@@ -97,7 +97,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatFill& other);
+    virtual void Set(const CUIShapeFormatFill& other) { *this = other; }
 
     /// 1 and 2 solid, 3 vertical gradient, 4 tiled image, 5 image at its own size, 6 faded picture.
     int m_nShapeMode = 0;
@@ -128,7 +128,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatLineColor& other);
+    virtual void Set(const CUIShapeFormatLineColor& other) { *this = other; }
 
     /// Colour that the outline is drawn with; false when the record is disabled or its mode draws none.
     bool GetPenColor(DWORD* color) const;
@@ -157,7 +157,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatLineStyle& other);
+    virtual void Set(const CUIShapeFormatLineStyle& other) { *this = other; }
 
     float m_fWidth = 0.0f;             ///< pen width in page units
     int m_nAlignment = 0;              ///< `Gdiplus::PenAlignment`; not archived
@@ -193,7 +193,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatShadow& other);
+    virtual void Set(const CUIShapeFormatShadow& other) { *this = other; }
 
     DWORD m_dwColor = 0;       ///< colour
     float m_fAlpha = 0.0f;     ///< opacity
@@ -218,7 +218,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatScale& other);
+    virtual void Set(const CUIShapeFormatScale& other) { *this = other; }
 
     float m_fWidth = 0.0f;        ///< width in page units
     float m_fHeight = 0.0f;       ///< height in page units
@@ -243,7 +243,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatPosition& other);
+    virtual void Set(const CUIShapeFormatPosition& other) { *this = other; }
 
     float m_fX = 0.0f;   ///< left edge, page units
     float m_fY = 0.0f;   ///< top edge, page units
@@ -266,7 +266,7 @@ public:
     void LoadDefault() override;
     void Serialize(CArchive& ar) override;
     /// Copies every field.
-    virtual void Set(const CUIShapeFormatTextBox& other);
+    virtual void Set(const CUIShapeFormatTextBox& other) { *this = other; }
 
     int m_nCode1 = 0;       ///< first code
     int m_nCode2 = 0;       ///< second code

@@ -13,8 +13,8 @@ class CUIDocument;
 /// point; its width and height stay as they are.
 ///
 /// Lifetime: `Release` destroys the children and leaves the group itself alive, unlike the base object's; the
-/// document deletes the emptied group afterwards. A class derived from the group must keep that rule: an
-/// override of `Release` never deletes the object itself. The destructor and the copies destroy no child.
+/// document deletes the emptied group afterwards, unless an override of `Release` has. The destructor and the
+/// copies destroy no child.
 class AFX_EXT_CLASS CUIObjectList : public CUIObject {
 public:
     /// A group on `bounds` (page units), marked as grouped although it has no children yet; the shape name is

@@ -68,10 +68,6 @@ void CUIShapeFormatText::Serialize(CArchive& ar) {
     ArchiveFields(ar, m_dwBackColor, m_dwBackColor, unit, m_nFontStyle, m_nRenderHint);
 }
 
-void CUIShapeFormatText::Set(const CUIShapeFormatText& other) {
-    *this = other;
-}
-
 CUIShapeFormatFill::CUIShapeFormatFill() : CUIShapeFormatFill(L"ShapeFormatFill", 1) {
     m_nShapeMode = 1;
 }
@@ -100,10 +96,6 @@ void CUIShapeFormatFill::Serialize(CArchive& ar) {
                   m_dwGradientDirection, m_strImagePath, m_nPatternStyle, m_dwForeColor, m_dwBackColor);
 }
 
-void CUIShapeFormatFill::Set(const CUIShapeFormatFill& other) {
-    *this = other;
-}
-
 CUIShapeFormatLineColor::CUIShapeFormatLineColor() : CUIShapeFormatLineColor(L"ShapeFormatLineColor", 1) {
     m_nShapeMode = 1;
 }
@@ -126,10 +118,6 @@ void CUIShapeFormatLineColor::Serialize(CArchive& ar) {
     CUIShapeFormat::Serialize(ar);
     ArchiveFields(ar, m_nShapeMode, m_dwColor, m_fAlpha, m_fBlight, m_dwGradientColor, m_nGradientType,
                   m_dwGradientDirection);
-}
-
-void CUIShapeFormatLineColor::Set(const CUIShapeFormatLineColor& other) {
-    *this = other;
 }
 
 bool CUIShapeFormatLineColor::GetPenColor(DWORD* color) const {
@@ -175,10 +163,6 @@ void CUIShapeFormatLineStyle::Serialize(CArchive& ar) {
                   m_fEndArrowHeight, m_bEndArrowFilled);
 }
 
-void CUIShapeFormatLineStyle::Set(const CUIShapeFormatLineStyle& other) {
-    *this = other;
-}
-
 CUIShapeFormatShadow::CUIShapeFormatShadow() : CUIShapeFormatShadow(L"ShapeFormatShadow", 1) {}
 
 CUIShapeFormatShadow::CUIShapeFormatShadow(const CString& name, int enabled)
@@ -199,10 +183,6 @@ void CUIShapeFormatShadow::Serialize(CArchive& ar) {
     ArchiveFields(ar, m_dwColor, m_fAlpha, m_fReal, m_fAngle, m_first.X, m_first.Y, m_second.X, m_second.Y);
 }
 
-void CUIShapeFormatShadow::Set(const CUIShapeFormatShadow& other) {
-    *this = other;
-}
-
 CUIShapeFormatScale::CUIShapeFormatScale() : CUIShapeFormatScale(L"ShapeFormatScale", 1) {}
 
 CUIShapeFormatScale::CUIShapeFormatScale(const CString& name, int enabled)
@@ -221,10 +201,6 @@ void CUIShapeFormatScale::Serialize(CArchive& ar) {
     ArchiveFields(ar, m_fWidth, m_fHeight, m_fScaleX, m_fScaleY, m_fRotateAngle, m_nRatio);
 }
 
-void CUIShapeFormatScale::Set(const CUIShapeFormatScale& other) {
-    *this = other;
-}
-
 CUIShapeFormatPosition::CUIShapeFormatPosition() : CUIShapeFormatPosition(L"ShapeFormatPosition", 1) {}
 
 CUIShapeFormatPosition::CUIShapeFormatPosition(const CString& name, int enabled)
@@ -239,10 +215,6 @@ void CUIShapeFormatPosition::LoadDefault() {
 void CUIShapeFormatPosition::Serialize(CArchive& ar) {
     CUIShapeFormat::Serialize(ar);
     ArchiveFields(ar, m_fX, m_fY, m_nOffsetX, m_nOffsetY);
-}
-
-void CUIShapeFormatPosition::Set(const CUIShapeFormatPosition& other) {
-    *this = other;
 }
 
 CUIShapeFormatTextBox::CUIShapeFormatTextBox() : CUIShapeFormatTextBox(L"ShapeFormatTextBox", 1) {}
@@ -262,10 +234,6 @@ void CUIShapeFormatTextBox::Serialize(CArchive& ar) {
     CUIShapeFormat::Serialize(ar);
     ArchiveFields(ar, m_nCode1, m_nCode2, m_nCode3, m_fReal1, m_fReal2, m_fReal3, m_fReal4, m_nFlag,
                   m_fReal5);
-}
-
-void CUIShapeFormatTextBox::Set(const CUIShapeFormatTextBox& other) {
-    *this = other;
 }
 
 }  // namespace Lumo

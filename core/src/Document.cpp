@@ -20,8 +20,8 @@ std::vector<CUIDocument*>& Documents() {
     return documents;
 }
 
-// The object that is being released after everybody has forgotten it; its destructor need not search for it
-// again. So the destruction of a whole page takes one walk, not one for every object.
+// The object that is being released after everybody has forgotten it, null as soon as it is destroyed. Its
+// destructor need not search for it again, so destroying a whole page takes one walk and not one per object.
 CUIObject* s_pForgotten = nullptr;
 
 }  // namespace
@@ -129,12 +129,14 @@ void CUIDocument::ForgetDestroyed(CUIObject* object) {
         ForgetObject(object);
 }
 
-// A group's Release destroys its children and leaves the group itself, which is then deleted here.
+// A group's Release destroys its children and leaves the group itself, which is then deleted here, unless a
+// host's override has done so.
 void CUIDocument::ReleaseForgotten(CUIObject* object) {
     CUIObject* const outer = std::exchange(s_pForgotten, object);
-    auto* shell = dynamic_cast<CUIObjectList*>(object);
+    auto* group = dynamic_cast<CUIObjectList*>(object);
     object->Release();
-    delete shell;
+    if (s_pForgotten == object)
+        delete group;
     s_pForgotten = outer;
 }
 

@@ -3,6 +3,7 @@
 #include "core/PaintScope.h"
 #include "support/Geometry.h"
 #include "support/Surface.h"
+#include "support/TemporaryFile.h"
 
 namespace Lumo {
 
@@ -20,10 +21,6 @@ void Caption(CUIObject& object, int enabled) {
 class PictureFile {
 public:
     PictureFile() {
-        wchar_t folder[MAX_PATH], path[MAX_PATH];
-        ::GetTempPath(MAX_PATH, folder);
-        ::GetTempFileName(folder, L"pic", 0, path);
-        m_path = path;
         BITMAPINFOHEADER info = {};
         info.biSize = sizeof info;
         info.biWidth = 4;
@@ -35,18 +32,17 @@ public:
         file.bfType = 0x4D42;
         file.bfOffBits = sizeof file + sizeof info;
         file.bfSize = file.bfOffBits + 2 * sizeof row;
-        CFile out(m_path, CFile::modeCreate | CFile::modeWrite);
+        CFile out(path(), CFile::modeCreate | CFile::modeWrite);
         out.Write(&file, sizeof file);
         out.Write(&info, sizeof info);
         out.Write(row, sizeof row);
         out.Write(row, sizeof row);
         out.Close();
     }
-    ~PictureFile() { ::DeleteFile(m_path); }
-    const CString& path() const { return m_path; }
+    const CString& path() const { return m_file.Path(); }
 
 private:
-    CString m_path;
+    TemporaryFile m_file;
 };
 
 class RectangleTest : public ::testing::Test {

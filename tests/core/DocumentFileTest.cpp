@@ -2,6 +2,7 @@
 #include "core/UIDocument.h"
 #include "core/UIObject.h"
 #include "support/MessageBoxAnswerer.h"
+#include "support/TemporaryFile.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +16,8 @@ namespace {
 
 class DocumentFileTest : public ::testing::Test {
 protected:
-    DocumentFileTest() {
-        wchar_t folder[MAX_PATH];
-        ::GetTempPath(MAX_PATH, folder);
-        m_path.Format(L"%stessel-document-%u.cbf", folder, ::GetCurrentProcessId());
-        m_document->AppendCanvas(m_canvas.get());
-    }
-    ~DocumentFileTest() override {
-        m_document->Release();
-        ::DeleteFile(m_path);
-    }
+    DocumentFileTest() { m_document->AppendCanvas(m_canvas.get()); }
+    ~DocumentFileTest() override { m_document->Release(); }
 
     std::vector<uint8_t> Bytes() {
         CFile file(m_path, CFile::modeRead | CFile::shareDenyNone);
@@ -52,7 +45,8 @@ protected:
 
     std::unique_ptr<CUICanvas> m_canvas = std::make_unique<CUICanvas>();
     CUIDocument* m_document = new CUIDocument;
-    CString m_path;
+    TemporaryFile m_file;
+    CString m_path = m_file.Path();
 };
 
 TEST_F(DocumentFileTest, AnEmptyDocumentMakesAnEmptyFile) {

@@ -244,6 +244,23 @@ TEST_F(DocumentTest, AGroupIsDestroyedWithItsChildren) {
     EXPECT_TRUE(Canvas(0)->m_selection.empty());
 }
 
+TEST_F(DocumentTest, AGroupMayDestroyItselfWhenReleased) {
+    struct Whole : CUIObjectList {
+        Whole() : CUIObjectList({0, 0, 50, 50}, DS_LIST) { ++g_alive; }
+        ~Whole() override { --g_alive; }
+        void Release() override {
+            CUIObjectList::Release();
+            delete this;
+        }
+    };
+    m_document->AppendCanvas(Canvas(0));
+    auto* group = new Whole;
+    group->MakeGroup(new Counted);
+    m_document->AppendObject(group, nullptr);
+    m_document->DeleteObject(group);
+    EXPECT_EQ(g_alive, 0);
+}
+
 TEST_F(DocumentTest, AnObjectDestroyedByItsHostLeavesPageSelectionAndGroup) {
     void (*const ways[])(CUIObject*) = {
         [](CUIObject* object) { object->Release(); },
