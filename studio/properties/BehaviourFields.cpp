@@ -1,0 +1,213 @@
+#include "studio/properties/BehaviourFields.h"
+
+#include <type_traits>
+
+namespace Studio {
+
+using Lumo::CUIObject;
+
+namespace {
+
+constexpr size_t kArgumentCount = std::extent_v<decltype(CPrefButton::m_strArguments)>;
+constexpr size_t kMostLines = 16;
+
+// What an object without extras has.
+const ObjectExtras& ExtrasOf(const CUIObject& object) {
+    static const ObjectExtras none;
+    const ObjectExtras* extras = FindExtras(object);
+    return extras ? *extras : none;
+}
+
+// Objects that keep extras; groups act through their children.
+bool HasExtras(const CUIObject& object) {
+    return dynamic_cast<const ExtrasHolder*>(&object) != nullptr;
+}
+
+Property Row(Text label, FieldKind kind) {
+    return {.label = label, .step = Text::kStepBehaviour, .kind = kind, .applies = HasExtras};
+}
+
+// The field of the object's own extras, to be written.
+template <class Value>
+Value& Writable(CUIObject& object, const FieldOf<Value>& field) {
+    return const_cast<Value&>(field(*EditExtras(object)));
+}
+
+template <class Number>
+Property NumberRow(Text label, NumberRange range, FieldOf<Number> field) {
+    Property property = Row(label, FieldKind::kNumber);
+    property.range = range;
+    property.get = [field](CUIObject& object) { return static_cast<float>(field(ExtrasOf(object))); };
+    property.set = [field](CUIObject& object, const PropertyValue& value) {
+        Writable(object, field) = static_cast<Number>(std::get<float>(value));
+    };
+    return property;
+}
+
+Property CodeRow(Text label, FieldKind kind, FieldOf<int> field) {
+    Property property = Row(label, kind);
+    property.get = [field](CUIObject& object) { return field(ExtrasOf(object)); };
+    property.set = [field](CUIObject& object, const PropertyValue& value) {
+        Writable(object, field) = std::get<int>(value);
+    };
+    return property;
+}
+
+// The words between commas; an empty one at the end does not count.
+std::vector<CString> Split(const CString& text) {
+    std::vector<CString> words;
+    int from = 0;
+    while (from < text.GetLength()) {
+        int to = text.Find(L',', from);
+        if (to < 0)
+            to = text.GetLength();
+        words.push_back(text.Mid(from, to - from).Trim());
+        from = to + 1;
+    }
+    return words;
+}
+
+CString Join(const std::vector<CString>& words) {
+    CString text;
+    for (size_t i = 0; i < words.size(); ++i)
+        text += (i ? L", " : L"") + words[i];
+    return text;
+}
+
+std::vector<CString> LineNames(const ObjectExtras& extras) {
+    std::vector<CString> names;
+    for (const CPrefTrendLine* line : extras.prefs.m_trend.m_lines)
+        names.push_back(line ? line->m_strName : CString());
+    return names;
+}
+
+// Lines that stay keep their width and colour.
+void SetLineNames(ObjectExtras& extras, const std::vector<CString>& names) {
+    auto& lines = extras.prefs.m_trend.m_lines;
+    while (lines.size() > names.size()) {
+        delete lines.back();
+        lines.pop_back();
+    }
+    while (lines.size() < names.size())
+        lines.push_back(new CPrefTrendLine);
+    auto name = names.begin();
+    for (CPrefTrendLine* line : lines)
+        line->m_strName = *name++;
+}
+
+}  // namespace
+
+Property RecordText(Text label, FieldOf<CString> field) {
+    Property property = Row(label, FieldKind::kText);
+    property.get = [field](CUIObject& object) { return field(ExtrasOf(object)); };
+    property.set = [field](CUIObject& object, const PropertyValue& value) {
+        Writable(object, field) = std::get<CString>(value);
+    };
+    return property;
+}
+
+Property RecordNumber(Text label, NumberRange range, FieldOf<int> field) {
+    return NumberRow(label, range, std::move(field));
+}
+
+Property RecordNumber(Text label, NumberRange range, FieldOf<long> field) {
+    return NumberRow(label, range, std::move(field));
+}
+
+Property RecordNumber(Text label, NumberRange range, FieldOf<float> field) {
+    return NumberRow(label, range, std::move(field));
+}
+
+Property RecordChoice(Text label, std::function<std::vector<Choice>()> choices, FieldOf<int> field) {
+    Property property = CodeRow(label, FieldKind::kChoice, std::move(field));
+    property.choices = std::move(choices);
+    return property;
+}
+
+Property RecordCheck(Text label, FieldKind kind, FieldOf<int> field) {
+    return CodeRow(label, kind, std::move(field));
+}
+
+Property RecordColor(Text label, FieldOf<DWORD> field) {
+    Property property = Row(label, FieldKind::kColor);
+    property.get = [field](CUIObject& object) { return PartsOf(field(ExtrasOf(object))); };
+    property.set = [field](CUIObject& object, const PropertyValue& value) {
+        DWORD& color = Writable(object, field);
+        color = WithParts(color, std::get<ColorParts>(value));
+    };
+    return property;
+}
+
+Property ButtonArguments() {
+    Property property = Row(Text::kPropArguments, FieldKind::kText);
+    property.get = [](CUIObject& object) {
+        const auto& arguments = ExtrasOf(object).prefs.m_button.m_strArguments;
+        size_t count = kArgumentCount;
+        while (count > 0 && arguments[count - 1].IsEmpty())
+            --count;
+        return Join({arguments, arguments + count});
+    };
+    property.set = [](CUIObject& object, const PropertyValue& value) {
+        auto& arguments = EditExtras(object)->prefs.m_button.m_strArguments;
+        const std::vector<CString> words = Split(std::get<CString>(value));
+        for (size_t i = 0; i < kArgumentCount; ++i)
+            arguments[i] = i < words.size() ? words[i] : CString();
+    };
+    property.check = [](StudioCanvas&, const PropertyValue& value) {
+        const bool fits = Split(std::get<CString>(value)).size() <= kArgumentCount;
+        return fits ? CString() : CString(GetText(Text::kRefuseArguments));
+    };
+    return property;
+}
+
+Property TrendLineNames() {
+    Property property = Row(Text::kPropTrendLines, FieldKind::kText);
+    property.get = [](CUIObject& object) { return Join(LineNames(ExtrasOf(object))); };
+    property.set = [](CUIObject& object, const PropertyValue& value) {
+        SetLineNames(*EditExtras(object), Split(std::get<CString>(value)));
+    };
+    property.check = [](StudioCanvas&, const PropertyValue& value) {
+        CString refusal;
+        if (Split(std::get<CString>(value)).size() > kMostLines)
+            refusal.Format(GetText(Text::kRefuseLines), static_cast<int>(kMostLines));
+        return refusal;
+    };
+    return property;
+}
+
+Property TrendLineWidth() {
+    Property property = Row(Text::kPropLineWidth, FieldKind::kNumber);
+    property.range = {1.0f, 20.0f};
+    property.applies = [](const CUIObject& object) {
+        return HasExtras(object) && !ExtrasOf(object).prefs.m_trend.m_lines.empty();
+    };
+    property.get = [](CUIObject& object) {
+        return static_cast<float>(ExtrasOf(object).prefs.m_trend.m_lines.front()->m_nWidth);
+    };
+    property.set = [](CUIObject& object, const PropertyValue& value) {
+        for (CPrefTrendLine* line : EditExtras(object)->prefs.m_trend.m_lines)
+            line->m_nWidth = static_cast<int>(std::get<float>(value));
+    };
+    return property;
+}
+
+Property BindingRow() {
+    Property property = Row(Text::kPropBinding, FieldKind::kText);
+    property.step = Text::kStepBinding;
+    property.get = [](CUIObject& object) { return ExtrasOf(object).binding; };
+    property.set = [](CUIObject& object, const PropertyValue& value) {
+        EditExtras(object)->binding = CString(std::get<CString>(value)).Trim();
+    };
+    return property;
+}
+
+Property SwitchRow(Behaviour behaviour) {
+    Property property = Row(Text::kPropActive, FieldKind::kCheck);
+    property.get = [behaviour](CUIObject& object) { return ExtrasOf(object).IsOn(behaviour) ? 1 : 0; };
+    property.set = [behaviour](CUIObject& object, const PropertyValue& value) {
+        EditExtras(object)->TurnOn(behaviour, std::get<int>(value) != 0);
+    };
+    return property;
+}
+
+}  // namespace Studio
