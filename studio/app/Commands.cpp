@@ -27,11 +27,12 @@ constexpr Command kCommands[] = {
     {ID_APP_ABOUT, Text::kHelpAbout, 0, 0},
     {ID_DOCUMENT_LOAD, Text::kFileOpen, 0, 0},
     {ID_DOCUMENT_SAVE, Text::kFileSave, 0, 0},
-    {ID_OBJECT_UNDO, Text::kEditUndo, 0, 0},
-    {ID_OBJECT_REDO, Text::kEditRedo, 0, 0},
-    {ID_OBJECT_CUT, Text::kEditCut, 0, 0},
-    {ID_OBJECT_COPY, Text::kEditCopy, 0, 0},
-    {ID_OBJECT_PASTE, Text::kEditPaste, 0, 0},
+    {ID_OBJECT_UNDO, Text::kEditUndo, 'Z', kCtrl},
+    {ID_OBJECT_REDO, Text::kEditRedo, 'Y', kCtrl},
+    {ID_OBJECT_CUT, Text::kEditCut, 'X', kCtrl},
+    {ID_OBJECT_COPY, Text::kEditCopy, 'C', kCtrl},
+    {ID_OBJECT_PASTE, Text::kEditPaste, 'V', kCtrl},
+    {ID_PAGE_DUPLICATE_OBJECTS, Text::kEditDuplicate, 'D', kCtrl},
     {ID_OBJECT_DELETE, Text::kEditDelete, VK_DELETE, 0},
     {ID_PAGE_SELECT_ALL, Text::kEditSelectAll, 'A', kCtrl},
     {ID_OBJECT_PROPERTIES, Text::kEditProperties, 0, 0},
@@ -60,6 +61,12 @@ constexpr Command kCommands[] = {
     {ID_ALIGN_VCENTER, Text::kAlignCentres, 0, 0},
     {ID_ALIGN_HCENTER, Text::kAlignMiddles, 0, 0},
     {ID_ALIGN_CENTER, Text::kAlignBoth, 0, 0},
+    {ID_PAGE_DISTRIBUTE_H, Text::kArrangeDistributeH, 0, 0},
+    {ID_PAGE_DISTRIBUTE_V, Text::kArrangeDistributeV, 0, 0},
+    {ID_PAGE_FLIP_H, Text::kArrangeFlipH, 0, 0},
+    {ID_PAGE_FLIP_V, Text::kArrangeFlipV, 0, 0},
+    {ID_PAGE_SHOW_GRID, Text::kViewGrid, 'G', 0},
+    {ID_PAGE_SNAP_TO_GRID, Text::kViewSnap, 'G', kShift},
 };
 
 // Keys of commands that stand in no menu.
@@ -70,6 +77,10 @@ constexpr struct {
 } kHiddenKeys[] = {
     {ID_PAGE_ESCAPE, VK_ESCAPE, 0},
     {ID_PAGE_FINISH, VK_RETURN, 0},
+    {ID_OBJECT_REDO, 'Z', kCtrl | kShift},
+    {ID_OBJECT_COPY, VK_INSERT, kCtrl},
+    {ID_OBJECT_PASTE, VK_INSERT, kShift},
+    {ID_OBJECT_CUT, VK_DELETE, kShift},
     {ID_PAGE_NUDGE_LEFT, VK_LEFT, 0},
     {ID_PAGE_NUDGE_RIGHT, VK_RIGHT, 0},
     {ID_PAGE_NUDGE_UP, VK_UP, 0},
@@ -98,15 +109,18 @@ struct MenuLayout {
 std::vector<MenuLayout> MenuBarLayout() {
     return {
         {Text::kMenuFile, {ID_FILE_NEW, ID_FILE_OPEN, 0, ID_FILE_SAVE, ID_FILE_SAVE_AS, 0, ID_APP_EXIT}},
-        {Text::kMenuEdit, {ID_OBJECT_DELETE, 0, ID_PAGE_SELECT_ALL}},
+        {Text::kMenuEdit, {ID_OBJECT_UNDO, ID_OBJECT_REDO, 0, ID_OBJECT_CUT, ID_OBJECT_COPY, ID_OBJECT_PASTE,
+          ID_PAGE_DUPLICATE_OBJECTS, ID_OBJECT_DELETE, 0, ID_PAGE_SELECT_ALL}},
+        {Text::kMenuView, {ID_PAGE_SHOW_GRID, ID_PAGE_SNAP_TO_GRID}},
         {Text::kMenuMode, {ID_MODE_DRAW, ID_MODE_POLY}},
         {Text::kMenuTools,
          {ID_TOOL_SELECT, 0, ID_TOOL_RECTANGLE, ID_TOOL_ELLIPSE, ID_TOOL_LINE, ID_TOOL_POLYLINE,
           ID_TOOL_TEXTBOX}},
         {Text::kMenuArrange,
          {ID_POSITION_FORWARD, ID_POSITION_BACKWARD, ID_POSITION_FRONT, ID_POSITION_BACK, 0, ID_ROTATE_LEFT,
-          ID_ROTATE_RIGHT, 0, ID_GROUP_MAKE, ID_GROUP_UNMAKE, 0, ID_ALIGN_LEFT, ID_ALIGN_RIGHT, ID_ALIGN_TOP,
-          ID_ALIGN_BOTTOM, ID_ALIGN_VCENTER, ID_ALIGN_HCENTER, ID_ALIGN_CENTER}},
+          ID_ROTATE_RIGHT, ID_PAGE_FLIP_H, ID_PAGE_FLIP_V, 0, ID_GROUP_MAKE, ID_GROUP_UNMAKE, 0, ID_ALIGN_LEFT, ID_ALIGN_RIGHT, ID_ALIGN_TOP,
+          ID_ALIGN_BOTTOM, ID_ALIGN_VCENTER, ID_ALIGN_HCENTER, ID_ALIGN_CENTER, 0, ID_PAGE_DISTRIBUTE_H,
+          ID_PAGE_DISTRIBUTE_V}},
         {Text::kMenuHelp, {ID_APP_ABOUT}},
     };
 }

@@ -26,7 +26,14 @@ enum PageCommandId : UINT {
     ID_PAGE_NUDGE_FAR_RIGHT,
     ID_PAGE_NUDGE_FAR_UP,
     ID_PAGE_NUDGE_FAR_DOWN,
-    ID_PAGE_LAST = ID_PAGE_NUDGE_FAR_DOWN,
+    ID_PAGE_DUPLICATE_OBJECTS,
+    ID_PAGE_DISTRIBUTE_H,
+    ID_PAGE_DISTRIBUTE_V,
+    ID_PAGE_FLIP_H,
+    ID_PAGE_FLIP_V,
+    ID_PAGE_SHOW_GRID,
+    ID_PAGE_SNAP_TO_GRID,
+    ID_PAGE_LAST = ID_PAGE_SNAP_TO_GRID,
 };
 
 /// A drawing tool: command, shape kind, name, what it waits for, key.

@@ -21,5 +21,18 @@
     X(kStepFlip,           L"Flip",                     L"뒤집기") \
     X(kStepGroup,          L"Group",                    L"그룹") \
     X(kStepUngroup,        L"Ungroup",                  L"그룹 해제") \
-    X(kStepInsert,         L"Insert",                   L"삽입")
+    X(kStepInsert,         L"Insert",                   L"삽입") \
+    X(kEditUndoStep,       L"&Undo %s",                 L"%s 되돌리기(&U)") \
+    X(kEditRedoStep,       L"&Redo %s",                 L"%s 다시 실행(&R)") \
+    X(kEditDuplicate,      L"Dup&licate",               L"복제(&L)") \
+    X(kMenuView,           L"&View",                    L"보기(&V)") \
+    X(kViewGrid,           L"Show &Grid",               L"격자 표시(&G)") \
+    X(kViewSnap,           L"&Snap to Grid",            L"격자에 맞추기(&S)") \
+    X(kArrangeDistributeH, L"Distribute &Horizontally", L"가로 간격을 같게(&H)") \
+    X(kArrangeDistributeV, L"Distribute &Vertically",   L"세로 간격을 같게(&V)") \
+    X(kArrangeFlipH,       L"Flip Left to Right",       L"좌우 뒤집기") \
+    X(kArrangeFlipV,       L"Flip Top to Bottom",       L"상하 뒤집기") \
+    X(kInsertPicture,      L"Pi&cture...",              L"그림 삽입(&C)...") \
+    X(kErrorPicture,       L"The file \"%s\" holds no picture that can be shown.", \
+                           L"파일 \"%s\"에는 표시할 수 있는 그림이 없습니다.")
 // clang-format on

@@ -217,6 +217,8 @@ void MainFrame::OnUpdatePageCommand(CCmdUI* ui) {
     StudioCanvas* page = Page();
     ui->Enable(page && IsPageCommandEnabled(*page, ui->m_nID));
     ui->SetCheck(page && IsPageCommandChecked(*page, ui->m_nID));
+    if (const CString text = page ? PageCommandText(*page, ui->m_nID) : CString(); !text.IsEmpty())
+        ui->SetText(text);
 }
 
 void MainFrame::OnCanvasState(StudioCanvas& canvas) {

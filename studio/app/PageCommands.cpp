@@ -1,6 +1,9 @@
 #include "studio/app/PageCommands.h"
 
 #include "studio/app/Commands.h"
+#include "studio/editing/Grid.h"
+#include "studio/editing/History.h"
+#include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
 #include "studio/editing/PageTool.h"
 
@@ -98,11 +101,44 @@ void EnterDrawMode(StudioCanvas& page) {
         page.OnModeDraw();
 }
 
-void Nudge(StudioCanvas& page, UINT command) {
-    for (const auto& row : kNudges) {
+void ShowGrid(StudioCanvas& page) {
+    PageGrid().shown = !PageGrid().shown;
+    page.Invalidate(FALSE);
+}
+
+// Commands that need nothing but the page.
+constexpr struct {
+    UINT command;
+    void (*run)(StudioCanvas& page);
+} kEdits[] = {
+    {ID_OBJECT_UNDO, [](StudioCanvas& page) { page.Edits().Undo(); }},
+    {ID_OBJECT_REDO, [](StudioCanvas& page) { page.Edits().Redo(); }},
+    {ID_OBJECT_CUT, CutSelection},
+    {ID_OBJECT_COPY, [](StudioCanvas& page) { CopySelection(page); }},
+    {ID_OBJECT_PASTE, PasteObjects},
+    {ID_PAGE_DUPLICATE_OBJECTS, DuplicateSelection},
+    {ID_PAGE_DISTRIBUTE_H, [](StudioCanvas& page) { DistributeSelection(page, true); }},
+    {ID_PAGE_DISTRIBUTE_V, [](StudioCanvas& page) { DistributeSelection(page, false); }},
+    {ID_PAGE_FLIP_H, [](StudioCanvas& page) { FlipSelection(page, true); }},
+    {ID_PAGE_FLIP_V, [](StudioCanvas& page) { FlipSelection(page, false); }},
+    {ID_PAGE_SHOW_GRID, ShowGrid},
+    {ID_PAGE_SNAP_TO_GRID, [](StudioCanvas&) { PageGrid().snapping = !PageGrid().snapping; }},
+};
+
+auto EditOf(UINT command) -> void (*)(StudioCanvas&) {
+    for (const auto& row : kEdits) {
         if (row.command == command)
-            NudgeSelection(page, row.dx, row.dy);
+            return row.run;
     }
+    return nullptr;
+}
+
+const NudgeCommand* NudgeOf(UINT command) {
+    for (const NudgeCommand& row : kNudges) {
+        if (row.command == command)
+            return &row;
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -119,6 +155,21 @@ bool IsPageCommandEnabled(StudioCanvas& page, UINT command) {
         case ID_ROTATE_RIGHT:
         case ID_OBJECT_DELETE:
             return !page.m_selection.empty();
+        case ID_OBJECT_CUT:
+        case ID_OBJECT_COPY:
+        case ID_PAGE_DUPLICATE_OBJECTS:
+        case ID_PAGE_FLIP_H:
+        case ID_PAGE_FLIP_V:
+            return !page.m_selection.empty();
+        case ID_OBJECT_PASTE:
+            return CanPaste();
+        case ID_OBJECT_UNDO:
+            return page.Edits().CanUndo() || page.CurrentGesture();
+        case ID_OBJECT_REDO:
+            return page.Edits().CanRedo();
+        case ID_PAGE_DISTRIBUTE_H:
+        case ID_PAGE_DISTRIBUTE_V:
+            return page.m_selection.size() >= 3;
         case ID_GROUP_MAKE:
             return CanGroup(page);
         case ID_GROUP_UNMAKE:
@@ -133,8 +184,25 @@ bool IsPageCommandEnabled(StudioCanvas& page, UINT command) {
 bool IsPageCommandChecked(StudioCanvas& page, UINT command) {
     if (const ToolInfo* tool = ToolOfCommand(command))
         return tool->kind == CUIToolBase::run_drawshape;
+    if (command == ID_PAGE_SHOW_GRID)
+        return PageGrid().shown;
+    if (command == ID_PAGE_SNAP_TO_GRID)
+        return PageGrid().snapping;
     return (command == ID_MODE_DRAW && page.m_nMode == CM_DRAW) ||
            (command == ID_MODE_POLY && page.m_nMode == CM_POLY);
+}
+
+CString PageCommandText(StudioCanvas& page, UINT command) {
+    const bool undo = command == ID_OBJECT_UNDO;
+    if (!undo && command != ID_OBJECT_REDO)
+        return CString();
+    const CString step = undo ? page.Edits().UndoName() : page.Edits().RedoName();
+    CString text = CommandText(command);
+    if (step.IsEmpty())
+        return text;
+    CString named;
+    named.Format(GetText(undo ? Text::kEditUndoStep : Text::kEditRedoStep), step.GetString());
+    return named + text.Mid(text.Find(L'\t'));
 }
 
 void RunPageCommand(StudioCanvas& page, UINT command) {
@@ -144,6 +212,8 @@ void RunPageCommand(StudioCanvas& page, UINT command) {
         return;
     }
     page.FinishEditing();
+    if (!NudgeOf(command))
+        page.Edits().BreakMerging();
     if (!IsPageCommandEnabled(page, command))
         return;
     if (const ToolInfo* tool = ToolOfCommand(command))
@@ -162,12 +232,14 @@ void RunPageCommand(StudioCanvas& page, UINT command) {
         DeleteSelection(page);
     else if (command == ID_PAGE_SELECT_ALL)
         SelectAll(page);
+    else if (const auto edit = EditOf(command))
+        edit(page);
     else if (command == ID_MODE_DRAW)
         EnterDrawMode(page);
     else if (command == ID_MODE_POLY)
         EnterPolyMode(page);
-    else
-        Nudge(page, command);
+    else if (const NudgeCommand* nudge = NudgeOf(command))
+        NudgeSelection(page, nudge->dx, nudge->dy);
     page.NotifyState();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/UIDocument.h"
+#include "studio/app/Texts.h"
 #include "studio/editing/ObjectFactory.h"
 
 #include <span>

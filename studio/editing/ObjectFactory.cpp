@@ -3,6 +3,10 @@
 #include "appearance/UIObjectRectangle.h"
 #include "core/UIDocument.h"
 #include "core/UIObjectPoly.h"
+#include "studio/controls/LevelControls.h"
+#include "studio/controls/MatrixControls.h"
+#include "studio/controls/PeqChart.h"
+#include "studio/controls/StateControls.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/TextBox.h"
 #include "studio/runtime/LiveObject.h"
@@ -60,6 +64,8 @@ void ApplyStyle(CUIObject& object, ObjectClass objectClass) {
 }
 
 ObjectClass ClassOfKind(Lumo::DrawShape kind) {
+    if (IsControl(kind))
+        return static_cast<ObjectClass>(kind);
     switch (kind) {
         case Lumo::DS_RECTANGLE:
             return ObjectClass::kRectangle;
@@ -100,6 +106,8 @@ ObjectClass ClassOf(const CUIObject& object) {
         return ObjectClass::kPolyLine;
     if (dynamic_cast<const GroupObject*>(&object))
         return ObjectClass::kGroup;
+    if (dynamic_cast<const Control*>(&object))
+        return static_cast<ObjectClass>(object.GetDrawShape());
     return ObjectClass::kNone;
 }
 
@@ -119,12 +127,32 @@ ObjectPtr MakeObject(ObjectClass objectClass) {
             return ObjectPtr(new LiveObject<Lumo::CUIObjectPolyLine>(none, kind));
         case ObjectClass::kGroup:
             return ObjectPtr(new LiveObject<GroupObject>);
+        case ObjectClass::kPeqChart:
+            return ObjectPtr(new LiveObject<PeqChart>);
+        case ObjectClass::kBandButton:
+            return ObjectPtr(new LiveObject<BandButton>);
+        case ObjectClass::kDeviceChart:
+            return ObjectPtr(new LiveObject<DeviceChart>);
+        case ObjectClass::kDeviceButton:
+            return ObjectPtr(new LiveObject<DeviceButton>);
+        case ObjectClass::kLevelChart:
+            return ObjectPtr(new LiveObject<LevelChart>);
+        case ObjectClass::kLevelButton:
+            return ObjectPtr(new LiveObject<LevelButton>);
+        case ObjectClass::kCrossoverState:
+            return ObjectPtr(new LiveObject<CrossoverState>);
+        case ObjectClass::kGeqState:
+            return ObjectPtr(new LiveObject<GeqState>);
+        case ObjectClass::kPeqState:
+            return ObjectPtr(new LiveObject<PeqState>);
         default:
             return nullptr;
     }
 }
 
 Lumo::DrawShape KindOf(ObjectClass objectClass) {
+    if (const auto kind = static_cast<Lumo::DrawShape>(objectClass); IsControl(kind))
+        return kind;
     switch (objectClass) {
         case ObjectClass::kRectangle:
             return Lumo::DS_RECTANGLE;
@@ -150,6 +178,8 @@ ObjectPtr MakeDrawnObject(Lumo::DrawShape kind, const RectF& rect) {
         object->SetPosition(rect);
         ApplyStyle(*object, objectClass);
     }
+    if (const auto* control = dynamic_cast<const Control*>(object.get()))
+        EditExtras(*object)->binding = control->DefaultBinding();
     return object;
 }
 

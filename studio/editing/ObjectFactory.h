@@ -15,8 +15,23 @@ enum class ObjectClass : DWORD {
     kTextBox = 3,
     kLine = 4,
     kPolyLine = 5,
-    kGroup = 6
+    kGroup = 6,
+    // The audio controls have the numbers of their shape kinds.
+    kPeqChart = Lumo::DS_CHARTPEQ,
+    kBandButton = Lumo::DS_BUTTONBAND,
+    kDeviceChart = Lumo::DS_CHARTDEVICE,
+    kDeviceButton = Lumo::DS_BUTTONDEVICE,
+    kLevelChart = Lumo::DS_CHARTLEVEL,
+    kLevelButton = Lumo::DS_BUTTONLEVEL,
+    kCrossoverState = Lumo::DS_STATECROSSOVER,
+    kGeqState = Lumo::DS_STATEGEQ,
+    kPeqState = Lumo::DS_STATEPEQ
 };
+
+/// Whether a kind is one of the nine audio controls.
+constexpr bool IsControl(Lumo::DrawShape kind) {
+    return kind >= Lumo::DS_CHARTPEQ && kind <= Lumo::DS_STATEPEQ;
+}
 
 /// Destroys an object that is in no page list, a group with its children.
 void ReleaseObject(Lumo::CUIObject* object);

@@ -20,7 +20,7 @@ ShapeGesture::ShapeGesture(StudioCanvas& page, Lumo::DrawShape kind, CPoint down
     const Gdiplus::PointF at = Lumo::PointGdiFromAtl(m_down);
     m_object = MakeDrawnObject(kind, Gdiplus::RectF(at.X, at.Y, 0.0f, 0.0f)).release();
     m_page.AddObject(m_object);
-    if (kind != Lumo::DS_TEXTEDIT)
+    if (kind != Lumo::DS_TEXTEDIT && !IsControl(kind))
         m_object->SetText(m_object->GetShapeName());
 }
 
