@@ -33,6 +33,8 @@
     X(kArrangeFlipH,       L"Flip Left to Right",       L"좌우 뒤집기") \
     X(kArrangeFlipV,       L"Flip Top to Bottom",       L"상하 뒤집기") \
     X(kInsertPicture,      L"Pi&cture...",              L"그림 삽입(&C)...") \
+    X(kPictureFilter,      L"Pictures|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico|All files (*.*)|*.*||", \
+                           L"그림|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico|모든 파일 (*.*)|*.*||") \
     X(kErrorPicture,       L"The file \"%s\" holds no picture that can be shown.", \
                            L"파일 \"%s\"에는 표시할 수 있는 그림이 없습니다.")
 // clang-format on
