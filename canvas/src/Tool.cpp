@@ -13,7 +13,7 @@
 namespace Lumo {
 
 std::deque<CUIToolBase*> CUIToolBase::m_tools;
-DrawShape CUIToolBase::run_drawshape = DS_LINE;
+DrawShape CUIToolBase::run_drawshape = DS_RECTANGLE;  // until the first canvas is created
 int CUIToolBase::run_handle = -1;
 CPoint CUIToolBase::run_down(0, 0);
 CPoint CUIToolBase::run_last(0, 0);
