@@ -3,17 +3,19 @@
 
 #include "studio/document/ObjectExtras.h"
 
+#include <functional>
+
 namespace Studio {
 
-/// What run mode adds to an object's drawing. Made and destroyed by the run mode.
+/// What run mode adds to an object. Made and destroyed by the run mode.
 class LiveState {
 public:
     virtual ~LiveState() = default;
-    /// Whether nothing of the object is drawn now.
-    virtual bool IsHidden() const = 0;
-    /// Draws below and above the object's own drawing.
-    virtual void DrawBelow(Gdiplus::Graphics& g) = 0;
-    virtual void DrawAbove(Gdiplus::Graphics& g) = 0;
+    /// Draws the object; `own` draws it as it would draw itself.
+    virtual void Draw(Gdiplus::Graphics& g, const std::function<void()>& own) = 0;
+    /// A mouse message of run mode, as `CUIObject::RelayEvent` gets it. True when a behaviour took it and the
+    /// object itself must not.
+    virtual bool Relay(Lumo::CUICanvas* canvas, UINT message, UINT wParam, LPARAM lParam) = 0;
 };
 
 /// An object class of the library, or one derived from it, as Studio makes it.
@@ -23,13 +25,16 @@ public:
     using Base::Base;
 
     void Draw(Gdiplus::Graphics* g) override {
-        if (!live || !g) {
+        if (live && g)
+            live->Draw(*g, [this, g] { Base::Draw(g); });
+        else
             Base::Draw(g);
-        } else if (!live->IsHidden()) {
-            live->DrawBelow(*g);
-            Base::Draw(g);
-            live->DrawAbove(*g);
-        }
+    }
+
+    void RelayEvent(Lumo::CUICanvas* canvas, unsigned int message, unsigned int wParam,
+                    long lParam) override {
+        if (!live || !live->Relay(canvas, message, wParam, lParam))
+            Base::RelayEvent(canvas, message, wParam, lParam);
     }
 };
 
