@@ -23,7 +23,18 @@ constexpr Command kCommands[] = {
     {ID_FILE_OPEN, Text::kFileOpen, 'O', kCtrl},
     {ID_FILE_SAVE, Text::kFileSave, 'S', kCtrl},
     {ID_FILE_SAVE_AS, Text::kFileSaveAs, 'S', kCtrl | kShift},
+    {ID_DOCUMENT_EXPORT, Text::kFileExport, 0, 0},
+    {ID_DOCUMENT_DEMO, Text::kFileDemo, 0, 0},
     {ID_APP_EXIT, Text::kFileExit, 0, 0},
+    {ID_PAGES_ADD, Text::kPageAdd, 'N', kCtrl | kShift},
+    {ID_PAGES_DUPLICATE, Text::kPageDuplicate, 'D', kCtrl | kShift},
+    {ID_PAGES_REMOVE, Text::kPageRemove, 0, 0},
+    {ID_PAGES_RENAME, Text::kPageRename, VK_F2, 0},
+    {ID_PAGES_MOVE_LEFT, Text::kPageMoveLeft, VK_PRIOR, kCtrl | kShift},
+    {ID_PAGES_MOVE_RIGHT, Text::kPageMoveRight, VK_NEXT, kCtrl | kShift},
+    {ID_PAGES_PREVIOUS, Text::kGoPreviousPage, VK_PRIOR, kCtrl},
+    {ID_PAGES_NEXT, Text::kGoNextPage, VK_NEXT, kCtrl},
+    {ID_VIEW_SYMBOLS, Text::kViewSymbols, 0, 0},
     {ID_APP_ABOUT, Text::kHelpAbout, 0, 0},
     {ID_DOCUMENT_LOAD, Text::kFileOpen, 0, 0},
     {ID_DOCUMENT_SAVE, Text::kFileSave, 0, 0},
@@ -66,6 +77,7 @@ constexpr Command kCommands[] = {
     {ID_PAGE_FLIP_H, Text::kArrangeFlipH, 0, 0},
     {ID_PAGE_FLIP_V, Text::kArrangeFlipV, 0, 0},
     {ID_PAGE_SHOW_GRID, Text::kViewGrid, 'G', 0},
+    {ID_VIEW_PROPERTIES, Text::kViewProperties, VK_F4, 0},
     {ID_PAGE_SNAP_TO_GRID, Text::kViewSnap, 'G', kShift},
 };
 
@@ -106,12 +118,19 @@ struct MenuLayout {
     std::vector<UINT> items;
 };
 
+std::vector<UINT> PagesLayout() {
+    return {ID_PAGES_ADD, ID_PAGES_DUPLICATE, ID_PAGES_RENAME, ID_PAGES_REMOVE, 0, ID_PAGES_MOVE_LEFT,
+            ID_PAGES_MOVE_RIGHT, 0, ID_PAGES_PREVIOUS, ID_PAGES_NEXT};
+}
+
 std::vector<MenuLayout> MenuBarLayout() {
     return {
-        {Text::kMenuFile, {ID_FILE_NEW, ID_FILE_OPEN, 0, ID_FILE_SAVE, ID_FILE_SAVE_AS, 0, ID_APP_EXIT}},
+        {Text::kMenuFile, {ID_FILE_NEW, ID_FILE_OPEN, 0, ID_FILE_SAVE, ID_FILE_SAVE_AS, 0,
+          ID_DOCUMENT_EXPORT, ID_DOCUMENT_DEMO, 0, ID_APP_EXIT}},
         {Text::kMenuEdit, {ID_OBJECT_UNDO, ID_OBJECT_REDO, 0, ID_OBJECT_CUT, ID_OBJECT_COPY, ID_OBJECT_PASTE,
           ID_PAGE_DUPLICATE_OBJECTS, ID_OBJECT_DELETE, 0, ID_PAGE_SELECT_ALL}},
-        {Text::kMenuView, {ID_PAGE_SHOW_GRID, ID_PAGE_SNAP_TO_GRID}},
+        {Text::kMenuView, {ID_PAGE_SHOW_GRID, ID_PAGE_SNAP_TO_GRID, 0, ID_VIEW_PROPERTIES, ID_VIEW_SYMBOLS}},
+        {Text::kMenuPage, PagesLayout()},
         {Text::kMenuMode, {ID_MODE_DRAW, ID_MODE_POLY}},
         {Text::kMenuTools,
          {ID_TOOL_SELECT, 0, ID_TOOL_RECTANGLE, ID_TOOL_ELLIPSE, ID_TOOL_LINE, ID_TOOL_POLYLINE,
@@ -141,6 +160,10 @@ CString KeyName(const Command& command) {
         name += L"Shift+";
     if (command.key == VK_DELETE)
         name += L"Del";
+    else if (command.key == VK_PRIOR || command.key == VK_NEXT)
+        name += command.key == VK_PRIOR ? L"PgUp" : L"PgDn";
+    else if (command.key >= VK_F1 && command.key <= VK_F24)
+        name.AppendFormat(L"F%d", command.key - VK_F1 + 1);
     else
         name += static_cast<WCHAR>(command.key);
     return name;
@@ -151,6 +174,13 @@ void AppendItem(HMENU menu, UINT command) {
         ::AppendMenu(menu, MF_STRING, command, CommandText(command));
     else
         ::AppendMenu(menu, MF_SEPARATOR, 0, nullptr);
+}
+
+HMENU CreatePopup(const std::vector<UINT>& items) {
+    HMENU popup = ::CreatePopupMenu();
+    for (UINT command : items)
+        AppendItem(popup, command);
+    return popup;
 }
 
 }  // namespace
@@ -180,12 +210,14 @@ CString CommandText(UINT id) {
 HMENU CreateMenuBar() {
     HMENU bar = ::CreateMenu();
     for (const MenuLayout& layout : MenuBarLayout()) {
-        HMENU popup = ::CreatePopupMenu();
-        for (UINT command : layout.items)
-            AppendItem(popup, command);
+        HMENU popup = CreatePopup(layout.items);
         ::AppendMenu(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), GetText(layout.title));
     }
     return bar;
+}
+
+HMENU CreatePagesMenu() {
+    return CreatePopup(PagesLayout());
 }
 
 void TranslateMenu(HMENU menu) {

@@ -36,6 +36,28 @@ enum PageCommandId : UINT {
     ID_PAGE_LAST = ID_PAGE_SNAP_TO_GRID,
 };
 
+/// Commands of the frame.
+enum FrameCommandId : UINT {
+    ID_VIEW_PROPERTIES = 6690,
+};
+
+/// Commands on the pages and files of the document, and on what the frame shows.
+enum DocumentCommandId : UINT {
+    ID_PAGES_FIRST = 6701,
+    ID_PAGES_ADD = ID_PAGES_FIRST,
+    ID_PAGES_DUPLICATE,
+    ID_PAGES_REMOVE,
+    ID_PAGES_RENAME,
+    ID_PAGES_MOVE_LEFT,
+    ID_PAGES_MOVE_RIGHT,
+    ID_PAGES_PREVIOUS,
+    ID_PAGES_NEXT,
+    ID_PAGES_LAST = ID_PAGES_NEXT,
+    ID_DOCUMENT_EXPORT,
+    ID_DOCUMENT_DEMO,
+    ID_VIEW_SYMBOLS,
+};
+
 /// A drawing tool: command, shape kind, name, what it waits for, key.
 struct ToolInfo {
     UINT command;
@@ -56,6 +78,9 @@ CString CommandText(UINT command);
 
 /// A new menu bar; the caller destroys it or gives it to a window.
 HMENU CreateMenuBar();
+
+/// A new popup menu of the commands on pages; the caller destroys it.
+HMENU CreatePagesMenu();
 
 /// Gives the items of a popup menu Studio's texts; items of unknown commands keep theirs.
 void TranslateMenu(HMENU menu);

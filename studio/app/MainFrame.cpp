@@ -11,7 +11,7 @@ namespace Studio {
 
 namespace {
 
-const CRect kFrame(40, 40, 40 + 1180, 40 + 820);
+const CRect kFrame(40, 40, 40 + 1320, 40 + 860);
 
 }  // namespace
 
@@ -29,6 +29,11 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_COMMAND(ID_APP_ABOUT, &MainFrame::OnAbout)
     ON_COMMAND(Lumo::ID_DOCUMENT_LOAD, &MainFrame::OnFileOpen)
     ON_COMMAND(Lumo::ID_DOCUMENT_SAVE, &MainFrame::OnFileSave)
+    ON_COMMAND(ID_VIEW_PROPERTIES, &MainFrame::OnViewProperties)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_PROPERTIES, &MainFrame::OnUpdateViewProperties)
+    ON_COMMAND(Lumo::ID_OBJECT_PROPERTIES, &MainFrame::OnProperties)
+    ON_UPDATE_COMMAND_UI(Lumo::ID_OBJECT_PROPERTIES, &MainFrame::OnUpdateProperties)
+    ON_WM_MOUSEWHEEL()
     ON_COMMAND_RANGE(Lumo::ID_TOOL_SELECT, Lumo::ID_OBJECT_PROPERTIES, &MainFrame::OnPageCommand)
     ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, &MainFrame::OnPageCommand)
     ON_UPDATE_COMMAND_UI_RANGE(Lumo::ID_TOOL_SELECT, Lumo::ID_OBJECT_REDO, &MainFrame::OnUpdatePageCommand)
@@ -53,7 +58,7 @@ bool MainFrame::CreateFrame() {
     ::SetMenu(m_hWnd, CreateMenuBar());
     m_hAccelTable = m_keys = CreateAccelerators();
     m_document = new StudioDocument(*this, *this);
-    if (!m_toolbox.Create(*this) || !m_status.Create(*this) || !m_document->NewFile())
+    if (!m_toolbox.Create(*this) || !m_status.Create(*this) || !m_properties.Create(*this) || !m_document->NewFile())
         return false;
     ShowPage();
     return true;
@@ -65,17 +70,19 @@ void MainFrame::OnSize(UINT type, int cx, int cy) {
         LayOut();
 }
 
-// Toolbox at the left, status bar at the bottom, the page in between.
+// Toolbox at the left, properties at the right, status bar at the bottom, the page in between.
 void MainFrame::LayOut() {
-    if (!m_toolbox.m_hWnd || !m_status.m_hWnd)
+    if (!m_toolbox.m_hWnd || !m_status.m_hWnd || !m_properties.m_hWnd)
         return;
     CRect client;
     GetClientRect(client);
     const int bottom = client.bottom - StatusBar::kHeight;
     m_toolbox.MoveWindow(0, 0, Toolbox::kWidth, bottom);
     m_status.MoveWindow(0, bottom, client.Width(), StatusBar::kHeight);
+    const int right = client.Width() - (m_showProperties ? PropertyPanel::kWidth : 0);
+    m_properties.MoveWindow(client.Width() - PropertyPanel::kWidth, 0, PropertyPanel::kWidth, bottom);
     if (StudioCanvas* page = Page())
-        page->MoveWindow(Toolbox::kWidth, 0, client.Width() - Toolbox::kWidth, bottom);
+        page->MoveWindow(Toolbox::kWidth, 0, right - Toolbox::kWidth, bottom);
 }
 
 void MainFrame::ShowPage() {
@@ -105,6 +112,7 @@ void MainFrame::OnSetFocus(CWnd* old) {
 }
 
 void MainFrame::FinishEditing() {
+    m_properties.CommitEditing();
     if (StudioCanvas* page = Page())
         page->FinishEditing();
 }
@@ -209,6 +217,7 @@ CString MainFrame::FileName() const {
 }
 
 void MainFrame::OnPageCommand(UINT command) {
+    m_properties.CommitEditing();
     if (StudioCanvas* page = Page())
         RunPageCommand(*page, command);
 }
@@ -255,11 +264,14 @@ void MainFrame::RefreshStatus() {
     StudioCanvas* page = Page();
     if (!page)
         return;
+    m_properties.RefreshSoon();
     const ToolInfo& tool = ToolOfKind(Lumo::CUIToolBase::run_drawshape);
     m_toolbox.SetCurrent(tool.kind);
     m_status.SetPane(StatusBar::kMode,
                      GetPlainText(page->m_nMode == Lumo::CM_POLY ? Text::kModePoly : Text::kModeDraw));
-    m_status.SetPane(StatusBar::kHint, GetPlainText(tool.name) + L":  " + GetText(tool.hint));
+    m_status.SetPane(StatusBar::kHint, m_refusal.IsEmpty()
+                                           ? GetPlainText(tool.name) + L":  " + GetText(tool.hint)
+                                           : m_refusal);
     m_status.SetPane(StatusBar::kSelection, SelectionText());
     m_status.SetPane(StatusBar::kModified,
                      m_document->GetModifiedFlag() ? GetText(Text::kStatusModified) : L"");

@@ -3,13 +3,14 @@
 
 #include "studio/app/StatusBar.h"
 #include "studio/app/Toolbox.h"
+#include "studio/app/panels/PropertyPanel.h"
 #include "studio/document/StudioDocument.h"
 #include "studio/editing/PageTool.h"
 
 namespace Studio {
 
 /// Owns document, tools and bars; routes every command. Deletes itself with its window.
-class MainFrame : public CFrameWnd, public CanvasListener {
+class MainFrame : public CFrameWnd, public CanvasListener, private PropertyPanelOwner {
 public:
     MainFrame() = default;
     ~MainFrame() override;
@@ -39,8 +40,17 @@ protected:
     afx_msg void OnAbout();
     afx_msg void OnPageCommand(UINT command);
     afx_msg void OnUpdatePageCommand(CCmdUI* ui);
+    afx_msg void OnViewProperties();
+    afx_msg void OnUpdateViewProperties(CCmdUI* ui);
+    afx_msg void OnProperties();
+    afx_msg void OnUpdateProperties(CCmdUI* ui);
+    afx_msg BOOL OnMouseWheel(UINT flags, short turn, CPoint screen);
 
 private:
+    StudioCanvas* PropertyPage() override { return Page(); }
+    void OnPropertyRefused(const CString& reason) override;
+    void ShowProperties(bool show);
+
     StudioCanvas* Page() { return m_document ? m_document->CurrentPage() : nullptr; }
     CString FileName() const;
     bool AskForPath(bool open, CString& path);
@@ -57,6 +67,9 @@ private:
     PageTools m_tools;
     Toolbox m_toolbox;
     StatusBar m_status;
+    PropertyPanel m_properties{*this};
+    bool m_showProperties = true;
+    CString m_refusal;  // of a typed property
     StudioDocument* m_document = nullptr;
     HACCEL m_keys = nullptr;
     CString m_title;

@@ -3,6 +3,8 @@
 
 #include "studio/properties/PropertyEdits.h"
 
+#include <memory>
+
 namespace Studio {
 
 class PropertyField;
@@ -48,6 +50,8 @@ public:
     virtual bool IsEdited() const { return false; }
     /// A key for one of the controls; false leaves it to the control.
     virtual bool OnKey(UINT key);
+    /// Takes the mark of a refusal away.
+    void EndRefusal() { Refuse(CString()); }
     /// The controls that take the focus, in their order.
     const std::vector<CWnd*>& Controls() const { return m_controls; }
 

@@ -10,6 +10,8 @@ namespace {
 
 constexpr UINT_PTR kRefreshTimer = 1;
 constexpr UINT kRefreshDelay = 25;
+constexpr UINT_PTR kNoteTimer = 2;
+constexpr UINT kNoteTime = 5000;
 // Binding and chooser stand before the rows of the behaviour that is chosen.
 constexpr size_t kFixedBehaviourRows = 2;
 
@@ -99,7 +101,8 @@ PropertyField* PropertyPanel::AddField(Section& section, const Property& propert
 }
 
 bool PropertyPanel::BuildBehaviourRows() {
-    ShowRefusal(*m_chooser, CString());
+    if (m_refused)
+        m_refused->EndRefusal();
     auto& rows = BehaviourSection().rows;
     rows.erase(rows.begin() + kFixedBehaviourRows, rows.end());
     bool made = AddField(BehaviourSection(), BehaviourSwitch(m_behaviour)) != nullptr;
@@ -131,8 +134,20 @@ void PropertyPanel::RefreshSoon() {
     m_refreshing = SetTimer(kRefreshTimer, kRefreshDelay, nullptr) != 0;
 }
 
-void PropertyPanel::OnTimer(UINT_PTR) {
-    Refresh();
+void PropertyPanel::OnTimer(UINT_PTR timer) {
+    if (timer == kRefreshTimer)
+        Refresh();
+    else
+        FadeNote();
+}
+
+// The note stays as long as the refused text is there to be corrected.
+void PropertyPanel::FadeNote() {
+    if (m_refused && m_refused == FocusedField())
+        return;
+    KillTimer(kNoteTimer);
+    if (m_refused)
+        m_refused->EndRefusal();
 }
 
 void PropertyPanel::Refresh() {
@@ -194,14 +209,17 @@ CString PropertyPanel::WriteValue(const Property& property, const PropertyValue&
 
 void PropertyPanel::ShowRefusal(PropertyField& field, const CString& reason) {
     if (reason.IsEmpty()) {
-        if (m_note.m_hWnd && m_refused)
+        if (m_refused == &field) {
+            m_refused = nullptr;
             m_note.Hide();
-        if (m_refused)
             m_owner.OnPropertyRefused(reason);
-        m_refused = nullptr;
+        }
         return;
     }
+    if (m_refused && m_refused != &field)
+        m_refused->EndRefusal();
     m_refused = &field;
+    SetTimer(kNoteTimer, kNoteTime, nullptr);
     CRect rect;
     field.GetWindowRect(rect);
     ScreenToClient(rect);

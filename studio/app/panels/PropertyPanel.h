@@ -87,6 +87,7 @@ private:
     void ChooseBehaviour(int behaviour);
     void RefreshChooser();
     void RefreshTitle();
+    void FadeNote();
     Section& BehaviourSection() { return *m_sections.back(); }
 
     void LayOut();

@@ -65,6 +65,8 @@ PropertyField* PropertyPanel::FocusedField() {
 }
 
 void PropertyPanel::OnFieldFocus(PropertyField& field) {
+    if (m_refused && m_refused != &field)
+        m_refused->EndRefusal();
     EnsureVisible(field);
     // What is written from now on is another step, also with the same field.
     if (StudioCanvas* page = m_owner.PropertyPage())

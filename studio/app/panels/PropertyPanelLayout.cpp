@@ -95,7 +95,7 @@ void PropertyPanel::ScrollTo(int position) {
     if (delta == 0)
         return;
     if (m_refused)
-        ShowRefusal(*m_refused, CString());
+        m_refused->EndRefusal();
     m_scroll = position;
     SetScrollPos(SB_VERT, position);
     ::ScrollWindowEx(m_hWnd, 0, delta, nullptr, nullptr, nullptr, nullptr, SW_SCROLLCHILDREN | SW_INVALIDATE);

@@ -60,7 +60,7 @@ BOOL FileField::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 void FileField::AskForFile() {
     CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_FILEMUSTEXIST,
-                       GetText(Text::kPictureFilter), GetTopLevelParent());
+                       GetText(Text::kPropPictureFilter), GetTopLevelParent());
     if (dialog.DoModal() == IDOK && Write(dialog.GetPathName()))
         ShowState();
     m_button.SetFocus();
