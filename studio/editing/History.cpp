@@ -56,18 +56,23 @@ bool History::Travel(bool forward) {
         else
             m_document.SetCurrentCanvas(&page);
     }
-    m_travelling = true;
-    step.Invalidate();
-    step.Apply(forward);
-    step.RestoreSelection(forward);
-    step.Invalidate();
-    m_travelling = false;
+    Replay(step, forward);
     m_done = forward ? m_done + 1 : m_done - 1;
     m_mayMerge = false;
     RefreshModified();
     return true;
 }
 
+void History::Replay(HistoryStep& step, bool forward) {
+    m_travelling = true;
+    step.Invalidate();
+    step.Apply(forward);
+    step.RestoreSelection(forward);
+    step.Invalidate();
+    m_travelling = false;
+}
+
+// The document's own mark is set by many of its operations, whether or not they are part of a step.
 void History::RefreshModified() {
     m_document.SetModifiedFlag(m_done != m_saved);
     auto* shown = dynamic_cast<StudioCanvas*>(m_document.GetCurrentCanvas());
@@ -112,6 +117,7 @@ void History::Close() {
     std::unique_ptr<HistoryStep> step = std::move(m_open);
     if (step->Seal())
         Record(std::move(step));
+    RefreshModified();
 }
 
 void History::Record(std::unique_ptr<HistoryStep> step) {
@@ -126,21 +132,15 @@ void History::Record(std::unique_ptr<HistoryStep> step) {
         ++m_done;
     }
     m_mayMerge = true;
-    RefreshModified();
 }
 
 void History::Abandon() {
     if (--m_depth > 0 || !m_open)
         return;
     const std::unique_ptr<HistoryStep> step = std::move(m_open);
-    if (!step->Seal())
-        return;
-    m_travelling = true;
-    step->Invalidate();
-    step->Apply(false);
-    step->RestoreSelection(false);
-    step->Invalidate();
-    m_travelling = false;
+    if (step->Seal())
+        Replay(*step, false);
+    RefreshModified();
 }
 
 EditScope::EditScope(StudioCanvas& page, Text name, DWORD mergeKey) : m_history(&page.Edits()) {

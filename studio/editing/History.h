@@ -66,6 +66,7 @@ private:
     void Close();
     void Abandon();
     bool Travel(bool forward);
+    void Replay(HistoryStep& step, bool forward);
     void Record(std::unique_ptr<HistoryStep> step);
     void RefreshModified();
 

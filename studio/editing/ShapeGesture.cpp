@@ -46,6 +46,7 @@ void ShapeGesture::Finish() {
     const Gdiplus::SizeF size = m_object->GetSize();
     if (size.Width < kTooSmall || size.Height < kTooSmall) {
         Cancel();
+        m_page.Select(nullptr, 0);
         ChooseTool(m_page, Lumo::DS_SELECT);
     }
 }
