@@ -23,7 +23,8 @@ enum TabNotifyCode : UINT {
     TABN_CLOSE,                  ///< the user wants `tab` gone: the host removes it, or does not
     TABN_ADD,                    ///< the user wants another tab
     TABN_MENU,                   ///< the right button asks for a menu at `point`; `tab` is -1 beside the tabs
-    TABN_DRAGEND                 ///< a drag is over, whether or not the tab moved
+    TABN_DRAGEND,                ///< a drag is over, whether or not the tab moved
+    TABN_LAST = TABN_DRAGEND,
 };
 
 /// What a notification is about.

@@ -5,7 +5,9 @@
 #include "studio/app/PageCommands.h"
 #include "studio/app/Painting.h"
 
-#include <afxdlgs.h>
+#include "window/DeferWindow.h"
+
+#include <algorithm>
 
 namespace Studio {
 
@@ -25,6 +27,12 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_OPEN, &MainFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_SAVE, &MainFrame::OnFileSave)
     ON_COMMAND(ID_FILE_SAVE_AS, &MainFrame::OnFileSaveAs)
+    ON_COMMAND(ID_DOCUMENT_EXPORT, &MainFrame::OnExportPage)
+    ON_COMMAND(ID_DOCUMENT_DEMO, &MainFrame::OnOpenDemo)
+    ON_COMMAND_RANGE(ID_PAGES_FIRST, ID_PAGES_LAST, &MainFrame::OnPagesCommand)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_PAGES_FIRST, ID_PAGES_LAST, &MainFrame::OnUpdatePagesCommand)
+    ON_COMMAND(ID_VIEW_SYMBOLS, &MainFrame::OnViewSymbols)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_SYMBOLS, &MainFrame::OnUpdateViewSymbols)
     ON_COMMAND(ID_APP_EXIT, &MainFrame::OnExit)
     ON_COMMAND(ID_APP_ABOUT, &MainFrame::OnAbout)
     ON_COMMAND(Lumo::ID_DOCUMENT_LOAD, &MainFrame::OnFileOpen)
@@ -58,7 +66,8 @@ bool MainFrame::CreateFrame() {
     ::SetMenu(m_hWnd, CreateMenuBar());
     m_hAccelTable = m_keys = CreateAccelerators();
     m_document = new StudioDocument(*this, *this);
-    if (!m_toolbox.Create(*this) || !m_status.Create(*this) || !m_properties.Create(*this) || !m_document->NewFile())
+    if (!m_toolbox.Create(*this) || !m_status.Create(*this) || !m_properties.Create(*this) || !CreatePageParts() ||
+        !m_document->NewFile())
         return false;
     ShowPage();
     return true;
@@ -70,19 +79,24 @@ void MainFrame::OnSize(UINT type, int cx, int cy) {
         LayOut();
 }
 
-// Toolbox at the left, properties at the right, status bar at the bottom, the page in between.
+// Toolbox and symbols at the left, properties at the right, status bar at the bottom, tabs below the page.
 void MainFrame::LayOut() {
-    if (!m_toolbox.m_hWnd || !m_status.m_hWnd || !m_properties.m_hWnd)
+    if (!m_toolbox.m_hWnd || !m_status.m_hWnd || !m_properties.m_hWnd || !m_tabs.Window().m_hWnd)
         return;
     CRect client;
     GetClientRect(client);
     const int bottom = client.bottom - StatusBar::kHeight;
-    m_toolbox.MoveWindow(0, 0, Toolbox::kWidth, bottom);
-    m_status.MoveWindow(0, bottom, client.Width(), StatusBar::kHeight);
+    const int left = Toolbox::kWidth + (m_showSymbols ? SymbolPanel::kWidth : 0);
     const int right = client.Width() - (m_showProperties ? PropertyPanel::kWidth : 0);
-    m_properties.MoveWindow(client.Width() - PropertyPanel::kWidth, 0, PropertyPanel::kWidth, bottom);
+    const int tabs = bottom - m_tabs.Height();
+    Lumo::DeferWindow layout;
+    layout.Move(m_toolbox, CRect(0, 0, Toolbox::kWidth, bottom));
+    layout.Move(m_symbols, CRect(Toolbox::kWidth, 0, Toolbox::kWidth + SymbolPanel::kWidth, bottom));
+    layout.Move(m_properties, CRect(client.Width() - PropertyPanel::kWidth, 0, client.Width(), bottom));
+    layout.Move(m_tabs.Window(), CRect(left, tabs, std::max(left, right), bottom));
+    layout.Move(m_status, CRect(0, bottom, client.Width(), client.bottom));
     if (StudioCanvas* page = Page())
-        page->MoveWindow(Toolbox::kWidth, 0, right - Toolbox::kWidth, bottom);
+        layout.Move(*page, CRect(left, 0, std::max(left, right), tabs));
 }
 
 void MainFrame::ShowPage() {
@@ -112,6 +126,7 @@ void MainFrame::OnSetFocus(CWnd* old) {
 }
 
 void MainFrame::FinishEditing() {
+    m_tabs.FinishRename();
     m_properties.CommitEditing();
     if (StudioCanvas* page = Page())
         page->FinishEditing();
@@ -124,96 +139,11 @@ void MainFrame::OnClose() {
 
 void MainFrame::OnDestroy() {
     // The pages go before the windows they are children of.
+    m_autosave.reset();
     if (m_document)
         m_document->Release();
     m_document = nullptr;
     CFrameWnd::OnDestroy();
-}
-
-void MainFrame::OnFileNew() {
-    if (!MayDiscard())
-        return;
-    if (!m_document->NewFile())
-        AfxMessageBox(m_document->GetError(), MB_OK | MB_ICONERROR);
-    ShowPage();
-}
-
-void MainFrame::OnFileOpen() {
-    CString path;
-    if (MayDiscard() && AskForPath(true, path))
-        OpenPath(path);
-}
-
-void MainFrame::OpenPath(const CString& path) {
-    CString name = path;
-    CWaitCursor wait;
-    if (!m_document->Load(name))
-        AfxMessageBox(m_document->GetError(), MB_OK | MB_ICONERROR);
-    ShowPage();
-}
-
-void MainFrame::OnFileSave() {
-    SaveDocument();
-}
-
-void MainFrame::OnFileSaveAs() {
-    FinishEditing();
-    CString path;
-    if (AskForPath(false, path))
-        SaveTo(path);
-}
-
-void MainFrame::OnExit() {
-    SendMessage(WM_CLOSE);
-}
-
-void MainFrame::OnAbout() {
-    AfxMessageBox(GetText(Text::kAbout), MB_OK | MB_ICONINFORMATION);
-}
-
-bool MainFrame::AskForPath(bool open, CString& path) {
-    const DWORD flags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (open ? OFN_FILEMUSTEXIST : OFN_OVERWRITEPROMPT);
-    const CString& current = m_document->GetPath();
-    CFileDialog dialog(open, L"cbf", open || current.IsEmpty() ? nullptr : current.GetString(), flags,
-                       GetText(Text::kFileFilter), this);
-    if (dialog.DoModal() != IDOK)
-        return false;
-    path = dialog.GetPathName();
-    return true;
-}
-
-bool MainFrame::SaveTo(CString path) {
-    CWaitCursor wait;
-    const bool saved = m_document->Save(path) != 0;
-    if (!saved)
-        AfxMessageBox(m_document->GetError(), MB_OK | MB_ICONERROR);
-    RefreshTitle();
-    RefreshStatus();
-    return saved;
-}
-
-bool MainFrame::SaveDocument() {
-    FinishEditing();
-    CString path = m_document->GetPath();
-    if (path.IsEmpty() && !AskForPath(false, path))
-        return false;
-    return SaveTo(path);
-}
-
-// Asks before unsaved changes are lost; true when they may be, or are saved.
-bool MainFrame::MayDiscard() {
-    FinishEditing();
-    if (!m_document->GetModifiedFlag())
-        return true;
-    CString question;
-    question.Format(GetText(Text::kAskSave), FileName().GetString());
-    const int answer = AfxMessageBox(question, MB_YESNOCANCEL | MB_ICONQUESTION);
-    return answer == IDNO || (answer == IDYES && SaveDocument());
-}
-
-CString MainFrame::FileName() const {
-    const CString& path = m_document->GetPath();
-    return path.IsEmpty() ? CString(GetText(Text::kUntitled)) : path.Mid(path.ReverseFind(L'\\') + 1);
 }
 
 void MainFrame::OnPageCommand(UINT command) {

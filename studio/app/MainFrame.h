@@ -1,9 +1,12 @@
 // Studio's main window: menu, toolbox, page, status bar.
 #pragma once
 
+#include "studio/app/PageTabs.h"
 #include "studio/app/StatusBar.h"
+#include "studio/app/SymbolPanel.h"
 #include "studio/app/Toolbox.h"
 #include "studio/app/panels/PropertyPanel.h"
+#include "studio/document/Autosave.h"
 #include "studio/document/StudioDocument.h"
 #include "studio/editing/PageTool.h"
 
@@ -20,6 +23,11 @@ public:
     bool CreateFrame();
     /// Opens a file; a refused one is reported and changes nothing.
     void OpenPath(const CString& path);
+    /// Opens the demo project as a document without a file.
+    void OpenDemo();
+    /// Begins without a file: offers what an earlier run could not save, and shows the demo project on the
+    /// very first start, or when it is asked for.
+    void Start(bool demo);
 
     void OnCanvasState(StudioCanvas& canvas) override;
     void OnCanvasPointer(StudioCanvas& canvas, const CPoint* at) override;
@@ -46,6 +54,14 @@ protected:
     afx_msg void OnUpdateProperties(CCmdUI* ui);
     afx_msg BOOL OnMouseWheel(UINT flags, short turn, CPoint screen);
 
+    afx_msg void OnExportPage();
+    afx_msg void OnOpenDemo();
+    afx_msg void OnPagesCommand(UINT command);
+    afx_msg void OnUpdatePagesCommand(CCmdUI* ui);
+    afx_msg void OnViewSymbols();
+    afx_msg void OnUpdateViewSymbols(CCmdUI* ui);
+    BOOL OnNotify(WPARAM id, LPARAM notify, LRESULT* result) override;
+
 private:
     StudioCanvas* PropertyPage() override { return Page(); }
     void OnPropertyRefused(const CString& reason) override;
@@ -64,6 +80,17 @@ private:
     void RefreshStatus();
     CString SelectionText();
 
+    bool CreatePageParts();
+    void ShowPagesMenu(CPoint screen);
+    void InsertSymbol(const CString& path, const CPoint* screen);
+    void OnPagesChanged();
+    void StartAutosave();
+    void AutosaveNow();
+    bool RecoverFor(const CString& path);
+    bool RecoverUntitled();
+    static bool AskRecover(const CString& name);
+    bool Recover(const CString& copy, const CString& path);
+
     PageTools m_tools;
     Toolbox m_toolbox;
     StatusBar m_status;
@@ -71,6 +98,11 @@ private:
     bool m_showProperties = true;
     CString m_refusal;  // of a typed property
     StudioDocument* m_document = nullptr;
+    PageTabs m_tabs;
+    SymbolPanel m_symbols;
+    bool m_showSymbols = true;
+    std::unique_ptr<Autosave> m_autosave;
+    Lumo::Timer m_autosaveTimer;
     HACCEL m_keys = nullptr;
     CString m_title;
 };
