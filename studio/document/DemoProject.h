@@ -1,0 +1,14 @@
+// The project that Studio comes with: four pages that show a 16 by 16 matrix at work.
+#pragma once
+
+#include "studio/document/PageContents.h"
+
+namespace Studio {
+
+/// The pages overview, matrix, equaliser and levels in the language of the texts.
+DocumentContents MakeDemoProject();
+
+/// Writes contents as a file. Raises `FileFault` and the exceptions of file and archive.
+void WriteContents(const DocumentContents& contents, const CString& path);
+
+}  // namespace Studio
