@@ -25,7 +25,7 @@
     X(kPropSize,           L"Size",                     L"크기") \
     X(kPropKind,           L"Kind",                     L"종류") \
     X(kPropColor,          L"Colour",                   L"색") \
-    X(kPropColor2,         L"Second colour",            L"둘째 색") \
+    X(kPropColor2,         L"Gradient to",              L"끝 색") \
     X(kPropPicture,        L"Picture",                  L"그림") \
     X(kPropWidth,          L"Width",                    L"두께") \
     X(kPropDash,           L"Line style",               L"선 모양") \

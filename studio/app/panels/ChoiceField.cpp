@@ -39,11 +39,17 @@ void ChoiceBox::OnPaint() {
     PaintText(dc, text, rect, enabled ? Palette::kText : Palette::kQuietText);
 }
 
+BEGIN_MESSAGE_MAP(ChoiceField, PropertyField)
+    ON_WM_DRAWITEM()
+END_MESSAGE_MAP()
+
 bool ChoiceField::CreateControls() {
     m_choices = m_property.choices();
     const int rows = std::min(static_cast<int>(m_choices.size()), kMostRows);
     const CRect dropped(0, 0, 100, kHeight + rows * kRowHeight + 4);
-    if (!m_box.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, dropped, this, 1))
+    if (!m_box.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST |
+                          CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
+                      dropped, this, 1))
         return false;
     Adopt(m_box);
     // The closed box is 6 pixels higher than its line of text.
@@ -65,6 +71,23 @@ void ChoiceField::Replace(std::vector<Choice> choices) {
 void ChoiceField::LayOut(const CRect& client) {
     const int rows = std::min(static_cast<int>(m_choices.size()), kMostRows);
     m_box.MoveWindow(0, 0, client.Width(), kHeight + rows * kRowHeight + 4, FALSE);
+}
+
+void ChoiceField::OnDrawItem(int, LPDRAWITEMSTRUCT item) {
+    if (item->itemState & ODS_COMBOBOXEDIT) {
+        m_box.Invalidate(FALSE);
+        return;
+    }
+    CDC& dc = *CDC::FromHandle(item->hDC);
+    CRect rect = item->rcItem;
+    const bool chosen = (item->itemState & ODS_SELECTED) != 0;
+    dc.FillSolidRect(rect, chosen ? ToColorRef(Palette::kChosen) : GroundColor(true));
+    if (item->itemID >= m_choices.size())
+        return;
+    ::SelectObject(dc, BarFont());
+    dc.SetBkMode(TRANSPARENT);
+    rect.DeflateRect(6, 0, 2, 0);
+    PaintText(dc, m_choices[item->itemID].text, rect, chosen ? Palette::kAccent : Palette::kText);
 }
 
 int ChoiceField::IndexOf(const PropertyValue& value) {

@@ -24,6 +24,8 @@ public:
     bool OnKey(UINT key) override;
 
 protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnDrawItem(int control, LPDRAWITEMSTRUCT item);
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     bool CreateControls() override;
     void LayOut(const CRect& client) override;

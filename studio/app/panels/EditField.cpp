@@ -4,7 +4,7 @@ namespace Studio {
 
 namespace {
 
-constexpr int kPadding = 6;
+constexpr int kPadding = 4;
 constexpr int kTextHeight = 16;
 
 }  // namespace

@@ -65,7 +65,7 @@ PropertyField* PropertyPanel::FocusedField() {
 }
 
 void PropertyPanel::OnFieldFocus(PropertyField& field) {
-    if (m_refused && m_refused != &field)
+    if (m_refused && m_note.Covers(field))
         m_refused->EndRefusal();
     EnsureVisible(field);
     // What is written from now on is another step, also with the same field.

@@ -39,7 +39,8 @@ void RefusalNote::Show(const CRect& field, const CString& reason) {
         dc.DrawText(reason, room, kFormat | DT_CALCRECT);
         ::SelectObject(dc, old);
     }
-    const int width = room.Width() + 2 * kPadding;
+    // One pixel more than measured, or the last word may wrap.
+    const int width = room.Width() + 1 + 2 * kPadding;
     const int height = room.Height() + 2 * kPadding;
     const bool below = field.bottom + kGap + height <= parent.bottom;
     const int top = below ? field.bottom + kGap : field.top - kGap - height;
@@ -50,6 +51,13 @@ void RefusalNote::Show(const CRect& field, const CString& reason) {
 
 void RefusalNote::Hide() {
     ShowWindow(SW_HIDE);
+}
+
+bool RefusalNote::Covers(const CWnd& window) const {
+    CRect note, other, common;
+    GetWindowRect(note);
+    window.GetWindowRect(other);
+    return IsWindowVisible() && common.IntersectRect(note, other);
 }
 
 void RefusalNote::OnPaint() {

@@ -13,6 +13,8 @@ public:
     /// Shows the reason under `field` (client coordinates of the parent), or above it where there is no room.
     void Show(const CRect& field, const CString& reason);
     void Hide();
+    /// Whether the note lies over a window.
+    bool Covers(const CWnd& window) const;
 
 protected:
     DECLARE_MESSAGE_MAP()
