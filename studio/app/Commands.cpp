@@ -1,5 +1,7 @@
 #include "studio/app/Commands.h"
 
+#include "studio/editing/PageTool.h"
+
 #include <vector>
 
 namespace Studio {
@@ -57,6 +59,7 @@ constexpr Command kCommands[] = {
     {ID_TOOL_LINE, Text::kToolLine, 'L', 0},
     {ID_TOOL_POLYLINE, Text::kToolPolyline, 'P', 0},
     {ID_TOOL_TEXTBOX, Text::kToolTextBox, 'T', 0},
+    {ID_TOOL_PICTURE, Text::kToolPicture, 'I', 0},
     {ID_POSITION_FORWARD, Text::kArrangeForward, 0, 0},
     {ID_POSITION_BACKWARD, Text::kArrangeBackward, 0, 0},
     {ID_POSITION_FRONT, Text::kArrangeFront, 0, 0},
@@ -110,6 +113,7 @@ constexpr ToolInfo kTools[] = {
     {ID_TOOL_LINE, DS_LINE, Text::kToolLine, Text::kHintLine, L'L'},
     {ID_TOOL_POLYLINE, DS_POLYLINE, Text::kToolPolyline, Text::kHintPolyline, L'P'},
     {ID_TOOL_TEXTBOX, DS_TEXTEDIT, Text::kToolTextBox, Text::kHintTextBox, L'T'},
+    {ID_TOOL_PICTURE, kPictureTool, Text::kToolPicture, Text::kHintPicture, L'I'},
 };
 
 // A menu of the menu bar: its items by command, 0 for a separator.
@@ -134,7 +138,7 @@ std::vector<MenuLayout> MenuBarLayout() {
         {Text::kMenuMode, {ID_MODE_DRAW, ID_MODE_POLY}},
         {Text::kMenuTools,
          {ID_TOOL_SELECT, 0, ID_TOOL_RECTANGLE, ID_TOOL_ELLIPSE, ID_TOOL_LINE, ID_TOOL_POLYLINE,
-          ID_TOOL_TEXTBOX}},
+          ID_TOOL_TEXTBOX, ID_TOOL_PICTURE}},
         {Text::kMenuArrange,
          {ID_POSITION_FORWARD, ID_POSITION_BACKWARD, ID_POSITION_FRONT, ID_POSITION_BACK, 0, ID_ROTATE_LEFT,
           ID_ROTATE_RIGHT, ID_PAGE_FLIP_H, ID_PAGE_FLIP_V, 0, ID_GROUP_MAKE, ID_GROUP_UNMAKE, 0, ID_ALIGN_LEFT, ID_ALIGN_RIGHT, ID_ALIGN_TOP,

@@ -33,7 +33,8 @@ enum PageCommandId : UINT {
     ID_PAGE_FLIP_V,
     ID_PAGE_SHOW_GRID,
     ID_PAGE_SNAP_TO_GRID,
-    ID_PAGE_LAST = ID_PAGE_SNAP_TO_GRID,
+    ID_TOOL_PICTURE,
+    ID_PAGE_LAST = ID_TOOL_PICTURE,
 };
 
 /// Commands of the frame.

@@ -32,7 +32,9 @@
     X(kArrangeDistributeV, L"Distribute &Vertically",   L"세로 간격을 같게(&V)") \
     X(kArrangeFlipH,       L"Flip Left to Right",       L"좌우 뒤집기") \
     X(kArrangeFlipV,       L"Flip Top to Bottom",       L"상하 뒤집기") \
-    X(kInsertPicture,      L"Pi&cture...",              L"그림 삽입(&C)...") \
+    X(kToolPicture,        L"P&icture",                 L"그림(&I)") \
+    X(kHintPicture,        L"Drag out or click where a picture goes, then choose its file", \
+                           L"그림을 넣을 곳을 끌거나 클릭한 다음 파일을 고르세요") \
     X(kPictureFilter,      L"Pictures|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico|All files (*.*)|*.*||", \
                            L"그림|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico|모든 파일 (*.*)|*.*||") \
     X(kErrorPicture,       L"The file \"%s\" holds no picture that can be shown.", \

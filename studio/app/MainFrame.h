@@ -32,6 +32,7 @@ public:
     void OnCanvasState(StudioCanvas& canvas) override;
     void OnCanvasPointer(StudioCanvas& canvas, const CPoint* at) override;
     void OnCanvasMenu(StudioCanvas& canvas, CPoint screen) override;
+    void OnCanvasPicture(StudioCanvas& canvas, const Gdiplus::RectF& place) override;
 
 protected:
     DECLARE_MESSAGE_MAP()

@@ -1,6 +1,7 @@
 #include "studio/app/ToolIcons.h"
 
 #include "core/GraphicsStateScope.h"
+#include "studio/editing/PageTool.h"
 
 namespace Studio {
 
@@ -51,6 +52,14 @@ void DrawLetter(Graphics& g, const Pen& frame, Color color) {
     g.DrawLine(&stem, 12.0f, 8.6f, 12.0f, 16.5f);
 }
 
+void DrawLandscape(Graphics& g, const Pen& frame, Color color) {
+    g.DrawRectangle(&frame, 3.5f, 4.5f, 17.0f, 15.0f);
+    const PointF hills[] = {{4.5f, 18.5f}, {9.5f, 11}, {12.5f, 15}, {15, 12.5f}, {19.5f, 18.5f}};
+    SolidBrush brush(color);
+    g.FillPolygon(&brush, hills, static_cast<INT>(std::size(hills)));
+    g.FillEllipse(&brush, 14.0f, 6.8f, 3.6f, 3.6f);
+}
+
 }  // namespace
 
 void DrawToolIcon(Graphics& g, Lumo::DrawShape kind, float x, float y, float size, DWORD argb) {
@@ -84,6 +93,8 @@ void DrawToolIcon(Graphics& g, Lumo::DrawShape kind, float x, float y, float siz
             DrawLetter(g, frame, color);
             break;
         default:
+            if (kind == kPictureTool)
+                DrawLandscape(g, frame, color);
             break;
     }
 }

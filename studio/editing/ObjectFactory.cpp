@@ -8,6 +8,7 @@
 #include "studio/controls/PeqChart.h"
 #include "studio/controls/StateControls.h"
 #include "studio/editing/GroupObject.h"
+#include "studio/editing/PictureFill.h"
 #include "studio/editing/TextBox.h"
 #include "studio/runtime/LiveObject.h"
 
@@ -116,9 +117,9 @@ ObjectPtr MakeObject(ObjectClass objectClass) {
     const Lumo::DrawShape kind = KindOf(objectClass);
     switch (objectClass) {
         case ObjectClass::kRectangle:
-            return ObjectPtr(new LiveObject<Lumo::CUIObjectRectangle>(none, kind));
+            return ObjectPtr(new LiveObject<PictureShape<Lumo::CUIObjectRectangle>>(none, kind));
         case ObjectClass::kEllipse:
-            return ObjectPtr(new LiveObject<Lumo::CUIObjectEllipse>(none, kind));
+            return ObjectPtr(new LiveObject<PictureShape<Lumo::CUIObjectEllipse>>(none, kind));
         case ObjectClass::kTextBox:
             return ObjectPtr(new LiveObject<TextBox>(none));
         case ObjectClass::kLine:

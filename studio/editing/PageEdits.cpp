@@ -2,6 +2,7 @@
 
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/History.h"
+#include "studio/editing/ObjectFactory.h"
 #include "studio/editing/StudioCanvas.h"
 
 #include <algorithm>
@@ -129,7 +130,7 @@ void GroupSelection(StudioCanvas& page) {
     const CUIObjectDeque children = SelectionInOrder(page);
     const ObjectSet leaving = SetOf(children);
     EditScope edit(page, Text::kStepGroup);
-    auto* group = new GroupObject;
+    auto* group = static_cast<GroupObject*>(MakeObject(ObjectClass::kGroup).release());
     edit.TouchList(page);
     edit.TouchPlace(children);
     edit.TouchChildren(*group);

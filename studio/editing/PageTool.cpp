@@ -3,6 +3,7 @@
 #include "core/Geometry.h"
 #include "studio/editing/FigureGesture.h"
 #include "studio/editing/Geometry.h"
+#include "studio/editing/PictureGesture.h"
 #include "studio/editing/SelectGestures.h"
 #include "studio/editing/ShapeGesture.h"
 #include "studio/editing/TextBox.h"
@@ -146,6 +147,10 @@ void ChooseTool(StudioCanvas& page, Lumo::DrawShape kind) {
 
 void ShapeTool::Press(StudioCanvas& page, CPoint at, UINT) {
     page.Begin(std::make_unique<ShapeGesture>(page, m_nDrawShape, at));
+}
+
+void PictureTool::Press(StudioCanvas& page, CPoint at, UINT) {
+    page.Begin(std::make_unique<PictureGesture>(page, at));
 }
 
 void FigureTool::Press(StudioCanvas& page, CPoint at, UINT) {

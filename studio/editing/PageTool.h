@@ -58,6 +58,18 @@ protected:
     void Press(StudioCanvas& page, CPoint at, UINT flags) override;
 };
 
+/// The kind of the picture tool, which is no shape's.
+inline constexpr auto kPictureTool = static_cast<Lumo::DrawShape>(0xFF10);
+
+/// Drags out the place of a picture, or clicks its middle; the host asks for the file then.
+class PictureTool : public PageTool {
+public:
+    PictureTool() : PageTool(kPictureTool) {}
+
+protected:
+    void Press(StudioCanvas& page, CPoint at, UINT flags) override;
+};
+
 /// Whether a kind's tool draws points: line or polyline.
 bool IsFigureTool(Lumo::DrawShape kind);
 
@@ -72,6 +84,7 @@ struct PageTools {
     ShapeTool textBox{Lumo::DS_TEXTEDIT};
     FigureTool line{Lumo::DS_LINE};
     FigureTool polyline{Lumo::DS_POLYLINE};
+    PictureTool picture;
 };
 
 }  // namespace Studio

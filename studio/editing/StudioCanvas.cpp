@@ -21,6 +21,8 @@ using Lumo::CUIToolBase;
 
 namespace {
 
+constexpr UINT kPictureRequested = WM_APP + 1;
+
 bool HasNamedChild(CUIObject* object, const CString& name) {
     // The kind spares nearly every object of a large page the cast.
     if (!object || object->GetDrawShape() != Lumo::DS_GROUP)
@@ -45,6 +47,7 @@ BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
     ON_WM_MOUSELEAVE()
     ON_WM_SETCURSOR()
     ON_WM_CTLCOLOR()
+    ON_MESSAGE(kPictureRequested, &StudioCanvas::OnPictureRequested)
     ON_MESSAGE(WM_PARENTNOTIFY, &StudioCanvas::OnParentNotify)
 END_MESSAGE_MAP()
 
@@ -260,6 +263,16 @@ void StudioCanvas::InvalidateAll(const Lumo::CUIObjectDeque& objects) {
     for (CUIObject* object : objects)
         all = United(all, painted(*object));
     InvalidatePage(all);
+}
+
+void StudioCanvas::RequestPicture(const RectF& place) {
+    m_picturePlace = place;
+    PostMessage(kPictureRequested);
+}
+
+LRESULT StudioCanvas::OnPictureRequested(WPARAM, LPARAM) {
+    m_listener.OnCanvasPicture(*this, m_picturePlace);
+    return 0;
 }
 
 void StudioCanvas::OnLButtonDown(UINT flags, CPoint point) {

@@ -26,6 +26,8 @@ public:
     virtual void OnCanvasPointer(StudioCanvas& canvas, const CPoint* at) = 0;
     /// The right button asks for the menu at `screen`.
     virtual void OnCanvasMenu(StudioCanvas& canvas, CPoint screen) = 0;
+    /// The picture tool wants a picture at `place` (page units; without a size: about its corner).
+    virtual void OnCanvasPicture(StudioCanvas&, const Gdiplus::RectF&) {}
 };
 
 /// A page window. Made hidden by the document, shown by the frame.
@@ -83,6 +85,8 @@ public:
     void ShowBand(CPoint from, CPoint to);
     void HideBand();
 
+    /// Asks the host for a picture, once the message that is being handled is done with.
+    void RequestPicture(const Gdiplus::RectF& place);
     /// Tells the host that something may have changed.
     void NotifyState() { m_listener.OnCanvasState(*this); }
 
@@ -100,6 +104,7 @@ protected:
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     afx_msg LRESULT OnParentNotify(WPARAM event, LPARAM window);
+    afx_msg LRESULT OnPictureRequested(WPARAM, LPARAM);
 
 private:
     void PaintObjects(const CRect& part);
@@ -113,6 +118,7 @@ private:
     History& m_history;
     CanvasListener& m_listener;
     std::unique_ptr<Gesture> m_gesture;
+    Gdiplus::RectF m_picturePlace;
     bool m_swallowRightUp = false;
     bool m_trackingLeave = false;
     PageBitmap m_picture;
