@@ -29,7 +29,18 @@
     X(kFaultNoPage,        L"There is no such page.",   L"그런 페이지가 없습니다.") \
     X(kAskRecover,         L"Studio ended before the changes to \"%s\" were saved.\n\nRecover them?", \
                            L"\"%s\"의 변경 내용을 저장하기 전에 Studio가 종료되었습니다.\n\n복구할까요?") \
-    X(kDemoName,           L"Demo",                     L"데모") \
+    X(kDemoOverview,       L"Overview",                 L"개요") \
+    X(kDemoOverviewNote,   L"Press F5 to operate the screens, Esc to edit them", \
+                           L"F5를 누르면 화면이 작동하고, Esc를 누르면 편집합니다") \
+    X(kDemoMatrix,         L"Matrix",                   L"매트릭스") \
+    X(kDemoMatrixNote,     L"Click a crossing to switch it, drag it up or down for its gain", \
+                           L"교차점을 클릭하면 켜지고 꺼지며, 위아래로 끌면 게인이 바뀝니다") \
+    X(kDemoEqualiser,      L"Equaliser",                L"이퀄라이저") \
+    X(kDemoEqualiserNote,  L"Drag the bands and the edges of the crossover of output 1", \
+                           L"출력 1의 밴드와 크로스오버의 경계를 끌어 보세요") \
+    X(kDemoLevels,         L"Levels",                   L"레벨") \
+    X(kDemoLevelsNote,     L"Click a channel to mute it, drag it up or down for its gain", \
+                           L"채널을 클릭하면 음소거되고, 위아래로 끌면 게인이 바뀝니다") \
     X(kCheckSound,         L"%s: sound, %d pages, %d objects", L"%s: 정상, 페이지 %d개, 개체 %d개") \
     X(kCheckFaulty,        L"%s: not sound. %s",        L"%s: 손상됨. %s") \
     X(kCheckPage,          L"Page %d \"%s\": %d objects", L"페이지 %d \"%s\": 개체 %d개") \

@@ -1,34 +1,12 @@
 // The program.
+#include "studio/app/CommandLine.h"
 #include "studio/app/MainFrame.h"
 
 #include <commctrl.h>
-#include <shellapi.h>
 
 namespace Studio {
 
 namespace {
-
-struct CommandLine {
-    CString file;
-    Language language = Language::kEnglish;
-};
-
-// Studio.exe [--lang en|ko] [file.cbf]
-CommandLine ReadCommandLine() {
-    CommandLine result;
-    int count = 0;
-    LPWSTR* words = ::CommandLineToArgvW(::GetCommandLine(), &count);
-    for (int i = 1; words && i < count; ++i) {
-        const CString word = words[i];
-        if (word == L"--lang" && i + 1 < count)
-            result.language =
-                CString(words[++i]).CompareNoCase(L"ko") == 0 ? Language::kKorean : Language::kEnglish;
-        else
-            result.file = word;
-    }
-    ::LocalFree(words);
-    return result;
-}
 
 class StudioApp : public CWinApp {
 public:
@@ -37,18 +15,32 @@ public:
     BOOL InitInstance() override {
         INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
         ::InitCommonControlsEx(&controls);
-        const CommandLine line = ReadCommandLine();
+        const CommandLine line = CommandLine::Read();
         SetLanguage(line.language);
+        if (line.task != CommandLine::Task::kShow) {
+            m_exitCode = RunTask(line);
+            return FALSE;
+        }
         auto* frame = new MainFrame;
         if (!frame->CreateFrame())
             return FALSE;
         m_pMainWnd = frame;
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
-        if (!line.file.IsEmpty())
-            frame->OpenPath(line.file);
+        if (line.arguments.empty())
+            frame->Start(line.demo);
+        else
+            frame->OpenPath(line.arguments.front());
         return TRUE;
     }
+
+    int ExitInstance() override {
+        const int code = CWinApp::ExitInstance();
+        return m_exitCode ? m_exitCode : code;
+    }
+
+private:
+    int m_exitCode = 0;
 };
 
 StudioApp theApp;

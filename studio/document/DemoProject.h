@@ -8,7 +8,4 @@ namespace Studio {
 /// The pages overview, matrix, equaliser and levels in the language of the texts.
 DocumentContents MakeDemoProject();
 
-/// Writes contents as a file. Raises `FileFault` and the exceptions of file and archive.
-void WriteContents(const DocumentContents& contents, const CString& path);
-
 }  // namespace Studio

@@ -60,6 +60,22 @@ DocumentContents LoadContents(const CString& path) {
     return loaded;
 }
 
+void WriteContents(const DocumentContents& contents, const CString& path) {
+    WritePageFile(path, [&](CArchive& ar) {
+        StoreHead(ar, contents.pages.size(), contents.current);
+        for (const PageContents& page : contents.pages)
+            StorePage(ar, page.name, ListOf(page));
+        StoreEnd(ar);
+    });
+}
+
+Lumo::CUIObjectDeque ListOf(const PageContents& page) {
+    Lumo::CUIObjectDeque list;
+    for (const ObjectPtr& object : page.objects)
+        list.push_back(object.get());
+    return list;
+}
+
 void StorePage(CArchive& ar, const CString& name, const Lumo::CUIObjectDeque& objects) {
     ar << name;
     ar << static_cast<DWORD>(objects.size() - std::count(objects.begin(), objects.end(), nullptr));

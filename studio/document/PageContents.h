@@ -28,6 +28,12 @@ DocumentContents LoadContents(CArchive& ar, DWORD version = kArchiveVersion);
 /// Reads a file. Raises the exceptions of file and archive and `FileFault`.
 DocumentContents LoadContents(const CString& path);
 
+/// Writes a file whole or not at all. Raises the exceptions of file and archive and `FileFault`.
+void WriteContents(const DocumentContents& contents, const CString& path);
+
+/// The objects of a page as a list; they stay the page's.
+Lumo::CUIObjectDeque ListOf(const PageContents& page);
+
 /// Stores one page: its name and every object that is there.
 void StorePage(CArchive& ar, const CString& name, const Lumo::CUIObjectDeque& objects);
 /// Stores what stands before and after the pages.

@@ -49,13 +49,6 @@ CLSID PngEncoder() {
 
 }  // namespace
 
-CUIObjectDeque ListOf(const PageContents& page) {
-    CUIObjectDeque list;
-    for (const ObjectPtr& object : page.objects)
-        list.push_back(object.get());
-    return list;
-}
-
 void DrawObjects(Graphics& g, const CUIObjectDeque& objects) {
     for (CUIObject* object : objects) {
         if (IsShown(object))

@@ -23,7 +23,4 @@ std::unique_ptr<Gdiplus::Bitmap> DrawThumbnail(const Lumo::CUIObjectDeque& objec
 /// files.
 void WritePagePicture(const Lumo::CUIObjectDeque& objects, const CString& path);
 
-/// The objects of contents as the list that the functions above take; not owned.
-Lumo::CUIObjectDeque ListOf(const PageContents& page);
-
 }  // namespace Studio
