@@ -11,9 +11,33 @@ namespace Studio {
 
 using Gdiplus::RectF;
 
-void Control::Connect(Device* device, Gdiplus::PointF origin) {
+void Notify(Lumo::CUINotifyHandler& handler, CWnd* window, UINT message, UINT flags, LPARAM packed) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+            handler.OnLButtonDown(window, message, flags, packed);
+            break;
+        case WM_LBUTTONUP:
+            handler.OnLButtonUp(window, message, flags, packed);
+            break;
+        case WM_LBUTTONDBLCLK:
+            handler.OnLButtonDblClk(window, message, flags, packed);
+            break;
+        case WM_RBUTTONDOWN:
+            handler.OnRButtonDown(window, message, flags, packed);
+            break;
+        case WM_MOUSEMOVE:
+            handler.OnMouseMove(window, message, flags, packed);
+            break;
+        case WM_MOUSEWHEEL:
+            handler.OnMouseWheel(window, message, flags, packed);
+            break;
+        default:
+            break;
+    }
+}
+
+void Control::Connect(Device* device) {
     m_device = device;
-    m_origin = origin;
     m_watched.clear();
     if (device) {
         Watch(m_watched);
@@ -41,32 +65,11 @@ bool Control::TakeChange(CRect& part) {
     return changed;
 }
 
-void Control::Notify(CWnd* window, UINT message, UINT flags, LPARAM packed) {
-    switch (message) {
-        case WM_LBUTTONDOWN:
-            OnLButtonDown(window, message, flags, packed);
-            break;
-        case WM_LBUTTONUP:
-            OnLButtonUp(window, message, flags, packed);
-            break;
-        case WM_LBUTTONDBLCLK:
-            OnLButtonDblClk(window, message, flags, packed);
-            break;
-        case WM_RBUTTONDOWN:
-            OnRButtonDown(window, message, flags, packed);
-            break;
-        case WM_MOUSEMOVE:
-            OnMouseMove(window, message, flags, packed);
-            break;
-        case WM_MOUSEWHEEL:
-            OnMouseWheel(window, message, flags, packed);
-            break;
-        case WM_MOUSELEAVE:
-            Leave();
-            break;
-        default:
-            break;
-    }
+void Control::Hear(CWnd* window, UINT message, UINT flags, LPARAM packed) {
+    if (message == WM_MOUSELEAVE)
+        Leave();
+    else
+        Notify(*this, window, message, flags, packed);
 }
 
 CString Control::Binding() {
@@ -144,7 +147,7 @@ void ChartControl::Draw(Gdiplus::Graphics* g) {
 }
 
 void ChartControl::RelayEvent(Lumo::CUICanvas* canvas, UINT message, UINT wParam, long lParam) {
-    Notify(canvas, message, wParam, lParam);
+    Hear(canvas, message, wParam, lParam);
 }
 
 ButtonControl::ButtonControl(Lumo::DrawShape kind) : CUIObjectButtonRectRound(RectF(), kind) {
@@ -153,8 +156,8 @@ ButtonControl::ButtonControl(Lumo::DrawShape kind) : CUIObjectButtonRectRound(Re
     Init(kind, none);
 }
 
-void ButtonControl::Connect(Device* device, Gdiplus::PointF origin) {
-    Control::Connect(device, origin);
+void ButtonControl::Connect(Device* device) {
+    Control::Connect(device);
     if (device)
         m_drawnState = {GetButtonState(), GetChecked(), m_bDrawNormal,  m_bDrawDown,
                         m_bDrawFocus,     GetOver(),    m_bDrawDisabled};
@@ -170,7 +173,7 @@ void ButtonControl::Draw(Gdiplus::Graphics* g) {
 }
 
 void ButtonControl::RelayEvent(Lumo::CUICanvas* canvas, UINT message, UINT wParam, long lParam) {
-    Notify(canvas, message, wParam, lParam);
+    Hear(canvas, message, wParam, lParam);
 }
 
 void ButtonControl::ChangeState(DWORD state) {

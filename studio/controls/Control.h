@@ -16,18 +16,22 @@
 
 namespace Studio {
 
+/// Turns a mouse message into the notification of a handler; other messages are left out.
+void Notify(Lumo::CUINotifyHandler& handler, CWnd* window, UINT message, UINT flags, LPARAM packed);
+
 /// A control's link to the device, its picture and its mouse.
 class Control : public Lumo::CUINotifyHandler {
 public:
-    /// Run mode gives the device (not owned) and takes it away (null). `origin` is the corner of the group
-    /// that holds the control, (0, 0) outside of groups.
-    virtual void Connect(Device* device, Gdiplus::PointF origin);
+    /// Run mode gives the device (not owned) and takes it away (null).
+    virtual void Connect(Device* device);
+    /// The corner of the group that holds the control, (0, 0) outside of groups.
+    void SetOrigin(const Gdiplus::PointF& origin) { m_origin = origin; }
     /// Whether the control has to be repainted since the last call; run mode asks after every tick and event.
     /// A part is enough when `part` (pixels from the control's corner) is not empty afterwards.
     virtual bool TakeChange(CRect& part);
 
-    /// Turns a relayed message into notifications.
-    void Notify(CWnd* window, UINT message, UINT flags, LPARAM packed);
+    /// A message of run mode that the object was given.
+    void Hear(CWnd* window, UINT message, UINT flags, LPARAM packed);
     /// The pointer has left the control.
     virtual void Leave() {}
 
@@ -109,7 +113,7 @@ public:
     /// The whole rectangle.
     int HitTest(Gdiplus::RectF& rect) override { return CUIObject::HitTest(rect); }
     /// The button's state, which is archived, is after run mode what it was before.
-    void Connect(Device* device, Gdiplus::PointF origin) override;
+    void Connect(Device* device) override;
     void Draw(Gdiplus::Graphics* g) override;
     void DrawNormal(Gdiplus::Graphics* g) override { DrawPicture(*g); }
     void DrawDown(Gdiplus::Graphics* g) override { DrawPicture(*g); }

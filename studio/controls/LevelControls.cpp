@@ -31,9 +31,9 @@ CString Numbered(LPCWSTR format, int number) {
 
 }  // namespace
 
-void LevelChart::Connect(Device* device, PointF origin) {
+void LevelChart::Connect(Device* device) {
     m_arrangedFor = CSize(0, 0);
-    ChartControl::Connect(device, origin);
+    ChartControl::Connect(device);
 }
 
 // Places the meters of the binding; keeps them as long as size and binding stay.

@@ -11,7 +11,7 @@ public:
     LevelChart() : ChartControl(Lumo::DS_CHARTLEVEL) {}
 
     LPCWSTR DefaultBinding() const override { return L"in"; }
-    void Connect(Device* device, Gdiplus::PointF origin) override;
+    void Connect(Device* device) override;
     /// Levels move all the time: only the pixels that changed are repainted.
     bool TakeChange(CRect& part) override;
     void Draw(Gdiplus::Graphics* g) override;

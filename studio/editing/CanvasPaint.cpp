@@ -39,6 +39,10 @@ void PaintGrid(PageBitmap& picture, const CRect& part, int step) {
 }  // namespace
 
 void StudioCanvas::OnPaint() {
+    if (m_operator) {
+        m_operator->PaintPage(*this);
+        return;
+    }
     CPaintDC dc(this);
     const CRect part = dc.m_ps.rcPaint;
     if (part.IsRectEmpty())

@@ -45,6 +45,7 @@ BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
     ON_WM_RBUTTONUP()
     ON_WM_CAPTURECHANGED()
     ON_WM_MOUSELEAVE()
+    ON_WM_MOUSEWHEEL()
     ON_WM_SETCURSOR()
     ON_WM_CTLCOLOR()
     ON_MESSAGE(kPictureRequested, &StudioCanvas::OnPictureRequested)
@@ -311,9 +312,21 @@ void StudioCanvas::TrackPointer(CPoint at) {
 void StudioCanvas::OnMouseLeave() {
     m_trackingLeave = false;
     m_listener.OnCanvasPointer(*this, nullptr);
+    if (m_operator)
+        m_operator->PointerLeft(*this);
+}
+
+BOOL StudioCanvas::OnMouseWheel(UINT flags, short turn, CPoint screen) {
+    if (!m_operator)
+        return CUICanvas::OnMouseWheel(flags, turn, screen);
+    ScreenToClient(&screen);
+    m_operator->Wheel(*this, flags, turn, screen);
+    return TRUE;
 }
 
 void StudioCanvas::OnRButtonDown(UINT flags, CPoint point) {
+    if (m_operator)
+        return;
     EndTextEdit();
     SetFocus();
     m_swallowRightUp = m_gesture != nullptr;
@@ -336,7 +349,7 @@ void StudioCanvas::SelectForMenu(CPoint at) {
 }
 
 void StudioCanvas::OnRButtonUp(UINT, CPoint point) {
-    if (std::exchange(m_swallowRightUp, false))
+    if (std::exchange(m_swallowRightUp, false) || m_operator)
         return;
     ClientToScreen(&point);
     m_listener.OnCanvasMenu(*this, point);
@@ -345,6 +358,8 @@ void StudioCanvas::OnRButtonUp(UINT, CPoint point) {
 void StudioCanvas::OnCaptureChanged(CWnd* window) {
     if (window != this && m_gesture && !m_gesture->SpansPresses())
         CancelGesture();
+    if (window != this && m_operator)
+        m_operator->PointerLeft(*this);
 }
 
 BOOL StudioCanvas::OnSetCursor(CWnd* window, UINT hit, UINT message) {
@@ -353,6 +368,10 @@ BOOL StudioCanvas::OnSetCursor(CWnd* window, UINT hit, UINT message) {
     CPoint at;
     ::GetCursorPos(&at);
     ScreenToClient(&at);
+    if (m_operator) {
+        ::SetCursor(m_operator->CursorAt(*this, at));
+        return TRUE;
+    }
     ClientToDoc(at);
     const auto* tool = dynamic_cast<PageTool*>(CUIToolBase::FindTool(CUIToolBase::run_drawshape));
     ::SetCursor(tool ? tool->CursorAt(*this, at) : ::LoadCursor(nullptr, IDC_ARROW));

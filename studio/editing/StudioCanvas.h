@@ -30,6 +30,20 @@ public:
     virtual void OnCanvasPicture(StudioCanvas&, const Gdiplus::RectF&) {}
 };
 
+/// Operates a page instead of editing it.
+class PageOperator {
+public:
+    virtual ~PageOperator() = default;
+    /// Paints the page's window; has to validate it.
+    virtual void PaintPage(StudioCanvas& page) = 0;
+    /// The wheel was turned by `turn` over a client point.
+    virtual void Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) = 0;
+    /// The pointer has left the window, or the mouse was taken away.
+    virtual void PointerLeft(StudioCanvas& page) = 0;
+    /// The cursor over a client point.
+    virtual HCURSOR CursorAt(StudioCanvas& page, CPoint at) = 0;
+};
+
 /// A page window. Made hidden by the document, shown by the frame.
 class StudioCanvas : public Lumo::CUICanvas {
 public:
@@ -47,6 +61,9 @@ public:
     Lumo::CUIObjectDeque* Objects() const {
         return m_pDocument->GetCanvasObjectList(const_cast<StudioCanvas*>(this));
     }
+
+    /// While there is an operator (not owned; null to end) it paints the page, and the mouse edits nothing.
+    void SetOperator(PageOperator* pageOperator) { m_operator = pageOperator; }
 
     /// Starts a gesture with the mouse captured; one that is going on is finished first.
     void Begin(std::unique_ptr<Gesture> gesture);
@@ -101,6 +118,7 @@ protected:
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg void OnMouseLeave();
+    afx_msg BOOL OnMouseWheel(UINT flags, short turn, CPoint screen);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     afx_msg LRESULT OnParentNotify(WPARAM event, LPARAM window);
@@ -121,6 +139,7 @@ private:
     Gdiplus::RectF m_picturePlace;
     bool m_swallowRightUp = false;
     bool m_trackingLeave = false;
+    PageOperator* m_operator = nullptr;
     PageBitmap m_picture;
     bool m_band = false;
     CPoint m_bandFrom;

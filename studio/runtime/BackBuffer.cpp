@@ -1,0 +1,67 @@
+#include "studio/runtime/BackBuffer.h"
+
+#include "core/Geometry.h"
+#include "core/PaintScope.h"
+#include "studio/controls/Picture.h"
+
+namespace Studio {
+
+BackBuffer::~BackBuffer() {
+    Drop();
+}
+
+void BackBuffer::Drop() {
+    if (m_dc) {
+        ::SelectObject(m_dc, m_before);
+        ::DeleteDC(m_dc);
+        ::DeleteObject(m_bitmap);
+    }
+    m_dc = nullptr;
+    m_bitmap = nullptr;
+}
+
+bool BackBuffer::Fit(CSize size) {
+    if (m_dc && size == m_size)
+        return false;
+    Drop();
+    m_size = size;
+    if (size.cx <= 0 || size.cy <= 0)
+        return false;
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* pixels = nullptr;
+    m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    if (!m_bitmap)
+        AfxThrowMemoryException();
+    m_dc = ::CreateCompatibleDC(nullptr);
+    m_before = ::SelectObject(m_dc, m_bitmap);
+    return true;
+}
+
+void BackBuffer::Paint(const CRect& part, const std::function<void(Gdiplus::Graphics&)>& draw) {
+    const CRect area = part & CRect(CPoint(0, 0), m_size);
+    if (!m_dc || area.IsRectEmpty())
+        return;
+    const int state = ::SaveDC(m_dc);
+    ::IntersectClipRect(m_dc, area.left, area.top, area.right, area.bottom);
+    ::PatBlt(m_dc, area.left, area.top, area.Width(), area.Height(), BLACKNESS);
+    {
+        const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(area));
+        const DirectPaint direct(m_dc);
+        Gdiplus::Graphics g(m_dc);
+        g.SetClip(Lumo::RectGdiFromAtl(area));
+        draw(g);
+    }
+    ::RestoreDC(m_dc, state);
+}
+
+void BackBuffer::Show(HDC dc, const CRect& part) const {
+    if (m_dc)
+        ::BitBlt(dc, part.left, part.top, part.Width(), part.Height(), m_dc, part.left, part.top, SRCCOPY);
+}
+
+}  // namespace Studio

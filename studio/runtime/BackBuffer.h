@@ -1,0 +1,37 @@
+// A page's pixels while it runs.
+#pragma once
+
+#include "core/Platform.h"
+
+#include <functional>
+
+namespace Studio {
+
+/// Keeps the whole picture of a window, so that a change costs its own pixels only and an uncovered part
+/// costs a copy.
+class BackBuffer {
+public:
+    BackBuffer() = default;
+    ~BackBuffer();
+    BackBuffer(const BackBuffer&) = delete;
+    BackBuffer& operator=(const BackBuffer&) = delete;
+
+    /// Makes it fit; true when it is new and has to be painted whole.
+    bool Fit(CSize size);
+    /// Paints one rectangle over a black ground; `draw` draws in client coordinates, clipped to it.
+    void Paint(const CRect& part, const std::function<void(Gdiplus::Graphics&)>& draw);
+    /// Copies a rectangle to a device context of the window.
+    void Show(HDC dc, const CRect& part) const;
+
+    CSize Size() const { return m_size; }
+
+private:
+    void Drop();
+
+    CSize m_size;
+    HDC m_dc = nullptr;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_before = nullptr;
+};
+
+}  // namespace Studio

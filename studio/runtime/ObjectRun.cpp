@@ -1,0 +1,472 @@
+#include "studio/runtime/ObjectRun.h"
+
+#include "canvas/UICanvas.h"
+#include "core/Geometry.h"
+#include "core/GraphicsStateScope.h"
+#include "core/PaintScope.h"
+#include "behaviour/UIObjectTextEdit.h"
+#include "studio/controls/Control.h"
+#include "studio/editing/GroupObject.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace Studio {
+
+using Gdiplus::PointF;
+using Gdiplus::RectF;
+using Lumo::CUIObject;
+
+namespace {
+
+const RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
+constexpr Behaviour kMouseBehaviours[] = {Behaviour::kButton, Behaviour::kPage, Behaviour::kInput,
+                                          Behaviour::kSlider};
+constexpr DWORD kPressedVeil = 0x30FFFFFF;
+constexpr DWORD kSliderFill = 0x704DA3FF;
+constexpr DWORD kSliderThumb = 0xFFF2F5FA;
+constexpr float kThumb = 4.0f;
+
+enum Direction { kUp, kRight, kDown, kLeft };
+
+// The part of a rectangle that lies between two shares of the way in a direction.
+RectF Slice(const RectF& bounds, int direction, float from, float to) {
+    switch (direction) {
+        case kRight:
+            return {bounds.X + bounds.Width * from, bounds.Y, bounds.Width * (to - from), bounds.Height};
+        case kDown:
+            return {bounds.X, bounds.Y + bounds.Height * from, bounds.Width, bounds.Height * (to - from)};
+        case kLeft:
+            return {bounds.X + bounds.Width * (1 - to), bounds.Y, bounds.Width * (to - from), bounds.Height};
+        default:
+            return {bounds.X, bounds.Y + bounds.Height * (1 - to), bounds.Width, bounds.Height * (to - from)};
+    }
+}
+
+// The line across a rectangle at a share of the way.
+RectF Across(const RectF& bounds, int direction, float at, float thickness) {
+    const bool vertical = direction != kRight && direction != kLeft;
+    const float half =
+        std::min(0.5f, thickness / std::max(1.0f, vertical ? bounds.Height : bounds.Width) / 2);
+    const float middle = std::clamp(at, half, 1.0f - half);
+    return Slice(bounds, direction, middle - half, middle + half);
+}
+
+void FillArea(Gdiplus::Graphics& g, DWORD color, const RectF& area) {
+    const Gdiplus::SolidBrush brush{Gdiplus::Color(color)};
+    g.FillRectangle(&brush, area);
+}
+
+bool IsSame(const RectF& a, const RectF& b) {
+    return a.X == b.X && a.Y == b.Y && a.Width == b.Width && a.Height == b.Height;
+}
+
+}  // namespace
+
+bool ObjectRun::Concerns(const CUIObject& object) {
+    const ObjectExtras* extras = FindExtras(object);
+    return (extras && extras->HasBehaviours()) || dynamic_cast<const Control*>(&object);
+}
+
+ObjectRun::ObjectRun(CUIObject& object, Device& device, RunHost& host, std::vector<CUIObject*> groups)
+    : m_object(object),
+      m_holder(dynamic_cast<ExtrasHolder&>(object)),
+      m_extras(m_holder.extras ? *m_holder.extras : ObjectExtras()),
+      m_device(device),
+      m_host(host),
+      m_control(dynamic_cast<Control*>(&object)),
+      m_groups(std::move(groups)),
+      m_values(m_extras, device),
+      m_coordinate(object.GetCoordinate()),
+      m_geometry(CaptureGeometry(object)),
+      m_rest(Lumo::Normalised(object.GetPosition())),
+      m_placed(m_rest) {
+    for (int value : m_values.of) {
+        if (value >= 0)
+            m_watched.push_back(value);
+    }
+    m_seen.assign(m_watched.size(), 0);
+    if (m_extras.IsOn(Behaviour::kTrend))
+        m_trend = std::make_unique<TrendGraph>(m_extras, device);
+    if (m_extras.IsOn(Behaviour::kFill) && m_extras.prefs.m_fill.m_nMode == 1)
+        m_image = std::make_unique<Gdiplus::Image>(m_extras.prefs.m_fill.m_strImagePath);
+    if (m_control)
+        m_control->Connect(&device);
+    m_holder.live = this;
+}
+
+ObjectRun::~ObjectRun() {
+    m_holder.live = nullptr;
+    if (m_control)
+        m_control->Connect(nullptr);
+    RestoreGeometry(m_object, m_geometry);
+    m_object.GetCoordinate() = m_coordinate;
+}
+
+PointF ObjectRun::Origin() const {
+    PointF origin;
+    for (CUIObject* group : m_groups) {
+        const RectF bounds = group->GetPosition();
+        origin = origin + PointF(bounds.X, bounds.Y);
+    }
+    return origin;
+}
+
+bool ObjectRun::IsDue(double time) {
+    bool due = !m_started;
+    for (size_t i = 0; i < m_watched.size(); ++i) {
+        const unsigned generation = m_device.Generation(m_watched[i]);
+        due |= generation != m_seen[i];
+        m_seen[i] = generation;
+    }
+    if (m_extras.IsOn(Behaviour::kBlink)) {
+        const auto phase = static_cast<long long>(time / BlinkPeriod(m_extras.prefs.m_blink));
+        due |= phase != m_blinkPhase;
+        m_blinkPhase = phase;
+    }
+    return due;
+}
+
+void ObjectRun::Update(double time, std::vector<RectF>& dirty) {
+    if (IsDue(time)) {
+        const Look look = Evaluate(m_extras, m_values, m_device, m_rest, time);
+        if (look != m_look || !m_started) {
+            if (m_started)
+                dirty.push_back(PaintedBounds());
+            Apply(look);
+            dirty.push_back(PaintedBounds());
+        }
+        m_started = true;
+    }
+    if (m_trend && m_trend->Sample(time))
+        dirty.push_back(PaintedBounds());
+    if (!m_control)
+        return;
+    const PointF origin = Origin();
+    m_control->SetOrigin(origin);
+    CRect part;
+    if (m_control->TakeChange(part)) {
+        RectF area = part.IsRectEmpty() ? PaintedBounds() : Lumo::RectGdiFromAtl(part);
+        if (!part.IsRectEmpty())
+            area.Offset(m_object.GetPosition().X + origin.X, m_object.GetPosition().Y + origin.Y);
+        dirty.push_back(area);
+    }
+}
+
+void ObjectRun::Apply(const Look& look) {
+    m_look = look;
+    if (!m_extras.HasBehaviours())
+        return;
+    RectF bounds(look.x, look.y, look.width, look.height);
+    ApplyColors(look);
+    if (IsSame(bounds, m_placed))
+        return;
+    m_placed = bounds;
+    if (IsSame(bounds, m_rest))
+        RestoreGeometry(m_object, m_geometry);
+    else
+        PlaceFitted(m_object, m_geometry, bounds);
+}
+
+// The position belongs to the coordinate record, too: it is put back behind the colours.
+void ObjectRun::ApplyColors(const Look& look) {
+    auto& coordinate = m_object.GetCoordinate();
+    coordinate.SetShapeFormatText(m_coordinate.GetShapeFormatText());
+    coordinate.SetShapeFormatFill(m_coordinate.GetShapeFormatFill());
+    coordinate.SetShapeFormatLineColor(m_coordinate.GetShapeFormatLineColor());
+    if (look.fill) {
+        m_object.SetFillColor(look.fill);
+        m_object.SetFillAlpha(static_cast<float>(look.fill >> 24));
+        if (m_object.GetFillShapeMode() != 1)
+            m_object.SetFillShapeMode(2);
+    }
+    if (look.line)
+        m_object.SetLineColor(look.line);
+    if (look.text)
+        m_object.SetTextColor(look.text);
+    if (look.hideFill || look.filled >= 0.0f)
+        m_object.SetFillShapeMode(0);
+    if (look.hideLine)
+        m_object.SetLineShapeMode(0);
+    auto& text = coordinate.Format<Lumo::CUIShapeFormatText>();
+    if (look.hasCaption) {
+        text.m_strText = look.caption;
+        text.m_bEnabled = 1;
+    }
+    if (look.hideText)
+        text.m_bEnabled = 0;
+}
+
+RectF ObjectRun::PaintedBounds() {
+    RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    const PointF centre = Lumo::CentreOf(bounds) + PointF(m_look.centreX, m_look.centreY);
+    bounds = Lumo::Inflated(bounds, PaintMargin(m_object));
+    if (m_look.angle != 0.0f)
+        bounds = Lumo::Inflated(Lumo::RotatedBounds(m_look.angle, bounds, centre), 1.0f);
+    bounds.Offset(Origin());
+    return bounds;
+}
+
+bool ObjectRun::Answers(PointF point) {
+    if (m_look.hideAll || !(m_control || TakesMouse()))
+        return false;
+    RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    bounds.Offset(Origin());
+    // A thin line, too, can be hit.
+    constexpr float kLeast = 8.0f;
+    const float grow = std::max(0.0f, (kLeast - std::min(bounds.Width, bounds.Height)) / 2);
+    return Lumo::ContainsPoint(Lumo::Inflated(bounds, grow), point);
+}
+
+void ObjectRun::Draw(Gdiplus::Graphics& g, const std::function<void()>& own) {
+    if (m_look.hideAll)
+        return;
+    if (m_look.angle == 0.0f) {
+        DrawUpright(g, own);
+        return;
+    }
+    const RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    const PointF centre = Lumo::CentreOf(bounds) + PointF(m_look.centreX, m_look.centreY);
+    Lumo::GraphicsStateScope state(g);
+    g.TranslateTransform(centre.X, centre.Y);
+    g.RotateTransform(m_look.angle);
+    g.TranslateTransform(-centre.X, -centre.Y);
+    // What is drawn asks the scope for places where it does not stand; and pictures cannot be copied as they
+    // are.
+    const Lumo::PaintScope all(kEverywhere);
+    const DirectPaint none(nullptr);
+    DrawUpright(g, own);
+}
+
+void ObjectRun::DrawUpright(Gdiplus::Graphics& g, const std::function<void()>& own) {
+    const RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    const bool shape = m_look.filled >= 0.0f || m_look.fill || m_look.slider >= 0.0f;
+    if (!shape && !m_trend && !m_pressed) {
+        own();
+        return;
+    }
+    if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, PaintMargin(m_object))))
+        return;
+    if (m_look.filled >= 0.0f && !m_look.hideFill)
+        DrawFilled(g);
+    // The library draws a caption below the fill: opaque colours would hide it.
+    auto& text = m_object.GetCoordinate().Format<Lumo::CUIShapeFormatText>();
+    const auto enabled = text.m_bEnabled;
+    const bool captionAbove = !dynamic_cast<Lumo::CUIObjectTextEdit*>(&m_object) && !m_control;
+    if (captionAbove)
+        text.m_bEnabled = 0;
+    own();
+    text.m_bEnabled = enabled;
+    if (m_trend)
+        m_trend->Draw(g, Lumo::Inflated(bounds, -m_object.GetLineWidth() / 2 - 1.0f));
+    if (m_look.slider >= 0.0f)
+        DrawSlider(g);
+    if (captionAbove)
+        m_object.CUIObject::Draw(&g);
+    if (m_pressed && IsUsed(Behaviour::kButton))
+        FillArea(g, kPressedVeil, bounds);
+}
+
+void ObjectRun::DrawFilled(Gdiplus::Graphics& g) {
+    const CPrefFill& fill = m_extras.prefs.m_fill;
+    const RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    Lumo::GraphicsStateScope state(g);
+    if (m_object.GetDrawShape() == Lumo::DS_ELLIPSE) {
+        Gdiplus::GraphicsPath path;
+        path.AddEllipse(bounds);
+        g.SetClip(&path, Gdiplus::CombineModeIntersect);
+    }
+    FillArea(g, fill.m_dwEmptyColor, bounds);
+    const RectF filled = Slice(bounds, fill.m_nDirection, 0.0f, m_look.filled);
+    if (m_image && m_image->GetLastStatus() == Gdiplus::Ok) {
+        g.SetClip(filled, Gdiplus::CombineModeIntersect);
+        g.DrawImage(m_image.get(), bounds);
+        return;
+    }
+    FillArea(g, fill.m_dwFilledColor, filled);
+    if (m_look.filled > 0.0f && m_look.filled < 1.0f)
+        FillArea(g, fill.m_dwBorderColor, Across(bounds, fill.m_nDirection, m_look.filled, 1.0f));
+}
+
+void ObjectRun::DrawSlider(Gdiplus::Graphics& g) {
+    const int direction = m_extras.prefs.m_slider.m_nDirection;
+    const RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    if (m_look.filled < 0.0f)
+        FillArea(g, kSliderFill, Slice(bounds, direction, 0.0f, m_look.slider));
+    FillArea(g, kSliderThumb, Across(bounds, direction, m_look.slider, kThumb));
+}
+
+bool ObjectRun::IsUsed(Behaviour behaviour) const {
+    return m_extras.IsOn(behaviour);
+}
+
+bool ObjectRun::TakesMouse() const {
+    return std::any_of(std::begin(kMouseBehaviours), std::end(kMouseBehaviours),
+                       [this](Behaviour behaviour) { return IsUsed(behaviour); });
+}
+
+bool ObjectRun::Relay(Lumo::CUICanvas* canvas, UINT message, UINT wParam, LPARAM lParam) {
+    if (!TakesMouse() || (!m_pressed && !ConditionHolds(m_extras, m_values, m_device)))
+        return false;
+    if (message == WM_MOUSELEAVE) {
+        if (std::exchange(m_pressed, false))
+            ReleaseButton();
+        return true;
+    }
+    // A second press comes as a double click.
+    Notify(*this, canvas, message == WM_LBUTTONDBLCLK ? WM_LBUTTONDOWN : message, wParam, lParam);
+    return true;
+}
+
+void ObjectRun::OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) {
+    CUINotifyHandler::OnLButtonDown(window, message, flags, packed);
+    m_pressed = true;
+    m_started = false;
+    m_partAtPress = std::max(0.0f, m_look.slider);
+    if (IsUsed(Behaviour::kButton))
+        PressButton();
+    if (m_extras.prefs.m_slider.m_nMode == 0)
+        Slide(m_ptPress);
+}
+
+void ObjectRun::OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packed) {
+    CUINotifyHandler::OnLButtonUp(window, message, flags, packed);
+    if (!std::exchange(m_pressed, false))
+        return;
+    m_started = false;
+    if (IsUsed(Behaviour::kButton))
+        ReleaseButton();
+    const CPoint at(static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed)));
+    if (!Answers(Lumo::PointGdiFromAtl(at)))
+        return;
+    if (IsUsed(Behaviour::kInput) && !IsUsed(Behaviour::kSlider))
+        Input();
+    // The page comes last: this object is hidden afterwards.
+    if (IsUsed(Behaviour::kPage))
+        SwitchPage();
+}
+
+void ObjectRun::OnMouseMove(CWnd* window, UINT message, UINT flags, LPARAM packed) {
+    if (m_pressed)
+        CUINotifyHandler::OnMouseMove(window, message, flags, packed);
+}
+
+void ObjectRun::OnDrag(CWnd*, UINT, const CPoint& point) {
+    Slide(point);
+}
+
+double ObjectRun::SliderPart(CPoint at) const {
+    const CPoint signedAt(static_cast<short>(at.x), static_cast<short>(at.y));
+    RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    bounds.Offset(Origin());
+    const double across = (signedAt.x - bounds.X) / std::max(1.0f, bounds.Width);
+    const double down = (signedAt.y - bounds.Y) / std::max(1.0f, bounds.Height);
+    switch (m_extras.prefs.m_slider.m_nDirection) {
+        case kRight:
+            return across;
+        case kDown:
+            return down;
+        case kLeft:
+            return 1.0 - across;
+        default:
+            return 1.0 - down;
+    }
+}
+
+void ObjectRun::Slide(CPoint at) {
+    const int value = m_values[Behaviour::kSlider];
+    if (value < 0)
+        return;
+    const CPrefSlider& slider = m_extras.prefs.m_slider;
+    double part = SliderPart(at);
+    if (slider.m_nMode == 1)
+        part = m_partAtPress + part - SliderPart(m_ptPress);
+    part = std::clamp(part, 0.0, 1.0);
+    const double to = slider.m_nLowValue + (double{1} * slider.m_nHighValue - slider.m_nLowValue) * part;
+    m_device.Set(value, std::round(to * 10.0) / 10.0);
+}
+
+void ObjectRun::PressButton() {
+    const CPrefButton& button = m_extras.prefs.m_button;
+    if (button.m_bConfirm) {
+        // The question takes the mouse away: the release never comes.
+        const bool yes = m_host.Confirm(button.m_strConfirmText);
+        m_pressed = false;
+        if (!yes)
+            return;
+    }
+    const int value = m_values[Behaviour::kButton];
+    if (value >= 0) {
+        switch (static_cast<ButtonAction>(button.m_nAction)) {
+            case ButtonAction::kToggle:
+                m_device.Set(value, m_device.Get(value) != 0.0 ? 0.0 : 1.0);
+                break;
+            case ButtonAction::kMomentary:
+                m_device.Set(value, 1.0);
+                break;
+            case ButtonAction::kSetValue:
+            case ButtonAction::kRadioValue:
+                m_device.Set(value, button.m_nValue);
+                break;
+            case ButtonAction::kAddValue:
+                m_device.Set(value, m_device.Get(value) + button.m_nValue);
+                break;
+            default:
+                break;
+        }
+    }
+    RunCommand(button, button.m_strPressCommand, m_device);
+    if (button.m_bConfirm)
+        ReleaseButton();
+}
+
+void ObjectRun::ReleaseButton() {
+    if (!IsUsed(Behaviour::kButton))
+        return;
+    const CPrefButton& button = m_extras.prefs.m_button;
+    const int value = m_values[Behaviour::kButton];
+    if (value >= 0 && static_cast<ButtonAction>(button.m_nAction) == ButtonAction::kMomentary)
+        m_device.Set(value, 0.0);
+    RunCommand(button, button.m_strReleaseCommand, m_device);
+}
+
+void ObjectRun::SwitchPage() {
+    const CPrefPage& page = m_extras.prefs.m_page;
+    switch (page.m_nMode) {
+        case 1:
+            m_host.GoToPage(page.m_nPage);
+            break;
+        case 2:
+            m_host.StepPage(1);
+            break;
+        case 3:
+            m_host.StepPage(-1);
+            break;
+        default:
+            m_host.GoToPage(page.m_strPageName);
+            break;
+    }
+}
+
+void ObjectRun::Input() {
+    const int value = m_values[Behaviour::kInput];
+    if (value < 0)
+        return;
+    if (m_extras.prefs.m_input.m_nType == 1) {
+        m_device.Set(value, m_device.Get(value) != 0.0 ? 0.0 : 1.0);
+        return;
+    }
+    RectF bounds = Lumo::Normalised(m_object.GetPosition());
+    bounds.Offset(Origin());
+    m_host.EnterNumber(value, bounds);
+}
+
+void ObjectRun::OnMouseWheel(CWnd*, UINT, UINT flags, LPARAM) {
+    const int value = m_values[Behaviour::kInput];
+    const int turn = static_cast<short>(HIWORD(flags)) / WHEEL_DELTA;
+    if (value >= 0 && m_extras.prefs.m_input.m_nType == 0)
+        m_device.Set(value, m_device.Get(value) + turn * m_extras.prefs.m_input.m_nStep / 10.0);
+}
+
+}  // namespace Studio
