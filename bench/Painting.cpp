@@ -122,14 +122,18 @@ void MeasureFullPaint(std::vector<Line>& lines) {
 }
 
 // Drags the topmost object back and forth by one step, each with its paint.
+constexpr int kUnderPointer = 10;
+
 class Drag {
 public:
+    // Ten objects where the pointer is; the others lie above it.
     explicit Drag(int objects) : m_page(1280, 800, true) {
-        for (int i = 0; i < objects; ++i)
-            m_page
-                .Add(DS_RECTANGLE, static_cast<float>(i % 125) * 10.0f, static_cast<float>(i / 125) * 9.0f,
-                     8.0f, 7.0f)
-                ->SetText(CString(L"1"));
+        for (int i = 0; i < objects; ++i) {
+            const float x = static_cast<float>(i < kUnderPointer ? 596 + i % 4 * 10 : i % 125 * 10);
+            const float y = i < kUnderPointer ? 396.0f + static_cast<float>(i / 4) * 9.0f
+                                              : static_cast<float>(i / 125) * 4.5f;
+            m_page.Add(DS_RECTANGLE, x, y, 8.0f, 4.0f)->SetText(CString(L"1"));
+        }
         CUIObject* top = m_page.Add(DS_RECTANGLE, 600, 400, 20, 20);
         m_page.canvas->Select(top, 0);
         m_page.canvas->UpdateWindow();

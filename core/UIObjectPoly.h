@@ -116,6 +116,10 @@ protected:
     int m_nBoxHeight = 0;
     std::deque<Gdiplus::PointF> m_points;
     std::deque<Gdiplus::PointF> m_normalised;
+
+private:
+    int HandleAt(const Gdiplus::PointF& point, int body);
+    bool HasOwnHandles() const;
 };
 
 /// A line of two points, drawn with caps and three times the line width.

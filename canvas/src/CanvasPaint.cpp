@@ -1,5 +1,6 @@
 // Painting a page off-screen, and asking for it.
 #include "canvas/UITool.h"
+#include "canvas/src/PagePixels.h"
 #include "canvas/src/RepaintBatch.h"
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
@@ -14,10 +15,14 @@ constexpr Gdiplus::ARGB kGround = 0xFF000000;
 constexpr int kTrackerMargin = 4;  // room for the handles around a selected object
 constexpr int kPlainMargin = 1;
 
-Gdiplus::RectF UpdateRect(const CPaintDC& dc) {
-    CRect update = dc.m_ps.rcPaint;
-    update.InflateRect(1, 1);
-    return RectGdiFromAtl(update);
+// What shows of the page: filling the rest would be clipped away, pixel by pixel.
+Gdiplus::Rect VisiblePart(Gdiplus::Graphics& g, int cx, int cy) {
+    Gdiplus::Rect visible;
+    if (g.GetVisibleClipBounds(&visible) != Gdiplus::Ok)
+        return {0, 0, cx, cy};
+    visible.Inflate(1, 1);
+    visible.Intersect({0, 0, cx, cy});
+    return visible;
 }
 
 }  // namespace
@@ -30,24 +35,28 @@ void CUICanvas::OnPaint() {
     CPaintDC dc(this);
     CRect client;
     GetClientRect(&client);
-    if (client.IsRectEmpty())
+    CRect update;
+    if (!update.IntersectRect(&client, &dc.m_ps.rcPaint))
         return;
     Gdiplus::Graphics window(dc.m_hDC);
-    Gdiplus::Bitmap bitmap(client.Width(), client.Height(), PixelFormat32bppPARGB);
+    PagePixels pixels(client.Size());
     {
-        Gdiplus::Graphics page(&bitmap);
-        const Gdiplus::RectF update = UpdateRect(dc);
-        const PaintScope scope(update);
-        page.SetClip(update);
+        Gdiplus::Graphics page(pixels.Whole());
+        const Gdiplus::RectF painted = RectGdiFromAtl(update);
+        const PaintScope scope(Inflated(painted, 1.0f));
+        page.SetClip(painted);
         Draw(&page, client.Width(), client.Height());
     }
-    Gdiplus::CachedBitmap cached(&bitmap, &window);
-    window.DrawCachedBitmap(&cached, 0, 0);
+    // Only what was painted goes to the window.
+    Gdiplus::Bitmap part(update.Width(), update.Height(), pixels.Stride(), PixelFormat32bppPARGB,
+                         pixels.At(update.TopLeft()));
+    Gdiplus::CachedBitmap cached(&part, &window);
+    window.DrawCachedBitmap(&cached, update.left, update.top);
 }
 
 void CUICanvas::Draw(Gdiplus::Graphics* g, int cx, int cy) {
     const Gdiplus::SolidBrush ground{Gdiplus::Color(kGround)};
-    g->FillRectangle(&ground, 0, 0, cx, cy);
+    g->FillRectangle(&ground, VisiblePart(*g, cx, cy));
     if (m_pDocument)
         m_pDocument->DrawCanvas(g, this);
     for (CUIObject* object : m_selection) {

@@ -4,6 +4,7 @@
 #include "canvas/UICanvas.h"
 #include "canvas/UITool.h"
 #include "core/UIObject.h"
+#include "core/src/SystemCursor.h"
 
 namespace Lumo {
 
@@ -12,7 +13,7 @@ CUISelectTool& SelectTool();
 
 /// Shows a system cursor (IDC_ARROW and the like).
 inline void ShowCursor(LPCTSTR systemCursor) {
-    ::SetCursor(::LoadCursor(nullptr, systemCursor));
+    ::SetCursor(SystemCursor(systemCursor));
 }
 
 /// A client point in page units.

@@ -44,6 +44,17 @@ CUIObject* FindByName(const CUIObjectDeque* objects, const CString& name) {
     return nullptr;
 }
 
+// Most objects of a large page are skipped as soon as their geometry is read: that costs less than waiting
+// for it.
+constexpr size_t kAhead = 6;
+
+void Prefetch(const CUIObject* object) {
+    constexpr size_t kCacheLine = 64;
+    const char* bytes = reinterpret_cast<const char*>(object);
+    for (size_t at = 0; bytes && at < sizeof(CUIObject); at += kCacheLine)
+        __builtin_prefetch(bytes + at);
+}
+
 }  // namespace
 
 CUIObject* CUIDocument::CreateObject(DrawShape kind, CRect rect) {
@@ -155,9 +166,13 @@ void CUIDocument::DrawCanvas(Gdiplus::Graphics* g, CUICanvas* canvas) {
     const CUIObjectDeque* objects = canvas ? GetCanvasObjectList(canvas) : nullptr;
     if (!objects)
         return;
-    for (CUIObject* object : *objects)
+    for (size_t i = 0; i < objects->size(); ++i) {
+        if (i + kAhead < objects->size())
+            Prefetch((*objects)[i + kAhead]);
+        CUIObject* object = (*objects)[i];
         if (object && !object->GetRemoved())
             object->Draw(g);
+    }
 }
 
 void CUIDocument::DrawCanvas(Gdiplus::Graphics* g) {

@@ -1,6 +1,7 @@
 // Handles, hit tests and moving of the object base.
 #include "core/Geometry.h"
 #include "core/UIObject.h"
+#include "core/src/SystemCursor.h"
 #include "core/src/HandlePainter.h"
 
 namespace Lumo {
@@ -88,7 +89,7 @@ Gdiplus::RectF CUIObject::GetHandleRect(int handle) {
 
 HCURSOR CUIObject::GetHandleCursor(int handle) {
     const int place = NormalizeHandle(handle);
-    return ::LoadCursor(nullptr, IsPlaced(place) ? kHandles[place].cursor : IDC_CROSS);
+    return SystemCursor(IsPlaced(place) ? kHandles[place].cursor : IDC_CROSS);
 }
 
 int CUIObject::NormalizeHandle(const int& handle) {

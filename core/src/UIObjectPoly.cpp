@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <bit>
+#include <typeinfo>
 
 #include "canvas/UITool.h"
 #include "core/Geometry.h"
+#include "core/src/HandlePainter.h"
+#include "core/src/SystemCursor.h"
 
 namespace Lumo {
 
@@ -128,18 +131,39 @@ HCURSOR CUIObjectPoly::GetHandleCursor(int handle) {
     if (m_bRectMode != 0)
         return CUIObject::GetHandleCursor(handle);
     const bool known = handle >= 0 && handle <= m_nMaxPoints;
-    return ::LoadCursor(nullptr, known ? IDC_CROSS : IDC_ARROW);
+    return SystemCursor(known ? IDC_CROSS : IDC_ARROW);
+}
+
+// The first handle before the body at a point, or -1. A polyline counts 65537 handles; those beyond its
+// points stand nowhere and are not walked.
+int CUIObjectPoly::HandleAt(const Gdiplus::PointF& point, int body) {
+    if (m_bRectMode == 0 && HasOwnHandles()) {
+        const auto at = std::ranges::find_if(
+            m_points, [&](const Gdiplus::PointF& p) { return ContainsPoint(HandleSquare(p), point); });
+        const auto handle = at - m_points.begin();
+        return at != m_points.end() && handle < body ? static_cast<int>(handle) : -1;
+    }
+    const int places = m_bRectMode != 0 ? kRectHandles : static_cast<int>(m_points.size());
+    for (int handle = 0; handle < std::min(places, body); ++handle)
+        if (ContainsPoint(GetHandleRect(handle), point))
+            return handle;
+    return -1;
+}
+
+// Whether no derived class of a host can have put the handles elsewhere: then arithmetic finds them.
+bool CUIObjectPoly::HasOwnHandles() const {
+    const std::type_info& type = typeid(*this);
+    return type == typeid(CUIObjectPolyLine) || type == typeid(CUIObjectLine) ||
+           type == typeid(CUIObjectPoly);
 }
 
 int CUIObjectPoly::HitTest(Gdiplus::PointF& point, int selected) {
     if (selected == 0)
         return CUIObject::HitTest(point, selected);
-    // A polyline counts 65537 handles; those beyond its points stand nowhere and are not walked.
     const int body = GetHandleCount() - 1;
-    const int places = m_bRectMode != 0 ? kRectHandles : static_cast<int>(m_points.size());
-    for (int handle = 0; handle < std::min(places, body); ++handle)
-        if (ContainsPoint(GetHandleRect(handle), point))
-            return handle;
+    const int handle = HandleAt(point, body);
+    if (handle >= 0)
+        return handle;
     return body >= 0 && ContainsPoint(GetHandleRect(body), point) ? body : -1;
 }
 

@@ -123,6 +123,23 @@ Side SideOf(const Gdiplus::PointF& point, const Gdiplus::PointF& from, const Gdi
     return beside && distance < width * 0.5f - 1.0f ? Side::Inside : Side::Edge;
 }
 
+// Whether all points lie to one side of the square of `reach` about the point: no segment can come near it
+// then.
+bool AllBesides(const std::deque<Gdiplus::PointF>& points, const Gdiplus::PointF& point, float reach) {
+    const float left = point.X - reach;
+    const float right = point.X + reach;
+    const float top = point.Y - reach;
+    const float bottom = point.Y + reach;
+    unsigned common = 0xF;
+    for (const Gdiplus::PointF& p : points) {
+        common &= (p.X < left ? 1u : 0u) | (p.X > right ? 2u : 0u) | (p.Y < top ? 4u : 0u) |
+                  (p.Y > bottom ? 8u : 0u);
+        if (common == 0)
+            return false;
+    }
+    return true;
+}
+
 // The segment that follows the mouse while the figure does not have all its points yet.
 Segments WithRubber(const std::deque<Gdiplus::PointF>& points, int maxPoints, const Gdiplus::PointF& pending,
                     const Gdiplus::PointF& shift) {
@@ -140,6 +157,8 @@ int CUIObjectPoly::HitTest(Gdiplus::RectF& rect) {
     const int tolerance = TruncToInt(m_coordinate.GetLineWidth()) / 2 + 1;
     const float width = static_cast<float>(tolerance) + kHitSlack;
     const Gdiplus::PointF point(rect.X, rect.Y);
+    if (AllBesides(m_points, point, width + 1.0f))
+        return 0;
     // Each segment is a figure of its own, so arithmetic may answer for most of them; a path is only built of
     // those on whose edge the point lies.
     std::optional<Gdiplus::GraphicsPath> path;
