@@ -1,5 +1,7 @@
 #include "studio/app/Commands.h"
 
+#include "studio/editing/ObjectFactory.h"
+
 #include "studio/editing/PageTool.h"
 
 #include <vector>
@@ -59,6 +61,16 @@ constexpr Command kCommands[] = {
     {ID_TOOL_LINE, Text::kToolLine, 'L', 0},
     {ID_TOOL_POLYLINE, Text::kToolPolyline, 'P', 0},
     {ID_TOOL_TEXTBOX, Text::kToolTextBox, 'T', 0},
+    {ID_TOOL_PEQ_CHART, Text::kToolPeqChart, 0, 0},
+    {ID_TOOL_BAND_BUTTON, Text::kToolBandButton, 0, 0},
+    {ID_TOOL_DEVICE_CHART, Text::kToolDeviceChart, 0, 0},
+    {ID_TOOL_DEVICE_BUTTON, Text::kToolDeviceButton, 0, 0},
+    {ID_TOOL_LEVEL_CHART, Text::kToolLevelChart, 0, 0},
+    {ID_TOOL_LEVEL_BUTTON, Text::kToolLevelButton, 0, 0},
+    {ID_TOOL_CROSSOVER, Text::kToolCrossover, 0, 0},
+    {ID_TOOL_GEQ_STATE, Text::kToolGeqState, 0, 0},
+    {ID_TOOL_PEQ_STATE, Text::kToolPeqState, 0, 0},
+    {ID_RUN_PAGES, Text::kRunStart, VK_F5, 0},
     {ID_TOOL_PICTURE, Text::kToolPicture, 'I', 0},
     {ID_POSITION_FORWARD, Text::kArrangeForward, 0, 0},
     {ID_POSITION_BACKWARD, Text::kArrangeBackward, 0, 0},
@@ -114,6 +126,15 @@ constexpr ToolInfo kTools[] = {
     {ID_TOOL_POLYLINE, DS_POLYLINE, Text::kToolPolyline, Text::kHintPolyline, L'P'},
     {ID_TOOL_TEXTBOX, DS_TEXTEDIT, Text::kToolTextBox, Text::kHintTextBox, L'T'},
     {ID_TOOL_PICTURE, kPictureTool, Text::kToolPicture, Text::kHintPicture, L'I'},
+    {ID_TOOL_PEQ_CHART, DS_CHARTPEQ, Text::kToolPeqChart, Text::kHintControl, 0},
+    {ID_TOOL_BAND_BUTTON, DS_BUTTONBAND, Text::kToolBandButton, Text::kHintControl, 0},
+    {ID_TOOL_DEVICE_CHART, DS_CHARTDEVICE, Text::kToolDeviceChart, Text::kHintControl, 0},
+    {ID_TOOL_DEVICE_BUTTON, DS_BUTTONDEVICE, Text::kToolDeviceButton, Text::kHintControl, 0},
+    {ID_TOOL_LEVEL_CHART, DS_CHARTLEVEL, Text::kToolLevelChart, Text::kHintControl, 0},
+    {ID_TOOL_LEVEL_BUTTON, DS_BUTTONLEVEL, Text::kToolLevelButton, Text::kHintControl, 0},
+    {ID_TOOL_CROSSOVER, DS_STATECROSSOVER, Text::kToolCrossover, Text::kHintControl, 0},
+    {ID_TOOL_GEQ_STATE, DS_STATEGEQ, Text::kToolGeqState, Text::kHintControl, 0},
+    {ID_TOOL_PEQ_STATE, DS_STATEPEQ, Text::kToolPeqState, Text::kHintControl, 0},
 };
 
 // A menu of the menu bar: its items by command, 0 for a separator.
@@ -127,6 +148,15 @@ std::vector<UINT> PagesLayout() {
             ID_PAGES_MOVE_RIGHT, 0, ID_PAGES_PREVIOUS, ID_PAGES_NEXT};
 }
 
+std::vector<UINT> ControlsLayout() {
+    std::vector<UINT> items;
+    for (const ToolInfo& tool : kTools) {
+        if (IsControl(tool.kind))
+            items.push_back(tool.command);
+    }
+    return items;
+}
+
 std::vector<MenuLayout> MenuBarLayout() {
     return {
         {Text::kMenuFile, {ID_FILE_NEW, ID_FILE_OPEN, 0, ID_FILE_SAVE, ID_FILE_SAVE_AS, 0,
@@ -135,10 +165,11 @@ std::vector<MenuLayout> MenuBarLayout() {
           ID_PAGE_DUPLICATE_OBJECTS, ID_OBJECT_DELETE, 0, ID_PAGE_SELECT_ALL}},
         {Text::kMenuView, {ID_PAGE_SHOW_GRID, ID_PAGE_SNAP_TO_GRID, 0, ID_VIEW_PROPERTIES, ID_VIEW_SYMBOLS}},
         {Text::kMenuPage, PagesLayout()},
-        {Text::kMenuMode, {ID_MODE_DRAW, ID_MODE_POLY}},
+        {Text::kMenuMode, {ID_MODE_DRAW, ID_MODE_POLY, 0, ID_RUN_PAGES}},
         {Text::kMenuTools,
          {ID_TOOL_SELECT, 0, ID_TOOL_RECTANGLE, ID_TOOL_ELLIPSE, ID_TOOL_LINE, ID_TOOL_POLYLINE,
           ID_TOOL_TEXTBOX, ID_TOOL_PICTURE}},
+        {Text::kMenuControls, ControlsLayout()},
         {Text::kMenuArrange,
          {ID_POSITION_FORWARD, ID_POSITION_BACKWARD, ID_POSITION_FRONT, ID_POSITION_BACK, 0, ID_ROTATE_LEFT,
           ID_ROTATE_RIGHT, ID_PAGE_FLIP_H, ID_PAGE_FLIP_V, 0, ID_GROUP_MAKE, ID_GROUP_UNMAKE, 0, ID_ALIGN_LEFT, ID_ALIGN_RIGHT, ID_ALIGN_TOP,
@@ -245,6 +276,11 @@ HACCEL CreateAccelerators() {
     for (const auto& hidden : kHiddenKeys)
         add(hidden.id, hidden.key, hidden.modifiers);
     return ::CreateAcceleratorTable(keys.data(), static_cast<int>(keys.size()));
+}
+
+HACCEL CreateRunAccelerators() {
+    ACCEL keys[] = {{FVIRTKEY, VK_F5, ID_RUN_PAGES}, {FVIRTKEY, VK_ESCAPE, ID_RUN_ESCAPE}};
+    return ::CreateAcceleratorTable(keys, static_cast<int>(std::size(keys)));
 }
 
 }  // namespace Studio

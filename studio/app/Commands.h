@@ -34,12 +34,23 @@ enum PageCommandId : UINT {
     ID_PAGE_SHOW_GRID,
     ID_PAGE_SNAP_TO_GRID,
     ID_TOOL_PICTURE,
-    ID_PAGE_LAST = ID_TOOL_PICTURE,
+    ID_TOOL_PEQ_CHART,
+    ID_TOOL_BAND_BUTTON,
+    ID_TOOL_DEVICE_CHART,
+    ID_TOOL_DEVICE_BUTTON,
+    ID_TOOL_LEVEL_CHART,
+    ID_TOOL_LEVEL_BUTTON,
+    ID_TOOL_CROSSOVER,
+    ID_TOOL_GEQ_STATE,
+    ID_TOOL_PEQ_STATE,
+    ID_PAGE_LAST = ID_TOOL_PEQ_STATE,
 };
 
 /// Commands of the frame.
 enum FrameCommandId : UINT {
     ID_VIEW_PROPERTIES = 6690,
+    ID_RUN_PAGES,
+    ID_RUN_ESCAPE,
 };
 
 /// Commands on the pages and files of the document, and on what the frame shows.
@@ -59,7 +70,7 @@ enum DocumentCommandId : UINT {
     ID_VIEW_SYMBOLS,
 };
 
-/// A drawing tool: command, shape kind, name, what it waits for, key.
+/// A drawing tool: command, shape kind, name, what it waits for, key (0 for none).
 struct ToolInfo {
     UINT command;
     Lumo::DrawShape kind;
@@ -88,5 +99,8 @@ void TranslateMenu(HMENU menu);
 
 /// A new accelerator table of all keys; the caller destroys it.
 HACCEL CreateAccelerators();
+
+/// A new accelerator table of the keys that work while the pages run; the caller destroys it.
+HACCEL CreateRunAccelerators();
 
 }  // namespace Studio

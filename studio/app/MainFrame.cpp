@@ -33,6 +33,8 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_UPDATE_COMMAND_UI_RANGE(ID_PAGES_FIRST, ID_PAGES_LAST, &MainFrame::OnUpdatePagesCommand)
     ON_COMMAND(ID_VIEW_SYMBOLS, &MainFrame::OnViewSymbols)
     ON_UPDATE_COMMAND_UI(ID_VIEW_SYMBOLS, &MainFrame::OnUpdateViewSymbols)
+    ON_COMMAND(ID_RUN_PAGES, &MainFrame::OnRun)
+    ON_COMMAND(ID_RUN_ESCAPE, &MainFrame::OnRunEscape)
     ON_COMMAND(ID_APP_EXIT, &MainFrame::OnExit)
     ON_COMMAND(ID_APP_ABOUT, &MainFrame::OnAbout)
     ON_COMMAND(Lumo::ID_DOCUMENT_LOAD, &MainFrame::OnFileOpen)
@@ -53,8 +55,10 @@ END_MESSAGE_MAP()
 MainFrame::~MainFrame() {
     if (m_document)
         m_document->Release();
-    if (m_keys)
-        ::DestroyAcceleratorTable(m_keys);
+    for (HACCEL keys : {m_keys, m_runKeys}) {
+        if (keys)
+            ::DestroyAcceleratorTable(keys);
+    }
 }
 
 bool MainFrame::CreateFrame() {
@@ -63,8 +67,10 @@ bool MainFrame::CreateFrame() {
                                                     ::LoadIcon(nullptr, IDI_APPLICATION));
     if (!Create(windowClass, GetText(Text::kAppName), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, kFrame))
         return false;
-    ::SetMenu(m_hWnd, CreateMenuBar());
+    m_menuBar = CreateMenuBar();
+    ::SetMenu(m_hWnd, m_menuBar);
     m_hAccelTable = m_keys = CreateAccelerators();
+    m_runKeys = CreateRunAccelerators();
     m_document = new StudioDocument(*this, *this);
     if (!m_toolbox.Create(*this) || !m_status.Create(*this) || !m_properties.Create(*this) || !CreatePageParts() ||
         !m_document->NewFile())
@@ -86,8 +92,9 @@ void MainFrame::LayOut() {
     CRect client;
     GetClientRect(client);
     const int bottom = client.bottom - StatusBar::kHeight;
-    const int left = Toolbox::kWidth + (m_showSymbols ? SymbolPanel::kWidth : 0);
-    const int right = client.Width() - (m_showProperties ? PropertyPanel::kWidth : 0);
+    const bool running = IsRunning();
+    const int left = running ? 0 : Toolbox::kWidth + (m_showSymbols ? SymbolPanel::kWidth : 0);
+    const int right = client.Width() - (m_showProperties && !running ? PropertyPanel::kWidth : 0);
     const int tabs = bottom - m_tabs.Height();
     Lumo::DeferWindow layout;
     layout.Move(m_toolbox, CRect(0, 0, Toolbox::kWidth, bottom));
@@ -110,6 +117,7 @@ void MainFrame::ShowPage() {
         current->ShowWindow(SW_SHOW);
         current->SetFocus();
     }
+    m_run.PageShown();
     RefreshTitle();
     RefreshStatus();
 }
@@ -133,12 +141,16 @@ void MainFrame::FinishEditing() {
 }
 
 void MainFrame::OnClose() {
+    SetRunning(false);
     if (MayDiscard())
         DestroyWindow();
 }
 
 void MainFrame::OnDestroy() {
     // The pages go before the windows they are children of.
+    m_run.Stop();
+    if (!::GetMenu(m_hWnd))
+        ::DestroyMenu(m_menuBar);
     m_autosave.reset();
     if (m_document)
         m_document->Release();
@@ -184,6 +196,8 @@ void MainFrame::RefreshTitle() {
     CString title;
     title.Format(L"%s%s - %s", FileName().GetString(), m_document->GetModifiedFlag() ? L"*" : L"",
                  GetText(Text::kAppName));
+    if (IsRunning())
+        title += CString(L" - ") + GetText(Text::kRunTitle);
     if (title == m_title)
         return;
     m_title = title;
@@ -194,6 +208,10 @@ void MainFrame::RefreshStatus() {
     StudioCanvas* page = Page();
     if (!page)
         return;
+    if (IsRunning()) {
+        RefreshRunStatus();
+        return;
+    }
     m_properties.RefreshSoon();
     const ToolInfo& tool = ToolOfKind(Lumo::CUIToolBase::run_drawshape);
     m_toolbox.SetCurrent(tool.kind);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "studio/app/PageTabs.h"
+#include "studio/app/RunMode.h"
 #include "studio/app/StatusBar.h"
 #include "studio/app/SymbolPanel.h"
 #include "studio/app/Toolbox.h"
@@ -28,6 +29,10 @@ public:
     /// Begins without a file: offers what an earlier run could not save, and shows the demo project on the
     /// very first start, or when it is asked for.
     void Start(bool demo);
+
+    /// Runs the pages instead of editing them, or returns to editing.
+    void SetRunning(bool running);
+    bool IsRunning() const { return m_run.IsRunning(); }
 
     void OnCanvasState(StudioCanvas& canvas) override;
     void OnCanvasPointer(StudioCanvas& canvas, const CPoint* at) override;
@@ -61,6 +66,8 @@ protected:
     afx_msg void OnUpdatePagesCommand(CCmdUI* ui);
     afx_msg void OnViewSymbols();
     afx_msg void OnUpdateViewSymbols(CCmdUI* ui);
+    afx_msg void OnRun();
+    afx_msg void OnRunEscape();
     BOOL OnNotify(WPARAM id, LPARAM notify, LRESULT* result) override;
 
 private:
@@ -92,6 +99,9 @@ private:
     static bool AskRecover(const CString& name);
     bool Recover(const CString& copy, const CString& path);
 
+    bool IsTabLocked(UINT notification) const;
+    void RefreshRunStatus();
+
     PageTools m_tools;
     Toolbox m_toolbox;
     StatusBar m_status;
@@ -105,6 +115,9 @@ private:
     std::unique_ptr<Autosave> m_autosave;
     Lumo::Timer m_autosaveTimer;
     HACCEL m_keys = nullptr;
+    HACCEL m_runKeys = nullptr;
+    HMENU m_menuBar = nullptr;
+    RunMode m_run;
     CString m_title;
 };
 

@@ -168,7 +168,7 @@ void MainFrame::StartAutosave() {
 // What is half drawn is left to the next time.
 void MainFrame::AutosaveNow() {
     StudioCanvas* page = Page();
-    if (page && !page->CurrentGesture())
+    if (page && !page->CurrentGesture() && !IsRunning())
         m_autosave->Update();
 }
 

@@ -3,6 +3,7 @@
 
 #include "studio/app/EditTexts.h"
 #include "studio/app/PageTexts.h"
+#include "studio/app/RunTexts.h"
 
 #include "studio/app/PropertyTexts.h"
 
@@ -109,6 +110,7 @@ enum class Text {
     STUDIO_TEXTS(STUDIO_TEXT_KEY)
     STUDIO_EDIT_TEXTS(STUDIO_TEXT_KEY)
     STUDIO_PAGE_TEXTS(STUDIO_TEXT_KEY)
+    STUDIO_RUN_TEXTS(STUDIO_TEXT_KEY)
 #undef STUDIO_TEXT_KEY
 };
 

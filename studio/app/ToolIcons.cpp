@@ -1,5 +1,7 @@
 #include "studio/app/ToolIcons.h"
 
+#include "studio/app/ControlIcons.h"
+
 #include "core/GraphicsStateScope.h"
 #include "studio/editing/PageTool.h"
 
@@ -95,6 +97,8 @@ void DrawToolIcon(Graphics& g, Lumo::DrawShape kind, float x, float y, float siz
         default:
             if (kind == kPictureTool)
                 DrawLandscape(g, frame, color);
+            else
+                DrawControlIcon(g, kind, color, fill);
             break;
     }
 }

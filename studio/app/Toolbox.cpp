@@ -3,6 +3,7 @@
 #include "studio/app/Commands.h"
 #include "studio/app/Painting.h"
 #include "studio/app/ToolIcons.h"
+#include "studio/editing/ObjectFactory.h"
 
 #include <commctrl.h>
 
@@ -17,6 +18,7 @@ namespace {
 constexpr int kButton = 40;
 constexpr int kStep = 44;
 constexpr int kMargin = 8;
+constexpr int kGap = 9;  // between the drawing tools and the audio controls
 constexpr float kIcon = 24.0f;
 
 // The face of a button with round corners.
@@ -65,7 +67,9 @@ void Toolbox::AddTooltips() {
     for (int button = 0; button < static_cast<int>(Tools().size()); ++button) {
         const ToolInfo& tool = Tools()[button];
         CString text;
-        text.Format(L"%s (%c)", GetPlainText(tool.name).GetString(), tool.key);
+        text = GetPlainText(tool.name);
+        if (tool.key)
+            text.AppendFormat(L" (%c)", tool.key);
         TTTOOLINFO info = {};
         info.cbSize = TTTOOLINFO_V1_SIZE;
         info.uFlags = TTF_SUBCLASS;
@@ -85,7 +89,8 @@ void Toolbox::SetCurrent(Lumo::DrawShape kind) {
 }
 
 CRect Toolbox::ButtonRect(int button) {
-    return CRect(CPoint(kMargin, kMargin + button * kStep), CSize(kButton, kButton));
+    const int gap = IsControl(Tools()[button].kind) ? kGap : 0;
+    return CRect(CPoint(kMargin, kMargin + button * kStep + gap), CSize(kButton, kButton));
 }
 
 int Toolbox::ButtonAt(CPoint point) {
@@ -108,6 +113,11 @@ void Toolbox::OnPaint() {
         g.DrawImage(face.get(), static_cast<INT>(rect.left), static_cast<INT>(rect.top));
     }
     Pen edge{Color(Palette::kEdge)};
+    for (int button = 1; button < static_cast<int>(Tools().size()); ++button) {
+        const int y = ButtonRect(button).top - (kStep - kButton + kGap) / 2 - 1;
+        if (IsControl(Tools()[button].kind) && !IsControl(Tools()[button - 1].kind))
+            g.DrawLine(&edge, kMargin, y, kWidth - kMargin, y);
+    }
     g.DrawLine(&edge, kWidth - 1, 0, kWidth - 1, static_cast<INT>(paint.Client().bottom));
 }
 

@@ -8,7 +8,8 @@
 namespace Studio {
 
 /// Shows one button per tool and sends its command to the parent. Buttons stand at fixed places: 40 by 40
-/// pixels from (8, 8) on, one every 44 pixels.
+/// pixels from (8, 8) on, one every 44 pixels; the audio controls
+/// stand 9 pixels lower.
 class Toolbox : public CWnd {
 public:
     static constexpr int kWidth = 56;

@@ -40,7 +40,7 @@ protected:
     void DoubleClick(StudioCanvas& page, CPoint at, UINT flags) override;
 };
 
-/// Drags out rectangles, ellipses and text boxes.
+/// Drags out rectangles, ellipses, text boxes and audio controls.
 class ShapeTool : public PageTool {
 public:
     using PageTool::PageTool;
@@ -82,6 +82,15 @@ struct PageTools {
     ShapeTool rectangle{Lumo::DS_RECTANGLE};
     ShapeTool ellipse{Lumo::DS_ELLIPSE};
     ShapeTool textBox{Lumo::DS_TEXTEDIT};
+    ShapeTool peqChart{Lumo::DS_CHARTPEQ};
+    ShapeTool bandButton{Lumo::DS_BUTTONBAND};
+    ShapeTool deviceChart{Lumo::DS_CHARTDEVICE};
+    ShapeTool deviceButton{Lumo::DS_BUTTONDEVICE};
+    ShapeTool levelChart{Lumo::DS_CHARTLEVEL};
+    ShapeTool levelButton{Lumo::DS_BUTTONLEVEL};
+    ShapeTool crossover{Lumo::DS_STATECROSSOVER};
+    ShapeTool geqState{Lumo::DS_STATEGEQ};
+    ShapeTool peqState{Lumo::DS_STATEPEQ};
     FigureTool line{Lumo::DS_LINE};
     FigureTool polyline{Lumo::DS_POLYLINE};
     PictureTool picture;

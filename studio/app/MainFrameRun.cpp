@@ -1,0 +1,46 @@
+// Run mode in the frame: the page takes the whole window, and nothing can be edited.
+#include "studio/app/MainFrame.h"
+
+#include "studio/app/Commands.h"
+
+namespace Studio {
+
+void MainFrame::SetRunning(bool running) {
+    if (running == IsRunning() || !m_document || !Page())
+        return;
+    FinishEditing();
+    if (running)
+        m_run.Start(*this, *m_document);
+    else
+        m_run.Stop();
+    m_hAccelTable = running ? m_runKeys : m_keys;
+    ::SetMenu(m_hWnd, running ? nullptr : m_menuBar);
+    m_toolbox.ShowWindow(running ? SW_HIDE : SW_SHOWNA);
+    m_symbols.ShowWindow(m_showSymbols && !running ? SW_SHOWNA : SW_HIDE);
+    m_properties.ShowWindow(m_showProperties && !running ? SW_SHOWNA : SW_HIDE);
+    ShowPage();
+}
+
+void MainFrame::OnRun() {
+    SetRunning(!IsRunning());
+}
+
+void MainFrame::OnRunEscape() {
+    if (!m_run.CancelEntry())
+        SetRunning(false);
+}
+
+// While the pages run the tabs only switch them.
+bool MainFrame::IsTabLocked(UINT notification) const {
+    return IsRunning() && notification != Lumo::TABN_CHANGING && notification != Lumo::TABN_CHANGED;
+}
+
+void MainFrame::RefreshRunStatus() {
+    CString live;
+    live.Format(GetText(Text::kRunValues), static_cast<int>(m_run.Session()->LiveCount()));
+    m_status.SetPane(StatusBar::kMode, GetText(Text::kRunTitle));
+    m_status.SetPane(StatusBar::kHint, GetText(Text::kRunHint));
+    m_status.SetPane(StatusBar::kSelection, live);
+}
+
+}  // namespace Studio
