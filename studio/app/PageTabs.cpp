@@ -7,7 +7,11 @@ using Lumo::TabNotify;
 bool PageTabs::Create(CWnd& frame) {
     if (!m_tabs.Create(WS_VISIBLE, CRect(0, 0, 0, 0), &frame, kId))
         return false;
-    m_tabs.SetStyle(std::make_unique<Lumo::ClientAreaTabStyle>(Lumo::TabTheme::kLight));
+    // The current tab is one piece with the black page above it.
+    Lumo::TabColors colors = Lumo::TabColorsOf(Lumo::TabTheme::kLight);
+    colors.current = RGB(0, 0, 0);
+    colors.currentText = RGB(0xFF, 0xFF, 0xFF);
+    m_tabs.SetStyle(std::make_unique<Lumo::ClientAreaTabStyle>(colors));
     m_tabs.SetSide(Lumo::TabSide::kBelow);
     SetLocked(false);
     return true;

@@ -32,6 +32,8 @@
     X(kDemoOverview,       L"Overview",                 L"개요") \
     X(kDemoOverviewNote,   L"Press F5 to operate the screens, Esc to edit them", \
                            L"F5를 누르면 화면이 작동하고, Esc를 누르면 편집합니다") \
+    X(kDemoMaster,         L"Master",                   L"마스터") \
+    X(kDemoPeak,           L"Input 2 near its limit",   L"입력 2가 한계에 가까움") \
     X(kDemoMatrix,         L"Matrix",                   L"매트릭스") \
     X(kDemoMatrixNote,     L"Click a crossing to switch it, drag it up or down for its gain", \
                            L"교차점을 클릭하면 켜지고 꺼지며, 위아래로 끌면 게인이 바뀝니다") \

@@ -176,9 +176,10 @@ Bitmap& SymbolPanel::PictureOf(Entry& entry) {
     Lumo::CUIObjectDeque objects;
     if (symbol)
         objects.push_back(symbol.get());
-    AttemptFile([&] { entry.picture = DrawThumbnail(objects, size, kPictureGround); }, reason);
-    if (!entry.picture)
-        entry.picture = std::make_unique<Bitmap>(1, 1, PixelFormat32bppPARGB);
+    entry.picture = DrawSmooth(size.cx, size.cy, [&](Graphics& g) {
+        g.Clear(Color(kPictureGround));
+        DrawFitted(g, objects, size);
+    });
     return *entry.picture;
 }
 

@@ -81,20 +81,18 @@ std::unique_ptr<Bitmap> DrawPage(const CUIObjectDeque& objects) {
     return bitmap;
 }
 
-std::unique_ptr<Bitmap> DrawThumbnail(const CUIObjectDeque& objects, CSize size, DWORD ground) {
-    auto bitmap = MakeBitmap(size.cx, size.cy);
-    Graphics g(bitmap.get());
-    g.Clear(Gdiplus::Color(ground));
+void DrawFitted(Graphics& g, const CUIObjectDeque& objects, CSize size) {
     const RectF painted = PaintedBounds(objects);
     if (painted.IsEmptyArea())
-        return bitmap;
+        return;
     const float width = static_cast<float>(size.cx), height = static_cast<float>(size.cy);
     const float scale = std::min({width / painted.Width, height / painted.Height, 1.0f});
+    const Gdiplus::GraphicsState before = g.Save();
     g.TranslateTransform(width / 2, height / 2);
     g.ScaleTransform(scale, scale);
     g.TranslateTransform(-painted.X - painted.Width / 2, -painted.Y - painted.Height / 2);
     DrawObjects(g, objects);
-    return bitmap;
+    g.Restore(before);
 }
 
 void WritePagePicture(const CUIObjectDeque& objects, const CString& path) {

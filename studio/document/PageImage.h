@@ -15,9 +15,8 @@ Gdiplus::RectF PaintedBounds(const Lumo::CUIObjectDeque& objects);
 /// A picture of a page from its corner to the end of what is on it; of an empty page, a small one.
 std::unique_ptr<Gdiplus::Bitmap> DrawPage(const Lumo::CUIObjectDeque& objects);
 
-/// A picture of at most `size` pixels with the objects scaled down to fit, in the middle of a ground of
-/// `ground` (ARGB).
-std::unique_ptr<Gdiplus::Bitmap> DrawThumbnail(const Lumo::CUIObjectDeque& objects, CSize size, DWORD ground);
+/// Draws objects in the middle of a field of `size` at the origin, scaled down as far as they do not fit.
+void DrawFitted(Gdiplus::Graphics& g, const Lumo::CUIObjectDeque& objects, CSize size);
 
 /// Writes a picture of a page as a PNG file, whole or not at all. Raises `FileFault` and the exceptions of
 /// files.

@@ -14,8 +14,8 @@ public:
     explicit Sketch(PageContents& page) : m_page(page) {}
 
     /// Shapes with a fill and an outline; either is left out when its colour is 0.
-    Lumo::CUIObject& Rectangle(const Gdiplus::RectF& rect, DWORD fill, DWORD line, float width = 1.0f);
-    Lumo::CUIObject& Ellipse(const Gdiplus::RectF& rect, DWORD fill, DWORD line, float width = 1.0f);
+    Lumo::CUIObject& Rectangle(const Gdiplus::RectF& rect, DWORD fill, DWORD line, float width = 2.0f);
+    Lumo::CUIObject& Ellipse(const Gdiplus::RectF& rect, DWORD fill, DWORD line, float width = 2.0f);
     /// Segments from point to point; two points make a line.
     Lumo::CUIObject& Line(std::initializer_list<Gdiplus::PointF> points, DWORD color, float width = 2.0f);
     /// Text without a ground, in the middle of `rect` or at its near or far edge.

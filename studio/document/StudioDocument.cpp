@@ -26,6 +26,7 @@ bool StudioDocument::NewFile(DocumentContents contents) {
         return false;
     m_path.Empty();
     m_edits.MarkSaved();
+    PagesChanged();
     return true;
 }
 
@@ -49,6 +50,7 @@ int StudioDocument::Load(CString& path) {
         return 0;
     m_path = FullPath(path);
     m_edits.MarkSaved();
+    PagesChanged();
     return 1;
 }
 
@@ -57,6 +59,7 @@ bool StudioDocument::Recover(const CString& autosave, const CString& path) {
         return false;
     m_path = path;
     m_edits.MarkUnsaved();
+    PagesChanged();
     return true;
 }
 
@@ -76,6 +79,7 @@ bool StudioDocument::SaveCopy(const CString& path) {
 void StudioDocument::Serialize(CArchive& ar) {
     if (!ar.IsStoring()) {
         Adopt(LoadContents(ar));
+        PagesChanged();
         return;
     }
     const int current = CurrentIndex();
@@ -106,7 +110,6 @@ void StudioDocument::Adopt(DocumentContents loaded) {
         FillPage(*m_pageOrder[i].canvas, std::move(loaded.pages[i].objects));
     }
     SetCurrentCanvas(m_pageOrder[loaded.current].canvas.get());
-    PagesChanged();
 }
 
 void StudioDocument::FillPage(StudioCanvas& canvas, std::vector<ObjectPtr> objects) {
