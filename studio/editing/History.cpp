@@ -76,8 +76,6 @@ void History::Replay(HistoryStep& step, bool forward) {
 void History::RefreshModified() {
     m_document.SetModifiedFlag(m_done != m_saved);
     auto* shown = dynamic_cast<StudioCanvas*>(m_document.GetCurrentCanvas());
-    if (shown && onChange)
-        onChange(*shown);
     if (shown)
         shown->NotifyState();
 }

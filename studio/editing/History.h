@@ -53,8 +53,6 @@ public:
     /// Ends what `EditScope::mergeKey` could join: the next step stands alone.
     void BreakMerging();
 
-    /// Called after every step, undo and redo with the page that is shown then.
-    std::function<void(StudioCanvas& page)> onChange;
     /// Makes a page the one that is shown, before a step of it is undone or redone. Without it the document's
     /// current canvas is set.
     std::function<void(StudioCanvas& page)> showPage;

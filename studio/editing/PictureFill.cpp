@@ -162,6 +162,7 @@ ObjectPtr MakePicture(const CString& path, const RectF& place, const SizeF& room
     const PictureMode mode = ownSize && scale == 1.0f ? PictureMode::kOwnSize : PictureMode::kStretched;
     object->SetFillShapeMode(static_cast<int>(mode));
     object->GetCoordinate().Format<Lumo::CUIShapeFormatFill>().m_strImagePath = path;
+    object->GetCoordinate().Format<Lumo::CUIShapeFormatText>().m_strText.Empty();
     object->SetLineShapeMode(0);
     object->SetShapeName(L"Picture1");
     return object;
