@@ -182,7 +182,8 @@ Property TrendLineWidth() {
         return HasExtras(object) && !ExtrasOf(object).prefs.m_trend.m_lines.empty();
     };
     property.get = [](CUIObject& object) {
-        return static_cast<float>(ExtrasOf(object).prefs.m_trend.m_lines.front()->m_nWidth);
+        const auto& lines = ExtrasOf(object).prefs.m_trend.m_lines;
+        return lines.empty() ? 1.0f : static_cast<float>(lines.front()->m_nWidth);
     };
     property.set = [](CUIObject& object, const PropertyValue& value) {
         for (CPrefTrendLine* line : EditExtras(object)->prefs.m_trend.m_lines)

@@ -153,6 +153,7 @@ void PropertyPanel::FadeNote() {
 void PropertyPanel::Refresh() {
     KillTimer(kRefreshTimer);
     m_refreshing = false;
+    const bool hadFocus = FocusedField() != nullptr;
     StudioCanvas* page = m_owner.PropertyPage();
     static const Lumo::CUIObjectDeque none;
     const Lumo::CUIObjectDeque& objects = page ? page->m_selection : none;
@@ -164,7 +165,8 @@ void PropertyPanel::Refresh() {
     });
     RefreshChooser();
     RefreshTitle();
-    if (PropertyField* field = FocusedField(); field && !field->State().enabled)
+    // A field that cannot be used any more has lost the focus to nobody.
+    if (hadFocus && !FocusedField())
         LeaveToPage();
 }
 

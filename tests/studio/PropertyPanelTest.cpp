@@ -1,0 +1,179 @@
+// The property panel in a real window, driven by real keys and controls.
+#include "StudioFixture.h"
+#include "studio/app/panels/PropertyPanel.h"
+#include "studio/editing/History.h"
+
+using namespace Studio;
+
+namespace {
+
+// Edit controls in the order in which they are made.
+enum Edit { kName, kX, kY, kWidth, kHeight, kFillColor, kFillOpacity };
+
+class PropertyPanelTest : public StudioFixture, public PropertyPanelOwner {
+protected:
+    void SetUp() override {
+        StudioFixture::SetUp();
+        m_parent.ShowWindow(SW_SHOWNOACTIVATE);
+        ASSERT_TRUE(m_panel.Create(m_parent));
+        m_panel.MoveWindow(300, 0, PropertyPanel::kWidth, 400);
+        ::EnumChildWindows(m_panel.m_hWnd, CollectEdit, reinterpret_cast<LPARAM>(&m_edits));
+    }
+
+    StudioCanvas* PropertyPage() override { return m_document ? &Page() : nullptr; }
+    void OnPropertyRefused(const CString& reason) override { m_reason = reason; }
+
+    static BOOL CALLBACK CollectEdit(HWND window, LPARAM list) {
+        WCHAR name[16] = L"";
+        ::GetClassName(window, name, 16);
+        if (::lstrcmpi(name, L"Edit") == 0)
+            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+        return TRUE;
+    }
+
+    CString TextOf(Edit edit) {
+        WCHAR text[256] = L"";
+        ::GetWindowText(m_edits[edit], text, 256);
+        return text;
+    }
+    void Focus(Edit edit) { ::SetFocus(m_edits[edit]); }
+    void Type(Edit edit, LPCWSTR text) {
+        Focus(edit);
+        ::SendMessage(m_edits[edit], EM_SETSEL, 0, -1);
+        ::SendMessage(m_edits[edit], EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
+    }
+    // A key as the message pump hands it out; true when the panel keeps it from the frame.
+    bool Press(UINT key, bool control = false) {
+        BYTE state[256] = {};
+        state[VK_CONTROL] = control ? 0x80 : 0;
+        ::SetKeyboardState(state);
+        MSG message = {};
+        message.hwnd = ::GetFocus();
+        message.message = WM_KEYDOWN;
+        message.wParam = key;
+        message.lParam = 1;
+        const bool kept = m_panel.PreTranslateMessage(&message) != FALSE;
+        state[VK_CONTROL] = 0;
+        ::SetKeyboardState(state);
+        return kept;
+    }
+    float X() { return Objects().front()->GetPosition().X; }
+
+    PropertyPanel m_panel{*this};
+    std::vector<HWND> m_edits;
+    CString m_reason;
+};
+
+}  // namespace
+
+TEST_F(PropertyPanelTest, EnterWritesEscapeTakesBackLosingTheFocusWrites) {
+    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel.Refresh();
+    EXPECT_EQ(L"10", TextOf(kX));
+    Type(kX, L"070");
+    EXPECT_FLOAT_EQ(10.0f, X());
+    EXPECT_TRUE(Press(VK_RETURN));
+    EXPECT_FLOAT_EQ(70.0f, X());
+    EXPECT_EQ(L"70", TextOf(kX));
+    Type(kX, L"80");
+    EXPECT_TRUE(Press(VK_ESCAPE));
+    EXPECT_EQ(L"70", TextOf(kX));
+    EXPECT_EQ(m_edits[kX], ::GetFocus());
+    Type(kX, L"90");
+    EXPECT_TRUE(Press(VK_TAB));
+    EXPECT_EQ(m_edits[kY], ::GetFocus());
+    EXPECT_FLOAT_EQ(90.0f, X());
+    EXPECT_TRUE(Press(VK_ESCAPE)) << "nothing typed: back to the page";
+    EXPECT_EQ(Page().m_hWnd, ::GetFocus());
+}
+
+TEST_F(PropertyPanelTest, RefusedTextStaysToBeCorrectedAndTheValueWithIt) {
+    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel.Refresh();
+    m_document->Edits().Clear();
+    Type(kWidth, L"0");
+    Press(VK_RETURN);
+    EXPECT_EQ(L"0", TextOf(kWidth));
+    EXPECT_FALSE(m_reason.IsEmpty());
+    EXPECT_FLOAT_EQ(100.0f, Objects().front()->GetPosition().Width);
+    Type(kWidth, L"60");
+    EXPECT_TRUE(m_reason.IsEmpty()) << "typing on ends the refusal";
+    Press(VK_RETURN);
+    EXPECT_FLOAT_EQ(60.0f, Objects().front()->GetPosition().Width);
+    Type(kWidth, L"wide");
+    Focus(kX);
+    EXPECT_EQ(L"60", TextOf(kWidth)) << "the old value, once the focus is gone";
+    EXPECT_FALSE(m_reason.IsEmpty());
+    Type(kFillColor, L"12345");
+    Press(VK_RETURN);
+    EXPECT_FALSE(m_reason.IsEmpty());
+    Press(VK_ESCAPE);
+    EXPECT_EQ(L"3E7BFA", TextOf(kFillColor));
+    EXPECT_TRUE(m_document->Edits().Undo());
+    EXPECT_FALSE(m_document->Edits().CanUndo()) << "one step only";
+}
+
+TEST_F(PropertyPanelTest, FieldsFollowTheSelectionButNotWhileTheirTextIsTyped) {
+    Lumo::CUIObject* first = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    Lumo::CUIObject* second = Add(Lumo::DS_RECTANGLE, 40, 20, 100, 50);
+    Page().SelectOnly({first, second});
+    m_panel.Refresh();
+    EXPECT_EQ(L"", TextOf(kX));
+    EXPECT_EQ(L"20", TextOf(kY));
+    EXPECT_FALSE(::IsWindowEnabled(m_edits[kName]));
+    Type(kX, L"55");
+    first->SetPosition({15, 25, 100, 50});
+    m_panel.Refresh();
+    EXPECT_EQ(L"55", TextOf(kX));
+    EXPECT_EQ(L"", TextOf(kY));
+    Press(VK_RETURN);
+    EXPECT_FLOAT_EQ(55.0f, first->GetPosition().X);
+    EXPECT_FLOAT_EQ(55.0f, second->GetPosition().X);
+    // With nothing left to show, the focus does not stay in a dead field.
+    Page().SelectOnly({});
+    m_panel.Refresh();
+    EXPECT_EQ(L"", TextOf(kX));
+    EXPECT_FALSE(::IsWindowEnabled(m_edits[kX]));
+    EXPECT_EQ(Page().m_hWnd, ::GetFocus());
+}
+
+TEST_F(PropertyPanelTest, ArrowKeysStepANumberInOneUndo) {
+    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel.Refresh();
+    Focus(kX);
+    for (int i = 0; i < 3; ++i)
+        Press(VK_UP);
+    Press(VK_DOWN);
+    EXPECT_FLOAT_EQ(12.0f, X());
+    EXPECT_EQ(L"12", TextOf(kX));
+    EXPECT_TRUE(m_document->Edits().Undo());
+    EXPECT_FLOAT_EQ(10.0f, X());
+}
+
+TEST_F(PropertyPanelTest, KeysOfTextStayInThePanelKeysOfCommandsDoNot) {
+    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel.Refresh();
+    Focus(kName);
+    for (UINT key : {UINT{'R'}, UINT{VK_DELETE}, UINT{VK_LEFT}})
+        EXPECT_TRUE(Press(key)) << key;
+    for (UINT key : {UINT{'A'}, UINT{'C'}})
+        EXPECT_TRUE(Press(key, true)) << key;
+    for (UINT key : {UINT{'S'}, UINT{'Y'}, UINT{'G'}})
+        EXPECT_FALSE(Press(key, true)) << key;
+    EXPECT_FALSE(Press(VK_F5));
+}
+
+TEST_F(PropertyPanelTest, ManyChangesAreShownOnceWhenThereIsTime) {
+    Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel.Refresh();
+    for (int i = 1; i <= 50; ++i) {
+        object->SetPosition({10.0f + static_cast<float>(i), 20, 100, 50});
+        m_panel.RefreshSoon();
+    }
+    EXPECT_EQ(L"10", TextOf(kX));
+    const DWORD end = ::GetTickCount() + 2000;
+    MSG message;
+    while (TextOf(kX) == L"10" && ::GetTickCount() < end && ::GetMessage(&message, nullptr, 0, 0))
+        ::DispatchMessage(&message);
+    EXPECT_EQ(L"60", TextOf(kX));
+}
