@@ -73,11 +73,9 @@ void StudioCanvas::PaintObjects(const CRect& part) {
         return;
     }
     graphics.reset();
-    for (CUIObject* object : m_selection) {
-        CRect frame = Lumo::RectAtlFromGdi(Lumo::Normalised(object->GetPosition()));
-        DocToClient(frame);
-        m_picture.DottedFrame(frame, kFrameLight, kFrameDark);
-    }
+    for (CUIObject* object : m_selection)
+        m_picture.DottedFrame(Lumo::RectAtlFromGdi(Lumo::Normalised(object->GetPosition())), kFrameLight,
+                              kFrameDark);
 }
 
 void StudioCanvas::ShowBand(CPoint from, CPoint to) {
