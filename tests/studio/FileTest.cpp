@@ -49,7 +49,7 @@ void Append(Bytes& bytes, T value) {
     bytes.insert(bytes.end(), raw, raw + sizeof value);
 }
 
-Bytes WithHeader(const Bytes& body, DWORD version = 1) {
+Bytes WithHeader(const Bytes& body, DWORD version = 2) {
     Bytes file = {'T', 'S', 'P', 'G', '\r', '\n', 0x1A, '\n'};
     Append(file, version);
     Append(file, Crc32(body.data(), body.size()));
@@ -202,13 +202,15 @@ TEST_F(FileTest, RefusesWhatIsNoSoundFile) {
     m_document->SetModifiedFlag(1);
     Bytes flipped = good;
     flipped[kHeader + 40] ^= 1;
-    Bytes newer = WithHeader(BodyOf(good), 2);
+    Bytes newer = WithHeader(BodyOf(good), 3);
+    Bytes older = WithHeader(BodyOf(good), 0);
     Bytes longer = good;
     longer.push_back(0);
     ExpectRefused({}, Text::kFaultEmpty, "empty");
     ExpectRefused(Bytes(good.begin(), good.begin() + 10), Text::kFaultForeign, "shorter than the header");
     ExpectRefused(Bytes(500, 'x'), Text::kFaultForeign, "another kind");
     ExpectRefused(newer, Text::kFaultVersion, "newer version");
+    ExpectRefused(older, Text::kFaultVersion, "no version");
     ExpectRefused(Bytes(good.begin(), good.end() - 5), Text::kFaultLength, "cut off");
     ExpectRefused(longer, Text::kFaultLength, "too long");
     ExpectRefused(flipped, Text::kFaultChecksum, "one bit wrong");
@@ -258,6 +260,24 @@ TEST_F(FileTest, RefusesContentsThatMakeNoSense) {
     CString path = FileName(L"sound.cbf");
     WriteBytes(path, sound);
     EXPECT_TRUE(m_document->Load(path)) << m_document->GetError().GetString();
+}
+
+TEST_F(FileTest, ReadsTheFirstVersion) {
+    Add(Lumo::DS_LINE, 10, 10, 50, 50);
+    const Bytes object = StoredObject();
+    // The mark of binding and behaviours stood not yet before the points.
+    Bytes first = object;
+    const size_t mark = first.size() - 25;
+    ASSERT_EQ(0, first[mark]);
+    first.erase(first.begin() + mark);
+    Bytes body = PageBody(1, first);
+    Append(body, DWORD(0x21444E45));
+    CString path = FileName(L"first.cbf");
+    WriteBytes(path, WithHeader(body, 1));
+    ASSERT_TRUE(m_document->Load(path)) << m_document->GetError().GetString();
+    EXPECT_EQ(object, StoredObject());
+    WriteBytes(path, WithHeader(body, 2));
+    EXPECT_FALSE(m_document->Load(path));
 }
 
 TEST_F(FileTest, RefusesBottomlessGroups) {
