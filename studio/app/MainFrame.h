@@ -99,7 +99,6 @@ private:
     static bool AskRecover(const CString& name);
     bool Recover(const CString& copy, const CString& path);
 
-    bool IsTabLocked(UINT notification) const;
     void RefreshRunStatus();
 
     PageTools m_tools;

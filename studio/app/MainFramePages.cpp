@@ -26,10 +26,6 @@ BOOL MainFrame::OnNotify(WPARAM id, LPARAM notify, LRESULT* result) {
     if (header.hwndFrom != m_tabs.Window().m_hWnd || !m_document || header.code < Lumo::TABN_FIRST ||
         header.code > Lumo::TABN_LAST)
         return CFrameWnd::OnNotify(id, notify, result);
-    if (IsTabLocked(header.code)) {
-        *result = 1;
-        return TRUE;
-    }
     *result = m_tabs.Handle(
         *reinterpret_cast<const Lumo::TabNotify*>(notify), *m_document, [this] { FinishEditing(); },
         [this](CPoint at) { ShowPagesMenu(at); });

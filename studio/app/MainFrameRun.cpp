@@ -15,6 +15,7 @@ void MainFrame::SetRunning(bool running) {
         m_run.Stop();
     m_hAccelTable = running ? m_runKeys : m_keys;
     ::SetMenu(m_hWnd, running ? nullptr : m_menuBar);
+    m_tabs.SetLocked(running);
     m_toolbox.ShowWindow(running ? SW_HIDE : SW_SHOWNA);
     m_symbols.ShowWindow(m_showSymbols && !running ? SW_SHOWNA : SW_HIDE);
     m_properties.ShowWindow(m_showProperties && !running ? SW_SHOWNA : SW_HIDE);
@@ -28,11 +29,6 @@ void MainFrame::OnRun() {
 void MainFrame::OnRunEscape() {
     if (!m_run.CancelEntry())
         SetRunning(false);
-}
-
-// While the pages run the tabs only switch them.
-bool MainFrame::IsTabLocked(UINT notification) const {
-    return IsRunning() && notification != Lumo::TABN_CHANGING && notification != Lumo::TABN_CHANGED;
 }
 
 void MainFrame::RefreshRunStatus() {
