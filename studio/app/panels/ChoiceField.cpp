@@ -9,7 +9,7 @@ namespace Studio {
 namespace {
 
 constexpr int kArrowWidth = 20;
-constexpr int kMostRows = 14;
+constexpr int kMostRows = 16;
 constexpr int kRowHeight = 20;
 
 }  // namespace

@@ -177,7 +177,8 @@ void PropertyPanel::RefreshChooser() {
         m_behavioursOn = on;
         m_chooser->Replace(BehaviourChoices(on));
     }
-    m_chooser->Show({true, PropertyValue(static_cast<int>(m_behaviour))});
+    const bool any = page && !page->m_selection.empty();
+    m_chooser->Show({any, PropertyValue(static_cast<int>(m_behaviour))});
 }
 
 void PropertyPanel::RefreshTitle() {

@@ -51,7 +51,10 @@ void PropertyPanel::PlaceRows() {
         if (open)
             top += kSectionPadding - kRowGap;
     }
-    m_height = top;
+    // The rows of behaviours differ in number: with room for any of them nothing moves when another is
+    // chosen.
+    const Section& last = BehaviourSection();
+    m_height = last.header.IsOpen() ? std::max<int>(top, last.top + client.Height()) : top;
 }
 
 void PropertyPanel::LayOutRow(Lumo::DeferWindow& places, Row& row, int top, bool shown) {
