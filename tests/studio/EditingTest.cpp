@@ -3,6 +3,8 @@
 
 #include "core/UIObjectPoly.h"
 #include "studio/editing/GroupObject.h"
+#include "studio/editing/History.h"
+#include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
 
 #include <algorithm>
@@ -282,8 +284,8 @@ TEST_F(EditingTest, SurvivesCarelessUse) {
     const UINT keys[] = {0, 0, MK_SHIFT, MK_CONTROL};
     for (int step = 0; step < 6000; ++step) {
         Mouse(messages[upTo(8)], upTo(400), upTo(300), keys[upTo(4)]);
-        const int command = upTo(60);
-        if (command < 4 || command == 6)
+        const int command = upTo(80);
+        if (command < 4 || (command >= 6 && command < 19))
             Page().FinishEditing();
         switch (command) {
             case 0:
@@ -307,6 +309,39 @@ TEST_F(EditingTest, SurvivesCarelessUse) {
             case 6:
                 RotateSelection(Page(), true);
                 break;
+            case 7:
+            case 8:
+            case 9:
+                m_document->Edits().Undo();
+                break;
+            case 10:
+            case 11:
+                m_document->Edits().Redo();
+                break;
+            case 12:
+                if (Objects().size() < 300)
+                    DuplicateSelection(Page());
+                break;
+            case 13:
+                RestackSelection(Page(), static_cast<Stacking>(upTo(4)));
+                break;
+            case 14:
+                FlipSelection(Page(), true);
+                break;
+            case 15:
+                if (m_document->Pages().size() < 5)
+                    m_document->DuplicatePage(m_document->CurrentIndex());
+                break;
+            case 16:
+                m_document->RemovePage(upTo(5));
+                break;
+            case 17:
+                m_document->ShowPage(upTo(5));
+                break;
+            case 18:
+                CutSelection(Page());
+                PasteObjects(Page());
+                break;
             default:
                 if (upTo(4) == 0) {
                     Page().FinishEditing();
@@ -319,6 +354,11 @@ TEST_F(EditingTest, SurvivesCarelessUse) {
     }
     CString path = FileName(L"careless.cbf");
     Page().FinishEditing();
+    while (m_document->Edits().CanUndo())
+        ASSERT_TRUE(m_document->Edits().Undo());
+    EXPECT_TRUE(Objects().empty());
+    while (m_document->Edits().CanRedo())
+        ASSERT_TRUE(m_document->Edits().Redo());
     EXPECT_TRUE(m_document->Save(path));
     EXPECT_TRUE(m_document->Load(path));
 }
