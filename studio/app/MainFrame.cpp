@@ -142,8 +142,10 @@ void MainFrame::FinishEditing() {
 
 void MainFrame::OnClose() {
     SetRunning(false);
-    if (MayDiscard())
-        DestroyWindow();
+    if (!MayDiscard())
+        return;
+    m_autosave->Discard();
+    DestroyWindow();
 }
 
 void MainFrame::OnDestroy() {

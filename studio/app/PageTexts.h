@@ -30,8 +30,8 @@
     X(kAskRecover,         L"Studio ended before the changes to \"%s\" were saved.\n\nRecover them?", \
                            L"\"%s\"의 변경 내용을 저장하기 전에 Studio가 종료되었습니다.\n\n복구할까요?") \
     X(kDemoOverview,       L"Overview",                 L"개요") \
-    X(kDemoOverviewNote,   L"Press F5 to operate the screens, Esc to edit them", \
-                           L"F5를 누르면 화면이 작동하고, Esc를 누르면 편집합니다") \
+    X(kDemoOverviewNote,   L"F5 operates the screens, Esc edits them", \
+                           L"F5: 화면 작동, Esc: 편집") \
     X(kDemoMaster,         L"Master",                   L"마스터") \
     X(kDemoPeak,           L"Input 2 near its limit",   L"입력 2가 한계에 가까움") \
     X(kDemoMatrix,         L"Matrix",                   L"매트릭스") \

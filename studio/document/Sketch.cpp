@@ -41,6 +41,8 @@ CUIObject& Sketch::Shape(Lumo::DrawShape kind, const RectF& rect, DWORD fill, DW
     if (!line)
         shape.SetLineShapeMode(0);
     shape.SetLineWidth(width);
+    // A new shape's caption is a word that no sketch wants, and the setter takes no empty one.
+    shape.GetCoordinate().Format<Lumo::CUIShapeFormatText>().m_strText.Empty();
     return shape;
 }
 

@@ -43,15 +43,15 @@ void DrawKnob(Sketch& s) {
 }
 
 void DrawFader(Sketch& s) {
-    s.Rectangle(RectF(0, 0, 56, 180), kDark, kEdge, 1);
+    s.Rectangle(RectF(0, 0, 56, 180), kBody, kEdge, 2);
     s.Rectangle(RectF(25, 12, 6, 156), 0xFF000000, kEdge, 1);
     for (int i = 0; i < 7; ++i) {
         const float y = 18.0f + static_cast<float>(i) * 24.0f;
-        s.Line({{8, y}, {20, y}}, kEdge, 1);
-        s.Line({{36, y}, {48, y}}, kEdge, 1);
+        s.Line({{8, y}, {20, y}}, kWhite, 2);
+        s.Line({{36, y}, {48, y}}, kWhite, 2);
     }
-    s.Rectangle(RectF(12, 54, 32, 22), kBody, kWhite, 1);
-    s.Line({{12, 65}, {44, 65}}, kRed, 2);
+    s.Rectangle(RectF(12, 54, 32, 22), kEdge, kWhite, 2);
+    s.Line({{12, 65}, {44, 65}}, kRed, 4);
 }
 
 void DrawLamp(Sketch& s) {
