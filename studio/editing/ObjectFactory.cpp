@@ -9,6 +9,7 @@
 #include "studio/controls/StateControls.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/PictureFill.h"
+#include "studio/editing/StyledShapes.h"
 #include "studio/editing/TextBox.h"
 #include "studio/runtime/LiveObject.h"
 
@@ -18,6 +19,12 @@ using Gdiplus::RectF;
 using Lumo::CUIObject;
 
 namespace {
+
+using Rectangle = PictureShape<StyledShape<Lumo::CUIObjectRectangle, OutlineKind::kRectangle>>;
+using Ellipse = PictureShape<StyledShape<Lumo::CUIObjectEllipse, OutlineKind::kEllipse>>;
+// The library draws its lines three times as wide as their record says.
+using Line = StyledFigure<Lumo::CUIObjectLine, 3>;
+using PolyLine = StyledFigure<Lumo::CUIObjectPolyLine, 1>;
 
 struct Style {
     DWORD fill;
@@ -117,15 +124,15 @@ ObjectPtr MakeObject(ObjectClass objectClass) {
     const Lumo::DrawShape kind = KindOf(objectClass);
     switch (objectClass) {
         case ObjectClass::kRectangle:
-            return ObjectPtr(new LiveObject<PictureShape<Lumo::CUIObjectRectangle>>(none, kind));
+            return ObjectPtr(new LiveObject<Rectangle>(none, kind));
         case ObjectClass::kEllipse:
-            return ObjectPtr(new LiveObject<PictureShape<Lumo::CUIObjectEllipse>>(none, kind));
+            return ObjectPtr(new LiveObject<Ellipse>(none, kind));
         case ObjectClass::kTextBox:
             return ObjectPtr(new LiveObject<TextBox>(none));
         case ObjectClass::kLine:
-            return ObjectPtr(new LiveObject<Lumo::CUIObjectLine>(none, kind));
+            return ObjectPtr(new LiveObject<Line>(none, kind));
         case ObjectClass::kPolyLine:
-            return ObjectPtr(new LiveObject<Lumo::CUIObjectPolyLine>(none, kind));
+            return ObjectPtr(new LiveObject<PolyLine>(none, kind));
         case ObjectClass::kGroup:
             return ObjectPtr(new LiveObject<GroupObject>);
         case ObjectClass::kPeqChart:

@@ -45,6 +45,7 @@ BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
     ON_WM_RBUTTONUP()
     ON_WM_CAPTURECHANGED()
     ON_WM_MOUSELEAVE()
+    ON_WM_SHOWWINDOW()
     ON_WM_MOUSEWHEEL()
     ON_WM_SETCURSOR()
     ON_WM_CTLCOLOR()
@@ -360,6 +361,15 @@ void StudioCanvas::OnCaptureChanged(CWnd* window) {
         CancelGesture();
     if (window != this && m_operator)
         m_operator->PointerLeft(*this);
+}
+
+// Another page is shown: what was being done on this one is over.
+void StudioCanvas::OnShowWindow(BOOL show, UINT status) {
+    CUICanvas::OnShowWindow(show, status);
+    if (!show) {
+        EndGesture();
+        EndTextEdit();
+    }
 }
 
 BOOL StudioCanvas::OnSetCursor(CWnd* window, UINT hit, UINT message) {

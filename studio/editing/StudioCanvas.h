@@ -118,6 +118,7 @@ protected:
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg void OnMouseLeave();
+    afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg BOOL OnMouseWheel(UINT flags, short turn, CPoint screen);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
