@@ -44,7 +44,7 @@ void PaintText(CDC& dc, const CString& text, CRect rect, DWORD color, UINT align
 enum class ArrowLook { kDown, kUp, kRight };
 void PaintArrow(CDC& dc, CPoint centre, ArrowLook look, DWORD color);
 
-/// The font of headings, one for the program.
-HFONT HeadingFont();
+/// The font of a heading; it belongs to the program.
+HFONT HeadingFont(const CString& text);
 
 }  // namespace Studio

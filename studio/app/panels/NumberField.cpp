@@ -9,7 +9,7 @@ namespace Studio {
 namespace {
 
 constexpr int kArrowsWidth = 15;
-constexpr int kLetterWidth = 14;
+constexpr int kLetterWidth = 16;
 constexpr float kFarStep = 10.0f;
 constexpr UINT_PTR kRepeatTimer = 1;
 constexpr UINT kFirstRepeat = 350;

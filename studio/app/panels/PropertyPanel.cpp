@@ -83,8 +83,8 @@ bool PropertyPanel::BuildSections() {
     m_chooser = static_cast<ChoiceField*>(AddField(BehaviourSection(), m_chooserProperty));
     if (!m_chooser || !BuildBehaviourRows())
         return false;
-    RefreshChooser();
     LayOut();
+    Refresh();
     return true;
 }
 

@@ -2,6 +2,8 @@
 
 #include "studio/app/panels/FieldPainting.h"
 
+#include <algorithm>
+
 namespace Studio {
 
 namespace {
@@ -44,8 +46,8 @@ void RefusalNote::Show(const CRect& field, const CString& reason) {
     const int height = room.Height() + 2 * kPadding;
     const bool below = field.bottom + kGap + height <= parent.bottom;
     const int top = below ? field.bottom + kGap : field.top - kGap - height;
-    SetWindowPos(&wndTop, parent.right - kMargin - width, top, width, height,
-                 SWP_NOACTIVATE | SWP_SHOWWINDOW | SWP_NOCOPYBITS);
+    const int left = std::min<int>(field.left, parent.right - kMargin - width);
+    SetWindowPos(&wndTop, left, top, width, height, SWP_NOACTIVATE | SWP_SHOWWINDOW | SWP_NOCOPYBITS);
     Invalidate(FALSE);
 }
 

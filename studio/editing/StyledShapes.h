@@ -1,0 +1,52 @@
+// Shapes and lines whose outline has the dashes and caps of their record.
+#pragma once
+
+#include "core/UIObjectPoly.h"
+
+namespace Studio {
+
+/// Outline of a rectangle or an ellipse.
+enum class OutlineKind { kRectangle, kEllipse };
+
+/// Draws the outline of an object in its record's dash style; false, with nothing drawn, when that is solid.
+bool DrawDashedOutline(Gdiplus::Graphics& g, const Lumo::CUICoordinate& coordinate, OutlineKind kind);
+
+/// Draws a figure in one stroke with the dash style and the caps of its record, its width times
+/// `widthFactor`.
+void DrawStyledFigure(Gdiplus::Graphics& g, Lumo::CUIObjectPoly& figure, float widthFactor);
+
+/// The library outlines its shapes with a solid pen. This one uses the dash style of the record.
+template <class Base, OutlineKind kKind>
+class StyledShape : public Base {
+public:
+    using Base::Base;
+
+    void Draw(Gdiplus::Graphics* g) override {
+        auto& coordinate = this->GetCoordinate();
+        auto& line = coordinate.template Format<Lumo::CUIShapeFormatLineColor>();
+        const int mode = line.m_nShapeMode;
+        // The fill covers the inner half of an outline: it comes after the dashed one, too.
+        if (g && DrawDashedOutline(*g, coordinate, kKind))
+            line.m_nShapeMode = 0;
+        Base::Draw(g);
+        line.m_nShapeMode = mode;
+    }
+};
+
+/// The library's line has no dashes, and its polyline no caps either. This one has both; while it is being
+/// drawn point by point it looks like the library's.
+template <class Base, int kWidthFactor>
+class StyledFigure : public Base {
+public:
+    using Base::Base;
+
+    void Draw(Gdiplus::Graphics* g) override {
+        const Gdiplus::PointF pending = this->GetPendingOffset();
+        if (!g || pending.X != 0.0f || pending.Y != 0.0f || this->NormalizePoints()->size() < 2)
+            Base::Draw(g);
+        else
+            DrawStyledFigure(*g, *this, static_cast<float>(kWidthFactor));
+    }
+};
+
+}  // namespace Studio
