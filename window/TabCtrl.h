@@ -104,7 +104,7 @@ public:
     /// Where a tab is shown, in client coordinates; may lie outside the visible strip. Empty for an index
     /// that is none.
     CRect GetTabRect(int index) const;
-    /// Where the editor, the close, add and scroll buttons are; empty when they are not shown.
+    /// Where a tab, its close button, or the add and scroll buttons are; empty when they are not shown.
     CRect GetPartRect(TabPart part, int index = -1) const;
     /// What is under a point (client coordinates), and the tab there or -1.
     TabPart HitTest(CPoint point, int* tab = nullptr) const;
@@ -163,6 +163,7 @@ private:
     void Arrange();
     int VisibleWidth() const;
     int ContentWidth() const;
+    int AddLeft() const;
     void ScrollTo(int offset);
     Place PlaceAt(CPoint point) const;
     void SetHot(Place hot);

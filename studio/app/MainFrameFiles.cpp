@@ -4,6 +4,7 @@
 #include "studio/document/DemoProject.h"
 #include "studio/document/PageFile.h"
 #include "studio/document/PageImage.h"
+#include "studio/document/Settings.h"
 
 #include <afxdlgs.h>
 
@@ -12,21 +13,7 @@ namespace Studio {
 namespace {
 
 constexpr UINT kAutosavePause = 60'000;
-constexpr WCHAR kSettings[] = L"Software\\TesselStudio";
 constexpr WCHAR kStarted[] = L"Started";
-
-// Whether Studio starts for the first time in the user's account; not any more afterwards.
-bool IsFirstStart() {
-    HKEY key = nullptr;
-    if (::RegCreateKeyEx(HKEY_CURRENT_USER, kSettings, 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, &key,
-                         nullptr) != ERROR_SUCCESS)
-        return false;
-    const bool first = ::RegQueryValueEx(key, kStarted, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS;
-    const DWORD yes = 1;
-    ::RegSetValueEx(key, kStarted, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&yes), sizeof yes);
-    ::RegCloseKey(key);
-    return first;
-}
 
 }  // namespace
 
@@ -72,7 +59,8 @@ void MainFrame::OpenDemo() {
 }
 
 void MainFrame::Start(bool demo) {
-    const bool first = IsFirstStart();
+    const bool first = ReadSetting(kStarted).IsEmpty();
+    WriteSetting(kStarted, L"yes");
     if (!RecoverUntitled() && (first || demo))
         OpenDemo();
 }

@@ -2,16 +2,25 @@
 #include "studio/app/MainFrame.h"
 
 #include "studio/app/Commands.h"
+#include "studio/document/Settings.h"
 #include "studio/editing/ObjectClipboard.h"
 
 namespace Studio {
+
+namespace {
+
+constexpr WCHAR kSymbolFolder[] = L"SymbolFolder";
+
+}  // namespace
 
 bool MainFrame::CreatePageParts() {
     if (!m_tabs.Create(*this) || !m_symbols.Create(*this))
         return false;
     m_document->onPages = [this] { OnPagesChanged(); };
     m_symbols.onInsert = [this](const CString& path, const CPoint* screen) { InsertSymbol(path, screen); };
-    m_symbols.ShowFolder(DefaultSymbolFolder());
+    m_symbols.onFolder = [this] { WriteSetting(kSymbolFolder, m_symbols.Folder()); };
+    const CString folder = ReadSetting(kSymbolFolder);
+    m_symbols.ShowFolder(folder.IsEmpty() ? DefaultSymbolFolder() : folder);
     StartAutosave();
     return true;
 }

@@ -235,6 +235,11 @@ TEST_F(Tabs, ScrollWhenTheyDoNotFit) {
     EXPECT_LE(m_tabs.GetTabRect(15).right, m_tabs.GetPartRect(TabPart::kScrollLeft).left);
     m_tabs.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 100 * WHEEL_DELTA), 0);
     EXPECT_EQ(before, m_tabs.GetTabRect(0).left) << "no farther than the first";
+    m_tabs.SetAddButton(true);
+    const CRect add = m_tabs.GetPartRect(TabPart::kAdd);
+    EXPECT_EQ(TabPart::kAdd, m_tabs.HitTest(add.CenterPoint())) << "always within reach";
+    EXPECT_LE(add.right, m_tabs.GetPartRect(TabPart::kScrollLeft).left);
+    m_tabs.SetAddButton(false);
     m_tabs.SetCurrent(15);
     while (m_tabs.GetTabCount() > 2)
         m_tabs.RemoveTab(0);

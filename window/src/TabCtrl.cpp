@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kButton = 18;    // side of close, add and scroll buttons
 constexpr int kButtonGap = 6;  // between a button and what is beside it
+constexpr int kAddArea = kButton + 2 * kButtonGap;
 constexpr int kScrollArea = 2 * kButton + 2 * kButtonGap;
 
 }  // namespace
@@ -166,20 +167,23 @@ void TabCtrl::Arrange() {
     ::SelectObject(dc, oldFont);
     CRect client;
     GetClientRect(client);
+    m_scrolling = false;
     m_scrolling = ContentWidth() > client.Width();
     ScrollTo(m_offset);
 }
 
+// Width of the tabs and, as long as everything fits, the add button behind them.
 int TabCtrl::ContentWidth() const {
     const int tabs = m_tabs.empty() ? m_style->Indent() : m_tabs.back().left + m_tabs.back().width;
-    return tabs + (m_addButton ? kButton + 2 * kButtonGap : 0);
+    return tabs + (m_addButton && !m_scrolling ? kAddArea : 0);
 }
 
-// Width of the part that shows tabs.
+// Width of the part that shows tabs; when they scroll the buttons stay beside it.
 int TabCtrl::VisibleWidth() const {
     CRect client;
     GetClientRect(client);
-    return std::max(static_cast<int>(client.Width()) - (m_scrolling ? kScrollArea : 0), 0);
+    const int buttons = m_scrolling ? kScrollArea + (m_addButton ? kAddArea : 0) : 0;
+    return std::max(static_cast<int>(client.Width()) - buttons, 0);
 }
 
 void TabCtrl::ScrollTo(int offset) {
@@ -231,19 +235,23 @@ CRect TabCtrl::GetPartRect(TabPart part, int index) const {
             break;
         case TabPart::kAdd:
             if (m_addButton)
-                rect = CRect(CPoint(ContentWidth() - kButton - kButtonGap - m_offset, top), size);
+                rect = CRect(CPoint(AddLeft(), top), size);
             break;
         case TabPart::kScrollLeft:
         case TabPart::kScrollRight:
             if (m_scrolling) {
-                const int left = VisibleWidth() + kButtonGap + (part == TabPart::kScrollRight ? kButton : 0);
-                rect = CRect(CPoint(left, top), size);
+                const int left = client.right - kScrollArea + kButtonGap;
+                rect = CRect(CPoint(part == TabPart::kScrollRight ? left + kButton : left, top), size);
             }
             break;
         default:
             break;
     }
     return rect;
+}
+
+int TabCtrl::AddLeft() const {
+    return m_scrolling ? VisibleWidth() + kButtonGap : ContentWidth() - kButton - kButtonGap - m_offset;
 }
 
 TabPart TabCtrl::HitTest(CPoint point, int* tab) const {
@@ -258,7 +266,7 @@ TabCtrl::Place TabCtrl::PlaceAt(CPoint point) const {
     GetClientRect(client);
     if (!client.PtInRect(point))
         return {};
-    for (TabPart part : {TabPart::kScrollLeft, TabPart::kScrollRight}) {
+    for (TabPart part : {TabPart::kAdd, TabPart::kScrollLeft, TabPart::kScrollRight}) {
         if (GetPartRect(part).PtInRect(point))
             return {part, -1};
     }
@@ -270,7 +278,7 @@ TabCtrl::Place TabCtrl::PlaceAt(CPoint point) const {
         if (GetTabRect(index).PtInRect(point))
             return {TabPart::kTab, index};
     }
-    return GetPartRect(TabPart::kAdd).PtInRect(point) ? Place{TabPart::kAdd, -1} : Place{};
+    return {};
 }
 
 LRESULT TabCtrl::Notify(TabNotifyCode code, int tab, int target, LPCWSTR text, CPoint at) {

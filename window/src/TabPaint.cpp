@@ -13,6 +13,7 @@ constexpr struct {
     TabPart part;
     TabSign sign;
 } kSigns[] = {
+    {TabPart::kAdd, TabSign::kAdd},
     {TabPart::kScrollLeft, TabSign::kScrollLeft},
     {TabPart::kScrollRight, TabSign::kScrollRight},
 };
@@ -52,13 +53,11 @@ void TabCtrl::PaintStrip(CDC& dc, const CRect& client) const {
     }
     if (m_current >= 0)
         PaintTab(dc, m_current);
-    if (m_addButton)
-        m_style->DrawSign(dc, TabSign::kAdd, GetPartRect(TabPart::kAdd), SignState(TabPart::kAdd));
     if (m_dragging && m_dropIndex >= 0)
         m_style->DrawDropMark(dc, DropMarkX(), client);
     dc.RestoreDC(saved);
     for (const auto& row : kSigns) {
-        if (m_scrolling)
+        if (!GetPartRect(row.part).IsRectEmpty())
             m_style->DrawSign(dc, row.sign, GetPartRect(row.part), SignState(row.part));
     }
 }
