@@ -154,6 +154,7 @@ ButtonControl::ButtonControl(Lumo::DrawShape kind) : CUIObjectButtonRectRound(Re
     // A button starts as the library's own `Init` leaves it.
     RectF none;
     Init(kind, none);
+    m_coordinate.Format<Lumo::CUIShapeFormatText>().m_strText.Empty();
 }
 
 void ButtonControl::Connect(Device* device) {

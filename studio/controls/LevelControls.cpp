@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Studio {
 
@@ -182,7 +183,7 @@ void LevelChart::DrawMeter(Gdiplus::Graphics& g, const PointF& corner, const CRe
 }
 
 void LevelButton::Watch(std::vector<int>& values) {
-    for (LPCWSTR what : {L".level", L".gain", L".mute"})
+    for (LPCWSTR what : {L".gain", L".mute"})
         values.push_back(ValueOf(what));
 }
 
@@ -197,21 +198,63 @@ void LevelButton::Render(Picture& picture) {
     gain.Format(L"%+.1f dB", Value(L".gain"));
     const float bar = std::max(3.0f, std::min(8.0f, height * 0.16f));
     const float text = height - bar - 9.0f;
-    picture.Text(title, 8, 2, width - 8, text, 11.0f, Ink::kText, Gdiplus::StringAlignmentNear, true);
-    if (width >= 90)
-        picture.Text(muted ? CString(L"MUTE") : gain, 8, 2, width - 8, text, 11.0f,
-                     muted ? Ink::kRed : Ink::kQuiet, Gdiplus::StringAlignmentFar);
-    const float left = 8, right = width - 8, top = height - bar - 7;
-    picture.Fill(left, top, right, top + bar, Ink::kWell);
-    const double level = Value(L".level", kBottom);
-    const auto place = [&](double decibels) {
-        return left + (right - left) *
-                          static_cast<float>(std::clamp((decibels - kBottom) / (kTop - kBottom), 0.0, 1.0));
-    };
-    for (const auto& [from, to] : {std::pair{kBottom, kWarm}, {kWarm, kHot}, {kHot, kTop}}) {
-        if (level > from)
-            picture.Fill(place(from), top, place(std::min(level, to)), top + bar, ColorOf(from));
+    const DWORD gainInk = muted ? Ink::kRed : Ink::kQuiet;
+    if (muted)
+        gain = L"MUTE";
+    if (text >= 34.0f) {
+        const float middle = text / 2.0f + 2.0f;
+        picture.Text(title, 4, middle - 18, width - 4, middle, 12.0f, Ink::kText,
+                     Gdiplus::StringAlignmentCenter, true);
+        picture.Text(gain, 4, middle, width - 4, middle + 18, 11.0f, gainInk);
+    } else {
+        picture.Text(title, 8, 2, width - 8, text, 11.0f, Ink::kText, Gdiplus::StringAlignmentNear, true);
+        if (width >= 90)
+            picture.Text(gain, 8, 2, width - 8, text, 11.0f, gainInk, Gdiplus::StringAlignmentFar);
     }
+    const CRect well = Bar();
+    picture.Fill(static_cast<float>(well.left), static_cast<float>(well.top), static_cast<float>(well.right),
+                 static_cast<float>(well.bottom), Ink::kWell);
+    m_lit = std::make_unique<Picture>(well.Width(), well.Height());
+    for (int x = 0; x < well.Width(); ++x) {
+        const double decibels = kBottom + (kTop - kBottom) * x / well.Width();
+        m_lit->Fill(static_cast<float>(x), 0, static_cast<float>(x + 1), static_cast<float>(well.Height()),
+                    ColorOf(decibels));
+    }
+}
+
+CRect LevelButton::Bar() {
+    const CSize size = Size();
+    const int thickness = std::clamp(static_cast<int>(size.cy) * 4 / 25, 3, 8);
+    return {8, size.cy - thickness - 7, std::max<int>(9, size.cx - 8), size.cy - 7};
+}
+
+int LevelButton::LevelColumn() {
+    const double part = (Value(L".level", kBottom) - kBottom) / (kTop - kBottom);
+    return static_cast<int>(std::lround(std::clamp(part, 0.0, 1.0) * Bar().Width()));
+}
+
+bool LevelButton::TakeChange(CRect& part) {
+    const int before = std::exchange(m_drawnLevel, LevelColumn());
+    if (ButtonControl::TakeChange(part))
+        return true;
+    if (before == m_drawnLevel)
+        return false;
+    const CRect bar = Bar();
+    part = CRect(bar.left + std::min(before, m_drawnLevel), bar.top,
+                 bar.left + std::max(before, m_drawnLevel), bar.bottom);
+    return true;
+}
+
+void LevelButton::DrawWithLevel(Gdiplus::Graphics& g) {
+    DrawPicture(g);
+    if (!m_lit)
+        return;
+    if (!IsRunning())
+        m_drawnLevel = LevelColumn();
+    const RectF bounds = Lumo::Normalised(GetPosition());
+    const CRect bar = Bar();
+    const CRect lit(0, 0, m_drawnLevel, m_lit->Height());
+    m_lit->Draw(g, bounds.X + static_cast<float>(bar.left), bounds.Y + static_cast<float>(bar.top), &lit);
 }
 
 void LevelButton::OnDragEnter(CWnd*, UINT, const CPoint&) {

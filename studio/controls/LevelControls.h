@@ -46,6 +46,11 @@ public:
     LevelButton() : ButtonControl(Lumo::DS_BUTTONLEVEL) {}
 
     LPCWSTR DefaultBinding() const override { return L"in1"; }
+    /// The level moves all the time: only its bar is repainted.
+    bool TakeChange(CRect& part) override;
+    void DrawNormal(Gdiplus::Graphics* g) override { DrawWithLevel(*g); }
+    void DrawDown(Gdiplus::Graphics* g) override { DrawWithLevel(*g); }
+    void DrawOver(Gdiplus::Graphics* g) override { DrawWithLevel(*g); }
     void OnDragEnter(CWnd* window, UINT flags, const CPoint& point) override;
     void OnDrag(CWnd* window, UINT flags, const CPoint& point) override;
 
@@ -55,6 +60,12 @@ protected:
     void Click() override;
 
 private:
+    CRect Bar();
+    int LevelColumn();
+    void DrawWithLevel(Gdiplus::Graphics& g);
+
+    int m_drawnLevel = 0;  // pixels of the bar
+    std::unique_ptr<Picture> m_lit;
     double m_gainAtPress = 0.0;
 };
 

@@ -10,6 +10,7 @@ namespace Studio {
 namespace {
 
 constexpr double kSilent = -40.0;
+constexpr DWORD kFaint = 0xFF5D6A7D;
 
 CString Numbered(LPCWSTR format, int a, int b = 0) {
     CString text;
@@ -189,7 +190,7 @@ void DeviceButton::Render(Picture& picture) {
         picture.Text(mute ? L"MUTE"
                      : on ? L"ON"
                           : L"OFF",
-                     4, height * 0.5f, width - 4, height * 0.94f, 10.0f, on ? ink : Ink::kGridStrong);
+                     4, height * 0.5f, width - 4, height * 0.94f, 10.0f, on ? ink : kFaint);
 }
 
 // A radio button is alone on in its group on the page.

@@ -53,9 +53,10 @@ void BandButton::Render(Picture& picture) {
     const float left = 2 * disc + 16;
     if (width - left < 30)
         return;
-    const CString frequency = FrequencyLabel(band.frequency) + L" Hz";
+    const bool units = width - left >= 58;
+    const CString frequency = FrequencyLabel(band.frequency) + (units ? L" Hz" : L"");
     CString gain;
-    gain.Format(L"%+.1f dB", band.gain);
+    gain.Format(units ? L"%+.1f dB" : L"%+.1f", band.gain);
     const DWORD text = band.on ? Ink::kText : Ink::kQuiet;
     if (height >= 32) {
         picture.Text(frequency, left, height * 0.1f, width - 6, height * 0.52f, 11.0f, text,

@@ -248,7 +248,9 @@ Band Device::PeqBand(int output, int band) const {
 }
 
 double Device::GeqFrequency(int band) {
-    return 1000.0 * std::pow(10.0, (band - 18) / 10.0);
+    constexpr double kNominal[] = {20.0, 25.0, 31.5, 40.0, 50.0, 63.0, 80.0, 100.0, 125.0, 160.0};
+    const int index = std::clamp(band, 1, kGeqBands) - 1;
+    return kNominal[index % 10] * std::pow(10.0, index / 10);
 }
 
 CString Device::Describe(int value) const {

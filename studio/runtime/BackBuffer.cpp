@@ -11,6 +11,7 @@ BackBuffer::~BackBuffer() {
 }
 
 void BackBuffer::Drop() {
+    m_wrapper.reset();
     if (m_dc) {
         ::SelectObject(m_dc, m_before);
         ::DeleteDC(m_dc);
@@ -39,6 +40,8 @@ bool BackBuffer::Fit(CSize size) {
         AfxThrowMemoryException();
     m_dc = ::CreateCompatibleDC(nullptr);
     m_before = ::SelectObject(m_dc, m_bitmap);
+    m_wrapper = std::make_unique<Gdiplus::Bitmap>(size.cx, size.cy, size.cx * 4, PixelFormat32bppRGB,
+                                                  static_cast<BYTE*>(pixels));
     return true;
 }
 
@@ -52,7 +55,7 @@ void BackBuffer::Paint(const CRect& part, const std::function<void(Gdiplus::Grap
     {
         const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(area));
         const DirectPaint direct(m_dc);
-        Gdiplus::Graphics g(m_dc);
+        Gdiplus::Graphics g(m_wrapper.get());
         g.SetClip(Lumo::RectGdiFromAtl(area));
         draw(g);
     }

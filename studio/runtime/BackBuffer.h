@@ -4,6 +4,7 @@
 #include "core/Platform.h"
 
 #include <functional>
+#include <memory>
 
 namespace Studio {
 
@@ -32,6 +33,8 @@ private:
     HDC m_dc = nullptr;
     HBITMAP m_bitmap = nullptr;
     HGDIOBJ m_before = nullptr;
+    // Over the same pixels: the graphics library is faster on its own bitmaps than on a device context.
+    std::unique_ptr<Gdiplus::Bitmap> m_wrapper;
 };
 
 }  // namespace Studio

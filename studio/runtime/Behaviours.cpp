@@ -16,11 +16,19 @@ double Mix(double from, double to, double part) {
     return from + (to - from) * part;
 }
 
+// A share of the object's extent in a direction, to the next whole unit.
+float WholeUnits(double part, int direction, const RectF& rest) {
+    const bool across = direction == kRight || direction == kLeft;
+    const double extent = std::max(1.0f, across ? rest.Width : rest.Height);
+    return static_cast<float>(std::round(part * extent) / extent);
+}
+
 void EvaluateMove(const CPrefMove& move, double value, Look& look) {
     double part = PartOf(value, move.m_nLowValue, move.m_nHighValue);
     if (move.m_nMode == 1)
         part = part >= 1.0 ? 1.0 : 0.0;
-    const auto way = static_cast<float>(part * move.m_fDistance);
+    // Whole units: what a screen does not show is no change.
+    const auto way = static_cast<float>(std::round(part * move.m_fDistance));
     switch (move.m_nDirection) {
         case kUp:
             look.y -= way;
@@ -50,7 +58,7 @@ void EvaluateSize(const CPrefSize& size, double value, const RectF& rest, Look& 
         high *= drawn / 100.0;
     }
     const double part = PartOf(value, size.m_nLowValue, size.m_nHighValue);
-    const auto now = static_cast<float>(std::max(0.0, Mix(low, high, part)));
+    const auto now = static_cast<float>(std::round(std::max(0.0, Mix(low, high, part))));
     float& extent = vertical ? look.height : look.width;
     if (size.m_nDirection == kUp)
         look.y += extent - now;
@@ -203,11 +211,12 @@ Look Evaluate(const ObjectExtras& extras, const BoundValues& values, const Devic
     });
     with(Behaviour::kColor, [&](int value, double) { EvaluateColor(prefs.m_color, device, value, look); });
     with(Behaviour::kFill, [&](int, double now) {
-        look.filled = static_cast<float>(PartOf(now, prefs.m_fill.m_nLowValue, prefs.m_fill.m_nHighValue));
+        look.filled = WholeUnits(PartOf(now, prefs.m_fill.m_nLowValue, prefs.m_fill.m_nHighValue),
+                                 prefs.m_fill.m_nDirection, rest);
     });
     with(Behaviour::kSlider, [&](int, double now) {
-        look.slider =
-            static_cast<float>(PartOf(now, prefs.m_slider.m_nLowValue, prefs.m_slider.m_nHighValue));
+        look.slider = WholeUnits(PartOf(now, prefs.m_slider.m_nLowValue, prefs.m_slider.m_nHighValue),
+                                 prefs.m_slider.m_nDirection, rest);
     });
     with(Behaviour::kText, [&](int value, double) {
         look.hasCaption = true;

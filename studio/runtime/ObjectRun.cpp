@@ -6,7 +6,7 @@
 #include "core/PaintScope.h"
 #include "behaviour/UIObjectTextEdit.h"
 #include "studio/controls/Control.h"
-#include "studio/editing/GroupObject.h"
+#include "studio/editing/ObjectFactory.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,9 +53,37 @@ RectF Across(const RectF& bounds, int direction, float at, float thickness) {
     return Slice(bounds, direction, middle - half, middle + half);
 }
 
+// Opaque areas go straight to the device context where there is one: a tenth of the cost.
+bool FillDirectly(Gdiplus::Graphics& g, DWORD color, const RectF& area) {
+    const HDC target = DirectPaint::Target();
+    if (!target || color >> 24 != 0xFF)
+        return false;
+    PointF corners[] = {{area.X, area.Y}, {area.X + area.Width, area.Y + area.Height}};
+    g.TransformPoints(Gdiplus::CoordinateSpaceDevice, Gdiplus::CoordinateSpaceWorld, corners, 2);
+    const RECT pixels = {Lumo::RoundToInt(corners[0].X), Lumo::RoundToInt(corners[0].Y),
+                         Lumo::RoundToInt(corners[1].X), Lumo::RoundToInt(corners[1].Y)};
+    ::SetBkColor(target, RGB(color >> 16 & 0xFF, color >> 8 & 0xFF, color & 0xFF));
+    ::ExtTextOut(target, 0, 0, ETO_OPAQUE, &pixels, nullptr, 0, nullptr);
+    return true;
+}
+
 void FillArea(Gdiplus::Graphics& g, DWORD color, const RectF& area) {
+    if (FillDirectly(g, color, area))
+        return;
     const Gdiplus::SolidBrush brush{Gdiplus::Color(color)};
     g.FillRectangle(&brush, area);
+}
+
+// How far beyond its bounds an object paints while it runs: there are no selection handles then.
+float RunMargin(CUIObject& object) {
+    switch (object.GetDrawShape()) {
+        case Lumo::DS_RECTANGLE:
+        case Lumo::DS_ELLIPSE:
+        case Lumo::DS_TEXTEDIT:
+            return object.GetLineWidth() / 2 + 1.0f;
+        default:
+            return IsControl(object.GetDrawShape()) ? 0.0f : PaintMargin(object);
+    }
 }
 
 bool IsSame(const RectF& a, const RectF& b) {
@@ -131,12 +159,8 @@ bool ObjectRun::IsDue(double time) {
 void ObjectRun::Update(double time, std::vector<RectF>& dirty) {
     if (IsDue(time)) {
         const Look look = Evaluate(m_extras, m_values, m_device, m_rest, time);
-        if (look != m_look || !m_started) {
-            if (m_started)
-                dirty.push_back(PaintedBounds());
-            Apply(look);
-            dirty.push_back(PaintedBounds());
-        }
+        if (look != m_look || !m_started)
+            Change(look, dirty);
         m_started = true;
     }
     if (m_trend && m_trend->Sample(time))
@@ -152,6 +176,28 @@ void ObjectRun::Update(double time, std::vector<RectF>& dirty) {
             area.Offset(m_object.GetPosition().X + origin.X, m_object.GetPosition().Y + origin.Y);
         dirty.push_back(area);
     }
+}
+
+void ObjectRun::Change(const Look& look, std::vector<RectF>& dirty) {
+    Look level = m_look;
+    level.filled = look.filled;
+    const bool onlyLevel =
+        m_started && level == look && m_look.filled >= 0.0f && look.filled >= 0.0f && look.angle == 0.0f;
+    if (onlyLevel) {
+        // The strip between the old and the new level, with the border between the parts.
+        const auto [from, to] = std::minmax(m_look.filled, look.filled);
+        RectF strip =
+            Slice(Lumo::Normalised(m_object.GetPosition()), m_extras.prefs.m_fill.m_nDirection, from, to);
+        strip.Offset(Origin());
+        dirty.push_back(Lumo::Inflated(strip, 2.0f));
+        m_look = look;
+        return;
+    }
+    if (m_started)
+        dirty.push_back(PaintedBounds());
+    Apply(look);
+    dirty.push_back(PaintedBounds());
+    m_moved = true;
 }
 
 void ObjectRun::Apply(const Look& look) {
@@ -201,7 +247,7 @@ void ObjectRun::ApplyColors(const Look& look) {
 RectF ObjectRun::PaintedBounds() {
     RectF bounds = Lumo::Normalised(m_object.GetPosition());
     const PointF centre = Lumo::CentreOf(bounds) + PointF(m_look.centreX, m_look.centreY);
-    bounds = Lumo::Inflated(bounds, PaintMargin(m_object));
+    bounds = Lumo::Inflated(bounds, RunMargin(m_object));
     if (m_look.angle != 0.0f)
         bounds = Lumo::Inflated(Lumo::RotatedBounds(m_look.angle, bounds, centre), 1.0f);
     bounds.Offset(Origin());
@@ -246,7 +292,7 @@ void ObjectRun::DrawUpright(Gdiplus::Graphics& g, const std::function<void()>& o
         own();
         return;
     }
-    if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, PaintMargin(m_object))))
+    if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, RunMargin(m_object))))
         return;
     if (m_look.filled >= 0.0f && !m_look.hideFill)
         DrawFilled(g);
@@ -272,7 +318,9 @@ void ObjectRun::DrawFilled(Gdiplus::Graphics& g) {
     const CPrefFill& fill = m_extras.prefs.m_fill;
     const RectF bounds = Lumo::Normalised(m_object.GetPosition());
     Lumo::GraphicsStateScope state(g);
-    if (m_object.GetDrawShape() == Lumo::DS_ELLIPSE) {
+    const bool round = m_object.GetDrawShape() == Lumo::DS_ELLIPSE;
+    const DirectPaint direct(round ? nullptr : DirectPaint::Target());
+    if (round) {
         Gdiplus::GraphicsPath path;
         path.AddEllipse(bounds);
         g.SetClip(&path, Gdiplus::CombineModeIntersect);

@@ -7,6 +7,8 @@
 #include "studio/runtime/LiveObject.h"
 #include "studio/runtime/TrendGraph.h"
 
+#include <utility>
+
 namespace Studio {
 
 class Control;
@@ -41,6 +43,8 @@ public:
     /// Brings the object up to date. Everything that has to be repainted is added to `dirty` (page units).
     void Update(double time, std::vector<Gdiplus::RectF>& dirty);
 
+    /// Whether `PaintedBounds` may have changed since the last call.
+    bool TakeMoved() { return std::exchange(m_moved, false); }
     /// Everything the object paints now, in page units.
     Gdiplus::RectF PaintedBounds();
     /// Whether a point (page units) lies in the object and something would answer a press there.
@@ -59,6 +63,7 @@ public:
 private:
     Gdiplus::PointF Origin() const;
     bool IsDue(double time);
+    void Change(const Look& look, std::vector<Gdiplus::RectF>& dirty);
     void Apply(const Look& look);
     void ApplyColors(const Look& look);
     bool TakesMouse() const;
@@ -92,6 +97,7 @@ private:
     Look m_look;
     Gdiplus::RectF m_placed;
     bool m_started = false;
+    bool m_moved = true;
     long long m_blinkPhase = 0;
     bool m_pressed = false;
     double m_partAtPress = 0.0;

@@ -16,6 +16,7 @@ using Lumo::CUIObject;
 namespace {
 
 // A kind that no drawing tool serves.
+const RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
 constexpr Lumo::DrawShape kRunningKind = Lumo::DS_UNKNOWN;
 
 CRect Pixels(const RectF& area) {
@@ -72,17 +73,30 @@ void RunSession::Prepare(StudioCanvas& canvas) {
     RunningPage& page = m_pages[&canvas];
     page.mode = canvas.m_nMode;
     page.selection.swap(canvas.m_selection);
-    std::vector<CUIObject*> groups;
     if (const auto* objects = canvas.Objects()) {
         for (CUIObject* object : *objects) {
             if (object && !object->GetRemoved())
-                Collect(page, *object, groups);
+                Show(page, *object);
         }
     }
     canvas.OnModeRunning();
     canvas.SetOperator(this);
     if (canvas.m_hWnd)
         canvas.Invalidate(FALSE);
+}
+
+void RunSession::Show(RunningPage& page, CUIObject& object) {
+    const size_t before = page.live.size();
+    std::vector<CUIObject*> groups;
+    Collect(page, object, groups);
+    const bool runs = page.live.size() > before;
+    ObjectRun* own = runs && &page.live[before]->Object() == &object ? page.live[before].get() : nullptr;
+    const bool isGroup = object.GetDrawShape() == Lumo::DS_GROUP;
+    // Children that run may leave their group.
+    const RectF reach = runs && isGroup
+                            ? kEverywhere
+                            : Lumo::Inflated(Lumo::Normalised(object.GetPosition()), PaintMargin(object));
+    page.shown.push_back({&object, isGroup ? nullptr : own, reach});
 }
 
 // In drawing order: the last one is on top.
@@ -145,14 +159,22 @@ void RunSession::PaintDirty(StudioCanvas& page, RunningPage& running, std::vecto
     JoinOverlapping(areas);
     CClientDC dc(&page);
     for (const CRect& area : areas) {
-        PaintPart(page, running, area);
+        PaintPart(running, area);
         running.buffer.Show(dc, area);
     }
 }
 
-void RunSession::PaintPart(StudioCanvas& page, RunningPage& running, const CRect& part) {
+void RunSession::PaintPart(RunningPage& running, const CRect& part) {
     m_paintedPixels += static_cast<long long>(part.Width()) * part.Height();
-    running.buffer.Paint(part, [&](Gdiplus::Graphics& g) { m_document.DrawCanvas(&g, &page); });
+    const RectF area = Lumo::RectGdiFromAtl(part);
+    running.buffer.Paint(part, [&](Gdiplus::Graphics& g) {
+        for (Shown& shown : running.shown) {
+            if (shown.run && shown.run->TakeMoved())
+                shown.reach = shown.run->PaintedBounds();
+            if (shown.reach.IntersectsWith(area))
+                shown.object->Draw(&g);
+        }
+    });
 }
 
 void RunSession::PaintPage(StudioCanvas& page) {
@@ -171,7 +193,7 @@ void RunSession::PaintPage(StudioCanvas& page) {
         std::vector<RectF> ignored;
         for (const auto& run : running.live)
             run->Update(m_time, ignored);
-        PaintPart(page, running, client);
+        PaintPart(running, client);
     }
     running.buffer.Show(dc, dc.m_ps.rcPaint);
 }
@@ -215,10 +237,14 @@ void RunSession::OnLButtonDblClk(CUICanvas* canvas, UINT flags, const CPoint& po
 }
 
 void RunSession::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    ObjectRun* run = std::exchange(m_grabbed, nullptr);
+    // Releasing the capture reports a lost one: it comes last, when nothing is grabbed any more.
+    Relay(m_grabbed, canvas, WM_LBUTTONUP, flags, point);
+    m_grabbed = nullptr;
+    m_releasing = true;
     if (::GetCapture() == canvas->m_hWnd)
         ::ReleaseCapture();
-    Relay(run, canvas, WM_LBUTTONUP, flags, point);
+    m_releasing = false;
+    SetHover(RunAt(point), canvas);
     Update();
 }
 
@@ -236,7 +262,7 @@ void RunSession::Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) {
 
 // The pointer has left the page, or something has taken the mouse away in the middle of a drag.
 void RunSession::PointerLeft(StudioCanvas& page) {
-    if (m_grabbed && ::GetCapture() == page.m_hWnd)
+    if (m_releasing || (m_grabbed && ::GetCapture() == page.m_hWnd))
         return;
     ObjectRun* grabbed = std::exchange(m_grabbed, nullptr);
     if (grabbed && grabbed != m_hover)

@@ -45,8 +45,15 @@ public:
     long long TakePaintedPixels() { return std::exchange(m_paintedPixels, 0); }
 
 private:
+    // An object of the page itself, with the area outside of which it paints nothing.
+    struct Shown {
+        Lumo::CUIObject* object;
+        ObjectRun* run;
+        Gdiplus::RectF reach;
+    };
     struct RunningPage {
         std::vector<std::unique_ptr<ObjectRun>> live;
+        std::vector<Shown> shown;
         Lumo::CUIObjectDeque selection;
         int mode = 0;
         BackBuffer buffer;
@@ -59,6 +66,7 @@ private:
     void OnLButtonDblClk(Lumo::CUICanvas* canvas, UINT flags, const CPoint& point) override;
 
     void Prepare(StudioCanvas& page);
+    void Show(RunningPage& page, Lumo::CUIObject& object);
     void Collect(RunningPage& page, Lumo::CUIObject& object, std::vector<Lumo::CUIObject*>& groups);
     RunningPage* Current();
     ObjectRun* RunAt(CPoint at);
@@ -66,7 +74,7 @@ private:
     void Relay(ObjectRun* run, Lumo::CUICanvas* canvas, UINT message, UINT flags, CPoint at);
     void SetHover(ObjectRun* run, Lumo::CUICanvas* canvas);
     void PaintDirty(StudioCanvas& page, RunningPage& running, std::vector<Gdiplus::RectF>& dirty);
-    void PaintPart(StudioCanvas& page, RunningPage& running, const CRect& part);
+    void PaintPart(RunningPage& running, const CRect& part);
 
     StudioDocument& m_document;
     Device& m_device;
@@ -75,6 +83,7 @@ private:
     Lumo::DrawShape m_toolBefore;
     ObjectRun* m_grabbed = nullptr;
     ObjectRun* m_hover = nullptr;
+    bool m_releasing = false;
     double m_time = 0.0;
     std::vector<Gdiplus::RectF> m_dirty;
     long long m_paintedPixels = 0;

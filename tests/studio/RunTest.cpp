@@ -1,0 +1,253 @@
+// Run mode through real messages: controls, behaviours, repainting, and everything as before at the end.
+#include "StudioFixture.h"
+#include "studio/controls/LevelControls.h"
+#include "studio/controls/MatrixControls.h"
+#include "studio/controls/PeqChart.h"
+#include "studio/document/ObjectExtras.h"
+#include "studio/editing/PageEdits.h"
+#include "studio/runtime/RunSession.h"
+
+#include <afxadv.h>
+
+using namespace Studio;
+using Lumo::CUIObject;
+
+namespace {
+
+constexpr double kTick = 1.0 / 30.0;
+
+class RunTest : public StudioFixture, public RunHost {
+protected:
+    void SetUp() override {
+        StudioFixture::SetUp();
+        m_parent.ShowWindow(SW_SHOWNA);
+        Page().ShowWindow(SW_SHOWNA);
+    }
+    void TearDown() override {
+        m_session.reset();
+        StudioFixture::TearDown();
+    }
+
+    void Run() {
+        m_session = std::make_unique<RunSession>(*m_document, m_device, *this);
+        m_session->Update();
+        Page().UpdateWindow();
+    }
+
+    ObjectExtras& Extras(CUIObject* object, Behaviour behaviour, LPCWSTR value) {
+        ObjectExtras& extras = *EditExtras(*object);
+        extras.TurnOn(behaviour, true);
+        extras.Record(behaviour).m_strName = value;
+        return extras;
+    }
+
+    std::vector<BYTE> Bytes() {
+        CSharedFile file;
+        {
+            CArchive ar(&file, CArchive::store);
+            for (CUIObject* object : Objects())
+                StoreObject(ar, *object);
+        }
+        std::vector<BYTE> bytes(static_cast<size_t>(file.GetLength()));
+        file.SeekToBegin();
+        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+        return bytes;
+    }
+
+    void GoToPage(const CString& name) override { m_asked = name; }
+    void GoToPage(int number) override { m_asked.Format(L"%d", number); }
+    void StepPage(int step) override { m_asked.Format(L"step %d", step); }
+    bool Confirm(const CString& question) override {
+        m_asked = question;
+        return m_answer;
+    }
+    void EnterNumber(int value, const Gdiplus::RectF&) override { m_asked = m_device.Info(value).name; }
+
+    Device m_device;
+    std::unique_ptr<RunSession> m_session;
+    CString m_asked;
+    bool m_answer = true;
+};
+
+}  // namespace
+
+TEST_F(RunTest, EverythingIsAsBeforeAfterwards) {
+    CUIObject* box = Add(Lumo::DS_RECTANGLE, 10, 10, 60, 30);
+    CUIObject* line = Add(Lumo::DS_LINE, 100, 10, 50, 50);
+    CUIObject* first = Add(Lumo::DS_ELLIPSE, 200, 10, 30, 30);
+    CUIObject* second = Add(Lumo::DS_RECTANGLE, 240, 20, 30, 30);
+    CUIObject* button = Add(Lumo::DS_BUTTONDEVICE, 300, 10, 80, 40);
+    for (CUIObject* object : {box, line, first}) {
+        for (Behaviour behaviour :
+             {Behaviour::kMove1, Behaviour::kSize1, Behaviour::kRotate, Behaviour::kFill, Behaviour::kText,
+              Behaviour::kHide, Behaviour::kBlink, Behaviour::kTrend})
+            Extras(object, behaviour, L"in1.level").prefs.m_move1.m_nLowValue = -80;
+    }
+    Extras(second, Behaviour::kColor, L"in1.mute");
+    Page().SelectOnly({first, second});
+    GroupSelection(Page());
+    const auto before = Bytes();
+    const auto selection = Page().m_selection;
+    const float x = box->GetPosition().X;
+    Run();
+    EXPECT_TRUE(Page().m_selection.empty());
+    m_device.Set(L"in1.mute", 0.0);
+    for (int i = 0; i < 30; ++i)
+        m_session->Tick(kTick);
+    Mouse(WM_MOUSEMOVE, 320, 30);
+    Click({320, 30});
+    EXPECT_NE(box->GetPosition().X, x);
+    EXPECT_NE(button, nullptr);
+    EXPECT_NE(Bytes(), before);
+    m_session.reset();
+    EXPECT_EQ(Bytes(), before);
+    EXPECT_EQ(Page().m_selection, selection);
+    EXPECT_EQ(Lumo::CUIToolBase::run_drawshape, Lumo::DS_SELECT);
+    EXPECT_EQ(Page().m_nMode, Lumo::CM_DRAW);
+}
+
+TEST_F(RunTest, BehavioursAnswerTheMouse) {
+    CUIObject* slider = Add(Lumo::DS_RECTANGLE, 10, 10, 20, 100);
+    auto& slide = Extras(slider, Behaviour::kSlider, L"in1.gain").prefs.m_slider;
+    slide.m_nLowValue = -60, slide.m_nHighValue = 0;
+    CUIObject* toggle = Add(Lumo::DS_RECTANGLE, 50, 10, 40, 40);
+    Extras(toggle, Behaviour::kButton, L"in2.mute");
+    CUIObject* momentary = Add(Lumo::DS_RECTANGLE, 100, 10, 40, 40);
+    auto& hold = Extras(momentary, Behaviour::kButton, L"in3.mute").prefs.m_button;
+    hold.m_nAction = static_cast<int>(ButtonAction::kMomentary);
+    hold.m_strReleaseCommand = L"in4.gain=-20";
+    CUIObject* asked = Add(Lumo::DS_RECTANGLE, 150, 10, 40, 40);
+    auto& ask = Extras(asked, Behaviour::kButton, L"in5.mute").prefs.m_button;
+    ask.m_bConfirm = 1, ask.m_strConfirmText = L"Sure?";
+    Extras(Add(Lumo::DS_RECTANGLE, 200, 10, 40, 40), Behaviour::kPage, L"").prefs.m_page.m_strPageName =
+        L"Two";
+    auto& guarded = Extras(Add(Lumo::DS_RECTANGLE, 250, 10, 40, 40), Behaviour::kInput, L"in6.gain");
+    guarded.TurnOn(Behaviour::kCondition, true);
+    guarded.prefs.m_condition.m_strName = L"in6.mute";
+    guarded.prefs.m_condition.m_comparisons[0] = {static_cast<int>(Comparison::kEqual), 1, 0, 0};
+    m_device.Set(L"in6.mute", 0.0);
+    // A page-switching behaviour is bound to nothing: it works without a value.
+    Run();
+    Mouse(WM_LBUTTONDOWN, 20, 60);
+    EXPECT_NEAR(m_device.Get(L"in1.gain"), -30.0, 0.7);
+    Mouse(WM_MOUSEMOVE, 20, 30, MK_LBUTTON);
+    Mouse(WM_MOUSEMOVE, 300, -40, MK_LBUTTON);
+    Mouse(WM_LBUTTONUP, 300, -40);
+    EXPECT_EQ(m_device.Get(L"in1.gain"), 0.0) << "dragged beyond the end, outside the window";
+
+    Click({70, 30});
+    EXPECT_EQ(m_device.Get(L"in2.mute"), 1.0);
+    Mouse(WM_LBUTTONDBLCLK, 70, 30);
+    Mouse(WM_LBUTTONUP, 70, 30);
+    EXPECT_EQ(m_device.Get(L"in2.mute"), 0.0) << "a fast second click counts";
+
+    Mouse(WM_LBUTTONDOWN, 120, 30);
+    EXPECT_EQ(m_device.Get(L"in3.mute"), 1.0);
+    ::ReleaseCapture();
+    EXPECT_EQ(m_device.Get(L"in3.mute"), 0.0) << "let go when the mouse is taken away";
+    EXPECT_EQ(m_device.Get(L"in4.gain"), -20.0);
+
+    m_answer = false;
+    Click({170, 30});
+    EXPECT_STREQ(m_asked, L"Sure?");
+    EXPECT_EQ(m_device.Get(L"in5.mute"), 0.0);
+    Click({220, 30});
+    EXPECT_STREQ(m_asked, L"Two");
+    Click({270, 30});
+    EXPECT_STREQ(m_asked, L"Two") << "its condition does not hold";
+    m_device.Set(L"in6.mute", 1.0);
+    Click({270, 30});
+    EXPECT_STREQ(m_asked, L"in6.gain");
+}
+
+TEST_F(RunTest, ControlsAnswerTheMouse) {
+    auto* chart = dynamic_cast<PeqChart*>(Add(Lumo::DS_CHARTPEQ, 0, 0, 300, 180));
+    auto* matrix = dynamic_cast<DeviceChart*>(Add(Lumo::DS_CHARTDEVICE, 310, 0, 260, 260));
+    Add(Lumo::DS_BUTTONLEVEL, 10, 200, 100, 40);
+    auto* mute = Add(Lumo::DS_BUTTONDEVICE, 120, 200, 80, 40);
+    CUIObject* held = Add(Lumo::DS_BUTTONDEVICE, 10, 250, 80, 40);
+    EditExtras(*held)->binding = L"master.mute";
+    dynamic_cast<DeviceButton*>(held)->SetButtonStyle(DeviceButton::kMomentary);
+    Page().SelectOnly({mute, held});
+    GroupSelection(Page());
+    Run();
+    const double gain = m_device.Get(L"out1.peq.3.gain"), frequency = m_device.Get(L"out1.peq.3.freq");
+    const CPoint handle = chart->HandleOf(3);
+    Drag(handle, {handle.x + 30, handle.y - 20}, MK_LBUTTON);
+    EXPECT_GT(m_device.Get(L"out1.peq.3.gain"), gain + 1.0);
+    EXPECT_GT(m_device.Get(L"out1.peq.3.freq"), frequency * 1.5);
+    EXPECT_EQ(chart->HandleOf(3), CPoint(handle.x + 30, handle.y - 20)) << "the handle is under the pointer";
+
+    CPoint cell = matrix->CellOf(4, 9);
+    cell.x += 310;
+    const double on = m_device.Get(L"xp.4.9.on");
+    Click(cell);
+    EXPECT_NE(m_device.Get(L"xp.4.9.on"), on);
+    Drag(cell, {cell.x, cell.y + 20}, MK_LBUTTON);
+    EXPECT_NE(m_device.Get(L"xp.4.9.on"), on) << "a drag does not switch";
+    EXPECT_EQ(m_device.Get(L"xp.4.9.gain"), -5.0);
+
+    const double before = m_device.Get(L"in1.gain");
+    Drag({60, 220}, {60, 200}, MK_LBUTTON);
+    EXPECT_EQ(m_device.Get(L"in1.gain"), before + 5.0);
+    EXPECT_EQ(m_device.Get(L"in1.mute"), 0.0);
+    Click({160, 220});  // in a group
+    EXPECT_EQ(m_device.Get(L"in1.mute"), 1.0);
+    Mouse(WM_LBUTTONDOWN, 50, 270);
+    EXPECT_EQ(m_device.Get(L"master.mute"), 1.0);
+    Mouse(WM_LBUTTONUP, 50, 270);
+    EXPECT_EQ(m_device.Get(L"master.mute"), 0.0);
+}
+
+TEST_F(RunTest, OnlyWhatChangedIsPainted) {
+    for (int i = 0; i < 20; ++i)
+        Add(Lumo::DS_RECTANGLE, 20.0f * i, 200, 15, 15);
+    CUIObject* lamp = Add(Lumo::DS_RECTANGLE, 10, 10, 20, 20);
+    Extras(lamp, Behaviour::kColor, L"in1.mute");
+    Run();
+    m_session->TakePaintedPixels();
+    m_session->Update();
+    m_session->Tick(kTick);
+    EXPECT_EQ(m_session->TakePaintedPixels(), 0) << "levels move, but nothing shows them";
+    m_device.Set(L"in1.mute", 1.0);
+    m_session->Update();
+    const long long painted = m_session->TakePaintedPixels();
+    EXPECT_GT(painted, 400);
+    EXPECT_LT(painted, 60 * 60);
+    CClientDC dc(&Page());
+    EXPECT_EQ(::GetPixel(dc, 20, 13), RGB(0xFF, 0, 0));
+}
+
+TEST_F(RunTest, TwoHundredLiveObjectsLeaveTimeToSpare) {
+    Page().MoveWindow(0, 0, 1000, 700);
+    const Lumo::DrawShape kinds[] = {Lumo::DS_CHARTLEVEL, Lumo::DS_BUTTONLEVEL, Lumo::DS_RECTANGLE,
+                                     Lumo::DS_ELLIPSE, Lumo::DS_BUTTONDEVICE};
+    for (int i = 0; i < 200; ++i) {
+        CUIObject* object = Add(kinds[i % 5], 49.0f * (i % 20), 68.0f * (i / 20), 45, 62);
+        object->SetText(L"x");
+        CString name;
+        name.Format(L"in%d", i % 16 + 1);
+        EditExtras(*object)->binding = name;
+        if (i % 5 == 2 || i % 5 == 3) {
+            auto& extras =
+                Extras(object, i % 5 == 2 ? Behaviour::kFill : Behaviour::kMove1, name + L".level");
+            extras.prefs.m_fill.m_nLowValue = extras.prefs.m_move1.m_nLowValue = -60;
+            extras.prefs.m_fill.m_nHighValue = extras.prefs.m_move1.m_nHighValue = 0;
+        }
+    }
+    Run();
+    ASSERT_EQ(m_session->LiveCount(), 200u);
+    FILETIME created, ended, kernelBefore, userBefore, kernel, user;
+    ::GetProcessTimes(::GetCurrentProcess(), &created, &ended, &kernelBefore, &userBefore);
+    constexpr int kTicks = 90;
+    for (int i = 0; i < kTicks; ++i)
+        m_session->Tick(kTick);
+    ::GetProcessTimes(::GetCurrentProcess(), &created, &ended, &kernel, &user);
+    const auto millis = [](const FILETIME& from, const FILETIME& to) {
+        return static_cast<double>(to.dwLowDateTime - from.dwLowDateTime) / 1.0e4;
+    };
+    const double each = (millis(kernelBefore, kernel) + millis(userBefore, user)) / kTicks;
+    std::printf("200 live objects: %.2f ms of processor time per update, %lld pixels\n", each,
+                m_session->TakePaintedPixels() / kTicks);
+    EXPECT_LT(each, 1000.0 / 30.0) << "30 updates a second cannot be held";
+}
