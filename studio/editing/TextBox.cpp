@@ -51,7 +51,10 @@ void TextBox::DrawText(Gdiplus::Graphics& g, const RectF& bounds) {
     const Gdiplus::SolidBrush brush{Gdiplus::Color(format.m_dwTextColor)};
     Lumo::GraphicsStateScope state(g);
     g.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(format.m_nRenderHint));
-    g.DrawString(format.m_strText, format.m_strText.GetLength(), &font, room, &layout, &brush);
+    // The editor ends a line with two characters, of which not every system draws only the line's end.
+    CString text = format.m_strText;
+    text.Replace(L"\r\n", L"\n");
+    g.DrawString(text, text.GetLength(), &font, room, &layout, &brush);
 }
 
 }  // namespace Studio

@@ -251,14 +251,26 @@ Property FontStyleProperty(int bit, LPCWSTR letter) {
             .inside = letter};
 }
 
+// Between editors a line ends with two characters, as edit controls want it.
+CString GetCaption(CUIObject& object) {
+    CString text = object.GetText();
+    text.Replace(L"\r\n", L"\n");
+    text.Replace(L"\n", L"\r\n");
+    return text;
+}
+
+// The in-place editor of text boxes keeps both characters; a caption would show the first one as a box. The
+// record itself is written: its setter leaves the old text for an empty one.
+void SetCaption(CUIObject& object, const CString& typed) {
+    CString text = typed;
+    if (object.GetDrawShape() != DS_TEXTEDIT)
+        text.Replace(L"\r\n", L"\n");
+    object.GetCoordinate().Format<CUIShapeFormatText>().m_strText = text;
+}
+
 PropertySection TextSection() {
     constexpr Text kStep = Text::kStepTextFormat;
-    // The record itself is written: its setters leave the old text for an empty one.
-    Property caption = TextProperty(
-        Text::kPropCaption, kStep, [](CUIObject& object) { return object.GetText(); },
-        [](CUIObject& object, const CString& text) {
-            object.GetCoordinate().Format<CUIShapeFormatText>().m_strText = text;
-        });
+    Property caption = TextProperty(Text::kPropCaption, kStep, GetCaption, SetCaption);
     caption.kind = FieldKind::kCaption;
     Property font = {
         .label = Text::kPropFont,

@@ -137,6 +137,17 @@ TEST_F(PropertyTest, CaptionsCanBeEmptied) {
     EXPECT_EQ(L"Level", object->GetText());
 }
 
+TEST_F(PropertyTest, LinesOfACaptionAreStoredAsItsObjectShowsThem) {
+    Lumo::CUIObject* shape = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    Lumo::CUIObject* box = Add(Lumo::DS_TEXTEDIT, 10, 120, 100, 50);
+    SelectAllObjects();
+    const Property& caption = Find(Text::kSectionText, Text::kPropCaption);
+    EXPECT_TRUE(Write(caption, CString(L"Level\r\ndB")).IsEmpty());
+    EXPECT_EQ(L"Level\ndB", shape->GetText());
+    EXPECT_EQ(L"Level\r\ndB", box->GetText());
+    EXPECT_EQ(PropertyValue(CString(L"Level\r\ndB")), Read(caption).value);
+}
+
 TEST_F(PropertyTest, BehavioursAreReadWithoutMakingExtras) {
     Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
     for (int i = 0; i < kBehaviourCount; ++i) {

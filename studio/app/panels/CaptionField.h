@@ -16,7 +16,7 @@ public:
     bool OnKey(UINT key) override;
 
 protected:
-    CString Format(const PropertyValue& value) const override;
+    CString Format(const PropertyValue& value) const override { return std::get<CString>(value); }
     std::optional<PropertyValue> Parse(const CString& text, CString&) const override { return text; }
     DWORD EditStyle() const override { return ES_MULTILINE | ES_AUTOVSCROLL; }
 };
