@@ -62,13 +62,19 @@ LRESULT PageTabs::Handle(const TabNotify& notify, StudioDocument& document,
             break;
         case Lumo::TABN_ENDRENAME:
         case Lumo::TABN_DRAGEND:
-            if (StudioCanvas* page = document.CurrentPage())
-                page->SetFocus();
+            GiveFocusTo(document.CurrentPage());
             break;
         default:
             break;
     }
     return 0;
+}
+
+// Unless the user has gone on to another part of the window.
+void PageTabs::GiveFocusTo(StudioCanvas* page) const {
+    const HWND focus = ::GetFocus();
+    if (page && (!focus || focus == m_tabs.m_hWnd || focus == m_tabs.GetParent()->m_hWnd))
+        page->SetFocus();
 }
 
 bool PageTabs::Rename(const TabNotify& notify, StudioDocument& document) {

@@ -31,6 +31,7 @@ public:
     int Height() const { return m_tabs.GetHeight(); }
 
 private:
+    void GiveFocusTo(StudioCanvas* page) const;
     bool Rename(const Lumo::TabNotify& notify, StudioDocument& document);
 
     Lumo::TabCtrl m_tabs;
