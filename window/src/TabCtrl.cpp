@@ -222,7 +222,7 @@ CRect TabCtrl::GetPartRect(TabPart part, int index) const {
     CRect client;
     GetClientRect(client);
     const CSize size(kButton, kButton);
-    const int top = (client.Height() - kButton) / 2;
+    const int top = m_style->TabBounds(client, m_side).CenterPoint().y - kButton / 2;
     switch (part) {
         case TabPart::kTab:
             return GetTabRect(index);
