@@ -29,6 +29,8 @@ constexpr TaskInfo kTasks[] = {
 };
 
 bool HasRightCount(const CommandLine& line) {
+    if (line.task == Task::kRefuse)
+        return false;
     for (const TaskInfo& info : kTasks) {
         if (info.task == line.task)
             return line.arguments.size() >= info.least && line.arguments.size() <= info.most;
@@ -112,17 +114,23 @@ CommandLine CommandLine::Parse(const std::vector<CString>& words) {
             line.language = words[++i].CompareNoCase(L"ko") == 0 ? Language::kKorean : Language::kEnglish;
         else if (word == L"--demo")
             line.demo = true;
+        else if (word.Left(2) == L"--")
+            line.task = Task::kRefuse;
         else
             line.arguments.push_back(word);
     }
     if (!HasRightCount(line))
-        line.task = Task::kExplain;
+        line.task = Task::kRefuse;
     return line;
 }
 
 int RunTask(const CommandLine& line) {
     if (line.task == Task::kCheck)
         return Check(line.arguments[0]);
+    if (line.task == Task::kRefuse) {
+        Print(GetText(Text::kUsage));
+        return 1;
+    }
     CString reason;
     if (AttemptFile([&] { Carry(line); }, reason))
         return 0;

@@ -9,7 +9,7 @@ namespace Studio {
 
 /// The words of the command line, understood.
 struct CommandLine {
-    enum class Task { kShow, kRender, kCheck, kMakeDemo, kMakeSymbols, kExplain };
+    enum class Task { kShow, kRender, kCheck, kMakeDemo, kMakeSymbols, kExplain, kRefuse };
 
     Task task = Task::kShow;
     /// File to open or read, picture to write, page number, in this order, as far as the task has them.
@@ -24,7 +24,7 @@ struct CommandLine {
 };
 
 /// Carries out every task but `kShow`, without a window; what there is to say goes to standard output. The
-/// exit code: 0 when it was done, or the file is sound, else 1.
+/// exit code: 0 when it was done, or the file is sound, else 1, also for words that make no sense.
 int RunTask(const CommandLine& line);
 
 }  // namespace Studio
