@@ -30,7 +30,11 @@ std::vector<BYTE> StoreBytes(CUIObject& object) {
 void RestoreBytes(CUIObject& object, const std::vector<BYTE>& bytes) {
     CMemFile file(const_cast<BYTE*>(bytes.data()), static_cast<UINT>(bytes.size()));
     CArchive ar(&file, CArchive::load);
-    RestoreObject(ar, object);
+    try {
+        RestoreObject(ar, object);
+    } catch (const FileFault&) {
+        // A value beyond what a file may hold: it is restored, and only what stands behind it is not.
+    }
     ar.Close();
 }
 

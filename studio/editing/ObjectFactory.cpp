@@ -128,7 +128,7 @@ ObjectPtr MakeObject(ObjectClass objectClass) {
         case ObjectClass::kEllipse:
             return ObjectPtr(new LiveObject<Ellipse>(none, kind));
         case ObjectClass::kTextBox:
-            return ObjectPtr(new LiveObject<TextBox>(none));
+            return ObjectPtr(new LiveObject<PictureShape<TextBox>>(none));
         case ObjectClass::kLine:
             return ObjectPtr(new LiveObject<Line>(none, kind));
         case ObjectClass::kPolyLine:

@@ -6,6 +6,7 @@
 
 namespace Studio {
 
+using Gdiplus::PointF;
 using Gdiplus::RectF;
 
 namespace {
@@ -26,6 +27,13 @@ void TextBox::DrawGround(Gdiplus::Graphics& g, const RectF& bounds) const {
     const auto& fill = m_coordinate.Format<Lumo::CUIShapeFormatFill>();
     if (fill.m_bEnabled && (fill.m_nShapeMode == 1 || fill.m_nShapeMode == 2)) {
         Gdiplus::SolidBrush brush{Gdiplus::Color(Lumo::MergeAlpha(fill.m_fAlpha, fill.m_dwColor))};
+        g.FillRectangle(&brush, bounds);
+    }
+    if (fill.m_bEnabled && fill.m_nShapeMode == 3) {
+        // One unit more on both sides: the brush repeats itself at its ends.
+        Gdiplus::LinearGradientBrush brush(
+            PointF(0.0f, bounds.Y - 1.0f), PointF(0.0f, bounds.Y + bounds.Height + 1.0f),
+            Gdiplus::Color(fill.m_dwColor), Gdiplus::Color(fill.m_dwGradientColor));
         g.FillRectangle(&brush, bounds);
     }
     DWORD color = 0;
