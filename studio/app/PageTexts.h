@@ -27,6 +27,11 @@
                            L"그림 \"%s\"을(를) 저장하지 못했습니다.\n\n%s") \
     X(kFaultPicture,       L"The picture could not be made.", L"그림을 만들 수 없습니다.") \
     X(kFaultNoPage,        L"There is no such page.",   L"그런 페이지가 없습니다.") \
+    X(kFaultMissing,       L"The file or its folder was not found.", L"파일이나 폴더를 찾을 수 없습니다.") \
+    X(kFaultAccess,        L"Access to it was refused, or another program uses it.", \
+                           L"접근이 거부되었거나 다른 프로그램에서 사용 중입니다.") \
+    X(kFaultDisk,          L"The disk is full.",        L"디스크에 빈 공간이 없습니다.") \
+    X(kFaultDevice,        L"It could not be read or written.", L"읽거나 쓸 수 없습니다.") \
     X(kAskRecover,         L"Studio ended before the changes to \"%s\" were saved.\n\nRecover them?", \
                            L"\"%s\"의 변경 내용을 저장하기 전에 Studio가 종료되었습니다.\n\n복구할까요?") \
     X(kDemoOverview,       L"Overview",                 L"개요") \
@@ -44,7 +49,7 @@
     X(kDemoLevelsNote,     L"Click a channel to mute it, drag it up or down for its gain", \
                            L"채널을 클릭하면 음소거되고, 위아래로 끌면 게인이 바뀝니다") \
     X(kCheckSound,         L"%s: sound, %d pages, %d objects", L"%s: 정상, 페이지 %d개, 개체 %d개") \
-    X(kCheckFaulty,        L"%s: not sound. %s",        L"%s: 손상됨. %s") \
+    X(kCheckFaulty,        L"%s: not sound. %s",        L"%s: 정상 아님. %s") \
     X(kCheckPage,          L"Page %d \"%s\": %d objects", L"페이지 %d \"%s\": 개체 %d개") \
     X(kUsage,              L"Studio [--lang en|ko] [--demo] [file.cbf]\n" \
                            L"Studio --render file.cbf picture.png [page]\n" \

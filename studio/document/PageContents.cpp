@@ -18,12 +18,30 @@ void Require(bool sound) {
         throw FileFault{Text::kFaultContent};
 }
 
+Text ReasonOf(const CFileException& e) {
+    switch (e.m_cause) {
+        case CFileException::fileNotFound:
+        case CFileException::badPath:
+            return Text::kFaultMissing;
+        case CFileException::accessDenied:
+        case CFileException::sharingViolation:
+        case CFileException::lockViolation:
+            return Text::kFaultAccess;
+        case CFileException::diskFull:
+            return Text::kFaultDisk;
+        default:
+            return Text::kFaultDevice;
+    }
+}
+
 CString Describe(const CException& e) {
     // The contents end before they should: to the user that is damage, not an archive's affair.
     if (e.IsKindOf(RUNTIME_CLASS(CArchiveException)))
         return GetText(Text::kFaultContent);
     if (e.IsKindOf(RUNTIME_CLASS(CMemoryException)))
         return GetText(Text::kFaultMemory);
+    if (const auto* file = dynamic_cast<const CFileException*>(&e))
+        return GetText(ReasonOf(*file));
     WCHAR text[512] = L"";
     e.GetErrorMessage(text, static_cast<UINT>(std::size(text)));
     return text;
