@@ -182,6 +182,8 @@
     X(kRefuseNoFile,       L"There is no such file.",   L"파일이 없습니다.") \
     X(kRefuseNoPicture,    L"This file is not a picture.", L"그림 파일이 아닙니다.") \
     X(kRefuseArguments,    L"There can be 15 arguments at most.", L"인수는 15개까지 쓸 수 있습니다.") \
+    X(kRefuseNoValue,      L"The device has no value \"%s\". One that it has: in1.level", \
+                           L"장치에 \"%s\" 값이 없습니다. 예: in1.level") \
     X(kRefuseLines,        L"There can be %d lines at most.", L"선은 %d개까지 쓸 수 있습니다.") \
     X(kPropPictureFilter,  L"Pictures (*.png;*.jpg;*.bmp;*.gif)|*.png;*.jpg;*.jpeg;*.bmp;*.gif|All files (*.*)|*.*||", \
                            L"그림 (*.png;*.jpg;*.bmp;*.gif)|*.png;*.jpg;*.jpeg;*.bmp;*.gif|모든 파일 (*.*)|*.*||")

@@ -1,5 +1,8 @@
 #include "studio/properties/BehaviourFields.h"
 
+#include "studio/device/Device.h"
+
+#include <algorithm>
 #include <type_traits>
 
 namespace Studio {
@@ -42,6 +45,29 @@ Property NumberRow(Text label, NumberRange range, FieldOf<Number> field) {
         Writable(object, field) = static_cast<Number>(std::get<float>(value));
     };
     return property;
+}
+
+CString NoValue(const CString& name) {
+    CString refusal;
+    refusal.Format(GetText(Text::kRefuseNoValue), name.GetString());
+    return refusal;
+}
+
+// A name that the device knows, or none.
+CString CheckValueName(StudioCanvas&, const PropertyValue& value) {
+    const CString name = CString(std::get<CString>(value)).Trim();
+    return name.IsEmpty() || SampleDevice().Find(name) >= 0 ? CString() : NoValue(name);
+}
+
+// A binding may also be the front part that several names share.
+CString CheckBinding(StudioCanvas&, const PropertyValue& value) {
+    const CString name = CString(std::get<CString>(value)).Trim();
+    const Device& device = SampleDevice();
+    for (int i = 0; i < device.Count(); ++i) {
+        if (device.Info(i).name.Left(name.GetLength()).CompareNoCase(name) == 0)
+            return CString();
+    }
+    return NoValue(name);
 }
 
 Property CodeRow(Text label, FieldKind kind, FieldOf<int> field) {
@@ -102,6 +128,15 @@ Property RecordText(Text label, FieldOf<CString> field) {
     property.get = [field](CUIObject& object) { return field(ExtrasOf(object)); };
     property.set = [field](CUIObject& object, const PropertyValue& value) {
         Writable(object, field) = std::get<CString>(value);
+    };
+    return property;
+}
+
+Property RecordValueName(FieldOf<CString> field) {
+    Property property = RecordText(Text::kPropValueName, field);
+    property.check = CheckValueName;
+    property.set = [field](CUIObject& object, const PropertyValue& value) {
+        Writable(object, field) = CString(std::get<CString>(value)).Trim();
     };
     return property;
 }
@@ -168,6 +203,10 @@ Property TrendLineNames() {
     };
     property.check = [](StudioCanvas&, const PropertyValue& value) {
         CString refusal;
+        for (const CString& name : Split(std::get<CString>(value))) {
+            if (SampleDevice().Find(name) < 0)
+                return NoValue(name);
+        }
         if (Split(std::get<CString>(value)).size() > kMostLines)
             refusal.Format(GetText(Text::kRefuseLines), static_cast<int>(kMostLines));
         return refusal;
@@ -195,6 +234,7 @@ Property TrendLineWidth() {
 Property BindingRow() {
     Property property = Row(Text::kPropBinding, FieldKind::kText);
     property.step = Text::kStepBinding;
+    property.check = CheckBinding;
     property.get = [](CUIObject& object) { return ExtrasOf(object).binding; };
     property.set = [](CUIObject& object, const PropertyValue& value) {
         EditExtras(object)->binding = CString(std::get<CString>(value)).Trim();

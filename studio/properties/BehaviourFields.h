@@ -11,6 +11,8 @@ template <class Value>
 using FieldOf = std::function<const Value&(const ObjectExtras&)>;
 
 Property RecordText(Text label, FieldOf<CString> field);
+/// The name of the value that the behaviour uses instead of the binding.
+Property RecordValueName(FieldOf<CString> field);
 Property RecordNumber(Text label, NumberRange range, FieldOf<int> field);
 Property RecordNumber(Text label, NumberRange range, FieldOf<long> field);
 Property RecordNumber(Text label, NumberRange range, FieldOf<float> field);

@@ -33,7 +33,7 @@ template <class Record>
 class Fields {
 public:
     explicit Fields(Record CUIPreference::*record) : m_record(record) {
-        m_rows.push_back(RecordText(Text::kPropValueName, Field<CString>(&Record::m_strName)));
+        m_rows.push_back(RecordValueName(Field<CString>(&Record::m_strName)));
     }
 
     Fields& Text_(Text label, CString Record::*field) { return Add(RecordText(label, Field(field))); }

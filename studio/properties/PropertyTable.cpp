@@ -27,16 +27,14 @@ bool IsFigure(const CUIObject& object) {
     return object.GetDrawShape() == DS_LINE || object.GetDrawShape() == DS_POLYLINE;
 }
 
-bool IsNoGroup(const CUIObject& object) {
-    return object.GetDrawShape() != DS_GROUP;
+// The audio controls and groups have a look of their own.
+bool HasLook(const CUIObject& object) {
+    const DrawShape kind = object.GetDrawShape();
+    return kind == DS_RECTANGLE || kind == DS_ELLIPSE || kind == DS_TEXTEDIT || IsFigure(object);
 }
 
 bool HasFill(const CUIObject& object) {
-    return IsNoGroup(object) && !IsFigure(object);
-}
-
-bool HasRichFill(const CUIObject& object) {
-    return HasFill(object) && object.GetDrawShape() != DS_TEXTEDIT;
+    return HasLook(object) && !IsFigure(object);
 }
 
 Property TextProperty(Text label, Text step, CString (*get)(CUIObject&),
@@ -161,11 +159,11 @@ PropertySection FillSection() {
     const auto setKind = [](CUIObject& object, int kind) { object.SetFillShapeMode(kind); };
     const auto getSecond = [](CUIObject& object) { return FillOf(object).m_dwGradientColor; };
     const auto setSecond = [](CUIObject& object, DWORD color) { FillOf(object).m_dwGradientColor = color; };
-    return {Text::kSectionFill,
-            {For(HasFill, ChoiceProperty(Text::kPropKind, kStep, kinds, getKind, setKind)),
-             For(HasFill, ColorProperty(Text::kPropColor, kStep, GetFillColor, SetFillColor)),
-             For(HasRichFill, ColorProperty(Text::kPropColor2, kStep, getSecond, setSecond)),
-             For(HasRichFill, picture)}};
+    return {
+        Text::kSectionFill,
+        {For(HasFill, ChoiceProperty(Text::kPropKind, kStep, kinds, getKind, setKind)),
+         For(HasFill, ColorProperty(Text::kPropColor, kStep, GetFillColor, SetFillColor)),
+         For(HasFill, ColorProperty(Text::kPropColor2, kStep, getSecond, setSecond)), For(HasFill, picture)}};
 }
 
 // An opaque outline has no alpha, whatever its record says.
@@ -201,16 +199,16 @@ PropertySection OutlineSection() {
         Text::kPropWidth, kStep, kWidthRange, [](CUIObject& object) { return object.GetLineWidth(); },
         [](CUIObject& object, float value) { object.SetLineWidth(value); });
     return {Text::kSectionOutline,
-            {For(IsNoGroup, ChoiceProperty(
-                                Text::kPropKind, kStep, kinds,
-                                [](CUIObject& object) { return object.GetLineShapeMode(); },
-                                [](CUIObject& object, int mode) { object.SetLineShapeMode(mode); })),
-             For(IsNoGroup, ColorProperty(Text::kPropColor, kStep, GetLineColor, SetLineColor)),
-             For(IsNoGroup, width),
-             For(IsNoGroup, ChoiceProperty(
-                                Text::kPropDash, kStep, dashes,
-                                [](CUIObject& object) { return object.GetLineDashStyle(); },
-                                [](CUIObject& object, int style) { object.SetLineDashStyle(style); })),
+            {For(HasLook, ChoiceProperty(
+                              Text::kPropKind, kStep, kinds,
+                              [](CUIObject& object) { return object.GetLineShapeMode(); },
+                              [](CUIObject& object, int mode) { object.SetLineShapeMode(mode); })),
+             For(HasLook, ColorProperty(Text::kPropColor, kStep, GetLineColor, SetLineColor)),
+             For(HasLook, width),
+             For(HasLook, ChoiceProperty(
+                              Text::kPropDash, kStep, dashes,
+                              [](CUIObject& object) { return object.GetLineDashStyle(); },
+                              [](CUIObject& object, int style) { object.SetLineDashStyle(style); })),
              For(IsFigure, ChoiceProperty(
                                Text::kPropStartCap, kStep, caps,
                                [](CUIObject& object) { return object.GetLineStartCap(); },
@@ -247,7 +245,7 @@ Property FontStyleProperty(int bit, LPCWSTR letter) {
                     const int others = object.GetTextFontStyle() & ~bit;
                     object.SetTextFontStyle(others | (std::get<int>(value) ? bit : 0));
                 },
-            .applies = IsNoGroup,
+            .applies = HasLook,
             .inside = letter};
 }
 
@@ -289,15 +287,15 @@ PropertySection TextSection() {
         [](CUIObject& object, int value) { object.SetTextAlignment(value); });
     return {
         Text::kSectionText,
-        {For(IsNoGroup, caption), For(IsNoGroup, font), For(IsNoGroup, size),
+        {For(HasLook, caption), For(HasLook, font), For(HasLook, size),
          FontStyleProperty(Gdiplus::FontStyleBold, L"B"),
          Joined(FontStyleProperty(Gdiplus::FontStyleItalic, L"I")),
          Joined(FontStyleProperty(Gdiplus::FontStyleUnderline, L"U")),
          Joined(FontStyleProperty(Gdiplus::FontStyleStrikeout, L"S")),
-         For(IsNoGroup, ColorProperty(
-                            Text::kPropColor, kStep, [](CUIObject& object) { return object.GetTextColor(); },
-                            [](CUIObject& object, DWORD color) { object.SetTextColor(color); })),
-         For(IsNoGroup, alignment)}};
+         For(HasLook, ColorProperty(
+                          Text::kPropColor, kStep, [](CUIObject& object) { return object.GetTextColor(); },
+                          [](CUIObject& object, DWORD color) { object.SetTextColor(color); })),
+         For(HasLook, alignment)}};
 }
 
 }  // namespace

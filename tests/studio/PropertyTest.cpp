@@ -118,6 +118,21 @@ TEST_F(PropertyTest, RefusedValuesChangeNothingAndLeaveNoStep) {
     EXPECT_EQ(L"Fader", second->GetShapeName());
 }
 
+TEST_F(PropertyTest, ValuesAreNamedAsTheDeviceNamesThem) {
+    Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    EXPECT_TRUE(Write(BindingProperty(), CString(L" in1.level ")).IsEmpty());
+    EXPECT_EQ(L"in1.level", FindExtras(*object)->binding);
+    EXPECT_TRUE(Write(BindingProperty(), CString(L"out1.PEQ")).IsEmpty()) << "the front of several names";
+    EXPECT_FALSE(Write(BindingProperty(), CString(L"in99.level")).IsEmpty());
+    EXPECT_EQ(L"out1.PEQ", FindExtras(*object)->binding);
+    EXPECT_TRUE(Write(BindingProperty(), CString()).IsEmpty());
+    const Property& own = FindField(Behaviour::kBlink, Text::kPropValueName);
+    EXPECT_FALSE(Write(own, CString(L"in1")).IsEmpty()) << "a behaviour needs one value";
+    EXPECT_TRUE(Write(own, CString(L"IN1.level")).IsEmpty());
+    const Property& lines = FindField(Behaviour::kTrend, Text::kPropTrendLines);
+    EXPECT_FALSE(Write(lines, CString(L"in1.level, , in2.level")).IsEmpty());
+}
+
 TEST_F(PropertyTest, ABurstIsOneStep) {
     Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
     const Property& width = Find(Text::kSectionOutline, Text::kPropWidth);
