@@ -50,8 +50,8 @@ void Control::Connect(Device* device) {
     m_stale = true;
 }
 
-bool Control::TakeChange(CRect& part) {
-    part.SetRectEmpty();
+bool Control::TakeChange(std::vector<CRect>& parts) {
+    parts.clear();
     if (m_device && m_device->Generation() != m_seenAll) {
         m_seenAll = m_device->Generation();
         for (size_t i = 0; i < m_watched.size(); ++i) {

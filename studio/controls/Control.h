@@ -27,8 +27,9 @@ public:
     /// The corner of the group that holds the control, (0, 0) outside of groups.
     void SetOrigin(const Gdiplus::PointF& origin) { m_origin = origin; }
     /// Whether the control has to be repainted since the last call; run mode asks after every tick and event.
-    /// A part is enough when `part` (pixels from the control's corner) is not empty afterwards.
-    virtual bool TakeChange(CRect& part);
+    /// When that is true and there are `parts` (pixels from the control's corner) afterwards, they are
+    /// enough.
+    virtual bool TakeChange(std::vector<CRect>& parts);
 
     /// A message of run mode that the object was given.
     void Hear(CWnd* window, UINT message, UINT flags, LPARAM packed);

@@ -75,11 +75,11 @@ int LevelChart::RowOf(double decibels) const {
 }
 
 // Adds the rows between the old and the new state to `changed`.
-void LevelChart::Follow(Meter& meter, CRect& changed) {
+void LevelChart::Follow(Meter& meter, std::vector<CRect>& changed) {
     const int level = RowOf(Source().Get(meter.level));
     const int peak = RowOf(Source().Get(meter.peak));
     const auto add = [&](int a, int b, int extra) {
-        changed |= CRect(meter.left, std::min(a, b) - 1, meter.right, std::max(a, b) + 1 + extra);
+        changed.emplace_back(meter.left, std::min(a, b) - 1, meter.right, std::max(a, b) + 1 + extra);
     };
     if (level != meter.drawnLevel)
         add(level, meter.drawnLevel, 0);
@@ -89,15 +89,14 @@ void LevelChart::Follow(Meter& meter, CRect& changed) {
     meter.drawnPeak = peak;
 }
 
-bool LevelChart::TakeChange(CRect& part) {
+bool LevelChart::TakeChange(std::vector<CRect>& parts) {
     Arrange();
-    if (Control::TakeChange(part)) {
-        part.SetRectEmpty();
-        return true;
-    }
+    const bool whole = Control::TakeChange(parts);
     for (Meter& meter : m_meters)
-        Follow(meter, part);
-    return !part.IsRectEmpty();
+        Follow(meter, parts);
+    if (whole)
+        parts.clear();
+    return whole || !parts.empty();
 }
 
 void LevelChart::Render(Picture& picture) {
@@ -122,11 +121,13 @@ void LevelChart::Render(Picture& picture) {
             }
         }
     }
+    const int pitch = m_meters.size() < 2 ? 1 : std::max(1, m_meters[1].left - m_meters[0].left);
+    const size_t every = static_cast<size_t>(1 + 14 / pitch);
     for (size_t i = 0; i < m_meters.size(); ++i) {
         const Meter& meter = m_meters[i];
         picture.Fill(static_cast<float>(meter.left), static_cast<float>(m_top),
                      static_cast<float>(meter.right), static_cast<float>(m_bottom), Ink::kWell);
-        if (roomy && m_meters.size() > 1 && (meter.right - meter.left >= 11 || i % 2 == 0))
+        if (roomy && m_meters.size() > 1 && i % every == 0)
             picture.Text(Numbered(L"%d", static_cast<int>(i) + 1), static_cast<float>(meter.left) - 8,
                          static_cast<float>(m_bottom) + 3, static_cast<float>(meter.right) + 8, height - 3,
                          10.0f, Ink::kQuiet);
@@ -147,10 +148,10 @@ void LevelChart::Draw(Gdiplus::Graphics* g) {
     if (!g || Lumo::PaintScope::Misses(bounds))
         return;
     Arrange();
-    CRect changed(0, 0, 0, 0);
+    std::vector<CRect> ignored;
     if (!IsRunning()) {
         for (Meter& meter : m_meters)
-            Follow(meter, changed);
+            Follow(meter, ignored);
     }
     DrawPicture(*g);
     if (!m_lit)
@@ -233,15 +234,15 @@ int LevelButton::LevelColumn() {
     return static_cast<int>(std::lround(std::clamp(part, 0.0, 1.0) * Bar().Width()));
 }
 
-bool LevelButton::TakeChange(CRect& part) {
+bool LevelButton::TakeChange(std::vector<CRect>& parts) {
     const int before = std::exchange(m_drawnLevel, LevelColumn());
-    if (ButtonControl::TakeChange(part))
+    if (ButtonControl::TakeChange(parts))
         return true;
     if (before == m_drawnLevel)
         return false;
     const CRect bar = Bar();
-    part = CRect(bar.left + std::min(before, m_drawnLevel), bar.top,
-                 bar.left + std::max(before, m_drawnLevel), bar.bottom);
+    parts.emplace_back(bar.left + std::min(before, m_drawnLevel), bar.top,
+                       bar.left + std::max(before, m_drawnLevel), bar.bottom);
     return true;
 }
 

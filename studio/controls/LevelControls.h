@@ -13,7 +13,7 @@ public:
     LPCWSTR DefaultBinding() const override { return L"in"; }
     void Connect(Device* device) override;
     /// Levels move all the time: only the pixels that changed are repainted.
-    bool TakeChange(CRect& part) override;
+    bool TakeChange(std::vector<CRect>& parts) override;
     void Draw(Gdiplus::Graphics* g) override;
 
 protected:
@@ -29,7 +29,7 @@ private:
     };
     void Arrange();
     int RowOf(double decibels) const;
-    void Follow(Meter& meter, CRect& changed);
+    void Follow(Meter& meter, std::vector<CRect>& changed);
     void DrawMeter(Gdiplus::Graphics& g, const Gdiplus::PointF& corner, const CRect& clip,
                    const Meter& meter);
 
@@ -47,7 +47,7 @@ public:
 
     LPCWSTR DefaultBinding() const override { return L"in1"; }
     /// The level moves all the time: only its bar is repainted.
-    bool TakeChange(CRect& part) override;
+    bool TakeChange(std::vector<CRect>& parts) override;
     void DrawNormal(Gdiplus::Graphics* g) override { DrawWithLevel(*g); }
     void DrawDown(Gdiplus::Graphics* g) override { DrawWithLevel(*g); }
     void DrawOver(Gdiplus::Graphics* g) override { DrawWithLevel(*g); }

@@ -26,7 +26,11 @@ DeviceChart::Field DeviceChart::Layout() {
     const float left = roomy ? 34.0f : 4.0f, top = roomy ? 44.0f : 4.0f;
     const float across = (static_cast<float>(size.cx) - left - 8.0f) / Device::kChannels;
     const float down = (static_cast<float>(size.cy) - top - 8.0f) / Device::kChannels;
-    return {left, top, std::max(1.0f, std::floor(std::min(across, down)))};
+    const float cell = std::max(1.0f, std::floor(std::min(across, down)));
+    // What the whole cells leave over stands on both sides.
+    const float restAcross = std::max(0.0f, (across - cell) * Device::kChannels);
+    const float restDown = std::max(0.0f, (down - cell) * Device::kChannels);
+    return {std::floor(left + restAcross / 2), std::floor(top + restDown / 2), cell};
 }
 
 CPoint DeviceChart::CellOf(int input, int output) {
@@ -56,7 +60,6 @@ void DeviceChart::Watch(std::vector<int>& values) {
 
 void DeviceChart::RenderLabels(Picture& picture, const Field& field) {
     const auto width = static_cast<float>(picture.Width());
-    const float end = field.left + field.cell * Device::kChannels;
     picture.Text(L"MATRIX", 8, 4, width - 8, 22, 11.0f, Ink::kText, Gdiplus::StringAlignmentNear, true);
     CString note = L"IN \x2193   OUT \x2192";
     if (m_hot.input) {
@@ -66,7 +69,7 @@ void DeviceChart::RenderLabels(Picture& picture, const Field& field) {
         else
             note += L"OFF";
     }
-    picture.Text(note, 8, 4, std::max(end, 150.0f), 22, 11.0f, m_hot.input ? Ink::kAccent : Ink::kQuiet,
+    picture.Text(note, 8, 4, width - 10, 22, 11.0f, m_hot.input ? Ink::kAccent : Ink::kQuiet,
                  Gdiplus::StringAlignmentFar);
     const bool everyOther = field.cell < 13.0f;
     for (int i = 1; i <= Device::kChannels; ++i) {
@@ -75,8 +78,9 @@ void DeviceChart::RenderLabels(Picture& picture, const Field& field) {
         const float at = field.cell * (static_cast<float>(i) - 0.5f);
         picture.Text(Numbered(L"%d", i), field.left + at - 10, field.top - 18, field.left + at + 10,
                      field.top - 3, 10.0f, i == m_hot.output ? Ink::kText : Ink::kQuiet);
-        picture.Text(Numbered(L"%d", i), 4, field.top + at - 8, field.left - 6, field.top + at + 8, 10.0f,
-                     i == m_hot.input ? Ink::kText : Ink::kQuiet, Gdiplus::StringAlignmentFar);
+        picture.Text(Numbered(L"%d", i), field.left - 30, field.top + at - 8, field.left - 6,
+                     field.top + at + 8, 10.0f, i == m_hot.input ? Ink::kText : Ink::kQuiet,
+                     Gdiplus::StringAlignmentFar);
     }
 }
 

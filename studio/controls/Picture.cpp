@@ -84,6 +84,11 @@ void Picture::Clear(DWORD color) {
     std::fill(m_pixels, m_pixels + static_cast<size_t>(m_width) * m_height, color);
 }
 
+void Picture::CopyFrom(const Picture& source) {
+    if (source.m_width == m_width && source.m_height == m_height)
+        std::memcpy(m_pixels, source.m_pixels, sizeof(DWORD) * m_width * m_height);
+}
+
 void Picture::Blend(int x, int y, DWORD color, float coverage) {
     DWORD& pixel = m_pixels[static_cast<size_t>(y) * m_width + x];
     const unsigned alpha = static_cast<unsigned>(static_cast<float>(color >> 24) * coverage + 0.5f);

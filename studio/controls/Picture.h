@@ -64,6 +64,8 @@ public:
     Gdiplus::Graphics& Graphics() { return *m_graphics; }
 
     void Clear(DWORD color);
+    /// Takes over the pixels of a picture of the same size.
+    void CopyFrom(const Picture& source);
     /// Fills a rectangle whose edges may lie within pixels.
     void Fill(float left, float top, float right, float bottom, DWORD color);
     void FillRound(float left, float top, float right, float bottom, float radius, DWORD color);

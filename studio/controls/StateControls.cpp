@@ -301,17 +301,45 @@ void GeqState::OnDrag(CWnd*, UINT, const CPoint& point) {
     Apply(Local(point));
 }
 
+bool PeqState::IsSmall() {
+    constexpr int kRoomAcross = 150, kRoomDown = 120;
+    const CSize size = Size();
+    return size.cx < kRoomAcross || size.cy < kRoomDown;
+}
+
 int PeqState::RowAt(CPoint point) {
     const CSize size = Size();
+    if (IsSmall())
+        return std::clamp(1 + static_cast<int>(point.x * Device::kPeqBands / std::max<int>(1, size.cx)), 1,
+                          Device::kPeqBands);
     const float row = (static_cast<float>(point.y) - kTableTop) / RowHeight(size.cy);
     return row >= 0.0f && row < Device::kPeqBands && point.x >= 0 && point.x < size.cx
                ? 1 + static_cast<int>(row)
                : 0;
 }
 
+// Where there is no room for a table: one lamp per band.
+void PeqState::RenderLamps(Picture& picture) {
+    const auto width = static_cast<float>(picture.Width()), height = static_cast<float>(picture.Height());
+    const float pitch = width / Device::kPeqBands;
+    const float radius = std::min({pitch * 0.38f, height * 0.38f, 9.0f});
+    for (int band = 1; band <= Device::kPeqBands; ++band) {
+        const float x = pitch * (static_cast<float>(band) - 0.5f);
+        const bool on = Source().PeqBand(Channel(), band).on && Value(L".on", 1.0) != 0.0;
+        picture.Disc(x, height / 2, radius, on ? Ink::kBands[band - 1] : Ink::kGridStrong);
+        if (radius >= 6.0f)
+            picture.Text(Numbered(L"%d", band), x - radius, 0, x + radius, height, 10.0f, Ink::kWell,
+                         Gdiplus::StringAlignmentCenter, true);
+    }
+}
+
 void PeqState::Render(Picture& picture) {
     const auto width = static_cast<float>(picture.Width());
     picture.FrameRound(0, 0, width, static_cast<float>(picture.Height()), 5.0f, Ink::kCard, Ink::kEdge);
+    if (IsSmall()) {
+        RenderLamps(picture);
+        return;
+    }
     CString title = Binding();
     title.MakeUpper();
     picture.Text(title, 10, 4, width - 10, 24, 11.0f, Ink::kText, Gdiplus::StringAlignmentNear, true);
@@ -376,7 +404,7 @@ void PeqState::OnMouseWheel(CWnd*, UINT, UINT flags, LPARAM packed) {
     const int row = RowAt(at);
     const int turn = static_cast<short>(HIWORD(flags)) / WHEEL_DELTA;
     Device* device = Running();
-    if (!device || !row || !turn)
+    if (!device || !row || !turn || IsSmall())
         return;
     float x = (static_cast<float>(at.x) - 10.0f) / (static_cast<float>(Size().cx) - 20.0f);
     int column = 0;

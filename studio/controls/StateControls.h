@@ -99,6 +99,8 @@ protected:
     void Watch(std::vector<int>& values) override { WatchAll(values, Binding() + L"."); }
 
 private:
+    bool IsSmall();
+    void RenderLamps(Picture& picture);
     int RowAt(CPoint point);
     void SetHot(int row);
 

@@ -169,11 +169,14 @@ void ObjectRun::Update(double time, std::vector<RectF>& dirty) {
         return;
     const PointF origin = Origin();
     m_control->SetOrigin(origin);
-    CRect part;
-    if (m_control->TakeChange(part)) {
-        RectF area = part.IsRectEmpty() ? PaintedBounds() : Lumo::RectGdiFromAtl(part);
-        if (!part.IsRectEmpty())
-            area.Offset(m_object.GetPosition().X + origin.X, m_object.GetPosition().Y + origin.Y);
+    std::vector<CRect>& parts = m_parts;
+    if (!m_control->TakeChange(parts))
+        return;
+    if (parts.empty())
+        dirty.push_back(PaintedBounds());
+    for (const CRect& part : parts) {
+        RectF area = Lumo::RectGdiFromAtl(part);
+        area.Offset(m_object.GetPosition().X + origin.X, m_object.GetPosition().Y + origin.Y);
         dirty.push_back(area);
     }
 }

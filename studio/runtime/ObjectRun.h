@@ -94,6 +94,7 @@ private:
     const Geometry m_geometry;
     Gdiplus::RectF m_rest;
 
+    std::vector<CRect> m_parts;
     Look m_look;
     Gdiplus::RectF m_placed;
     bool m_started = false;

@@ -54,50 +54,58 @@ void TrendGraph::Draw(Gdiplus::Graphics& g, const Gdiplus::RectF& bounds) {
     const int width = Lumo::RoundToInt(bounds.Width), height = Lumo::RoundToInt(bounds.Height);
     if (width < 2 || height < 2 || width > kLargest || height > kLargest)
         return;
-    Refresh(m_picture, width, height, m_stale, [this](Picture& picture) { Render(picture); });
+    Refresh(m_ground, width, height, false, [this](Picture& ground) { RenderGround(ground); });
+    Refresh(m_picture, width, height, m_stale, [this](Picture& picture) {
+        picture.CopyFrom(*m_ground);
+        for (const Line& line : m_lines)
+            RenderLine(picture, line);
+    });
     m_stale = false;
     m_picture->Draw(g, bounds.X, bounds.Y);
 }
 
-void TrendGraph::Render(Picture& picture) const {
-    picture.Clear(m_trend.m_dwBackColor | 0xFF000000);
+TrendGraph::Field TrendGraph::Layout(const Picture& picture) {
     const auto width = static_cast<float>(picture.Width()), height = static_cast<float>(picture.Height());
-    const DWORD grid = WithAlpha(m_trend.m_dwGridColor, 0x60);
     const bool labels = width >= 120 && height >= 60;
-    const float left = labels ? 30.0f : 0.0f, top = 6.0f, right = width - 1, bottom = height - 7;
+    return {labels ? 30.0f : 0.0f, 6.0f, width - 1, height - 7, labels};
+}
+
+void TrendGraph::RenderGround(Picture& picture) const {
+    picture.Clear(m_trend.m_dwBackColor | 0xFF000000);
+    const Field field = Layout(picture);
+    const DWORD grid = WithAlpha(m_trend.m_dwGridColor, 0x60);
     const int columns = std::clamp(m_trend.m_nTimeDivisions, 1, 100);
     const int rows = std::clamp(m_trend.m_nValueDivisions, 1, 100);
     for (int i = 0; i <= columns; ++i) {
-        const float x =
-            std::round(left + (right - left) * static_cast<float>(i) / static_cast<float>(columns));
-        picture.Fill(x, top, x + 1, bottom, grid);
+        const float part = static_cast<float>(i) / static_cast<float>(columns);
+        const float x = std::round(field.left + (field.right - field.left) * part);
+        picture.Fill(x, field.top, x + 1, field.bottom, grid);
     }
+    const double low = m_trend.m_nLowValue, high = m_trend.m_nHighValue;
     for (int i = 0; i <= rows; ++i) {
         const float part = static_cast<float>(i) / static_cast<float>(rows);
-        const float y = std::round(bottom - (bottom - top) * part);
-        picture.Fill(left, y, right, y + 1, grid);
+        const float y = std::round(field.bottom - (field.bottom - field.top) * part);
+        picture.Fill(field.left, y, field.right, y + 1, grid);
         CString label;
-        label.Format(L"%.4g",
-                     m_trend.m_nLowValue + (double{1} * m_trend.m_nHighValue - m_trend.m_nLowValue) * part);
-        if (labels)
-            picture.Text(label, 0, y - 6, left - 4, y + 7, 9.0f, WithAlpha(m_trend.m_dwGridColor, 0xFF),
+        label.Format(L"%.4g", low + (high - low) * part);
+        if (field.labels)
+            picture.Text(label, 0, y - 6, field.left - 4, y + 7, 9.0f, WithAlpha(m_trend.m_dwGridColor, 0xFF),
                          Gdiplus::StringAlignmentFar);
     }
-    for (const Line& line : m_lines)
-        RenderLine(picture, line, left, top, right, bottom);
 }
 
-void TrendGraph::RenderLine(Picture& picture, const Line& line, float left, float top, float right,
-                            float bottom) const {
+void TrendGraph::RenderLine(Picture& picture, const Line& line) const {
+    const auto [left, top, right, bottom, labels] = Layout(picture);
     const int from = static_cast<int>(left);
     const int count = static_cast<int>(right) - from;
     const int size = static_cast<int>(line.samples.size());
     if (count < 2 || size == 0)
         return;
     const double low = m_trend.m_nLowValue, high = m_trend.m_nHighValue;
-    const auto y = [&](double value) {
+    const float height = bottom - top, zero = bottom;
+    const auto y = [=](double value) {
         const double part = low == high ? 0.0 : std::clamp((value - low) / (high - low), 0.0, 1.0);
-        return bottom - (bottom - top) * static_cast<float>(part);
+        return zero - height * static_cast<float>(part);
     };
     // The newest sample stands at the right end.
     const double perPixel = std::clamp(m_trend.m_nTimeSpan, 1, 86400) / m_interval / count;

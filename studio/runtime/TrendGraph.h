@@ -26,9 +26,14 @@ private:
         DWORD color;
         std::deque<float> samples;  // the newest last
     };
-    void Render(Picture& picture) const;
-    void RenderLine(Picture& picture, const Line& line, float left, float top, float right,
-                    float bottom) const;
+    // The plot in a picture.
+    struct Field {
+        float left, top, right, bottom;
+        bool labels;
+    };
+    static Field Layout(const Picture& picture);
+    void RenderGround(Picture& picture) const;
+    void RenderLine(Picture& picture, const Line& line) const;
 
     const CPrefTrend& m_trend;
     const Device& m_device;
@@ -36,6 +41,7 @@ private:
     double m_interval;
     double m_next = 0.0;
     bool m_stale = true;
+    std::unique_ptr<Picture> m_ground;
     std::unique_ptr<Picture> m_picture;
 };
 
