@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Drives Studio with real mouse and keyboard input on the display of the environment: draws one object of each kind,
-# moves and resizes, saves, starts a new page, opens the file again. Every step must change the picture, and the page
-# that was opened must show what the saved one showed. Leaves pictures and the file in build/run.
+# Drives Studio with real mouse and keyboard input on the display of the environment: shows and runs the demo project,
+# draws one object of each kind on a new page, moves, resizes, undoes, pastes, groups, saves, opens the file again. Every
+# step must change the picture, and the page that was opened must show what the saved one showed. Leaves pictures and the
+# file in build/run.
 set -euo pipefail
 
 out=build/run
 program=build/release/bin/Studio.exe
-page=1100x720+108+92  # the page on the screen: Studio's window opens at a fixed place
+page=830x700+240+92  # the page on the screen: Studio's window opens at a fixed place
 
 rm -rf "$out"
 mkdir -p "$out"
@@ -63,31 +64,48 @@ step() { # step NAME: the picture after a step, which must differ from the one b
 }
 
 echo "Touring Studio"
-wine "$program" >"$out/studio.log" 2>&1 &
+wine "$program" --demo >"$out/studio.log" 2>&1 &
 studio=$!
 wait_for "Studio did not open" window 'untitled.* - Studio'
-click 600 700
-step 01-empty
+step 01-demo
+press F5
+wait_for "the pages do not run" window 'Running'
+step 02-running
+drag 252 300 420 300
+press Escape
+wait_for "the pages did not stop" no_window 'Running'
+press ctrl+n
+step 03-new
 
-press r && drag 200 150 400 270
-step 02-rectangle
+press r && drag 270 150 450 270
+step 04-rectangle
 press e && drag 700 150 900 300
-step 03-ellipse
-press t && drag 200 350 420 420
-step 04-text-box
+step 05-ellipse
+press t && drag 270 350 470 420
+step 06-text-box
 press l && drag 500 400 700 500
-step 05-line
+step 07-line
 press p && click 750 450 && click 820 400 && click 900 520 && move 1000 420
 xdotool click --repeat 2 --delay 60 1
-step 06-polyline
-press v && click 300 200
-step 07-selected
-drag 300 200 360 230
-step 08-moved
-drag 460 300 620 330
-step 09-resized
+step 08-polyline
+press v && click 320 200
+step 09-selected
+drag 320 200 380 230
+step 10-moved
+drag 510 300 640 330
+step 11-resized
+press ctrl+z
+step 12-undone
+press ctrl+y
+step 13-redone
+press ctrl+c && press ctrl+v && drag 420 240 440 600
+step 14-pasted
+press ctrl+a && press ctrl+g
+step 15-grouped
+press Down Down Down
+step 16-nudged
 click 600 780
-step 10-page
+step 17-page
 
 file="$PWD/$out/tour.cbf"
 press ctrl+s
@@ -97,18 +115,19 @@ wait_for "the page was not saved" test -s "$file"
 wait_for "the title does not name the file" window 'tour.cbf - Studio'
 press ctrl+n
 wait_for "no new page" window 'untitled.* - Studio'
-step 11-new
+step 18-new
 press ctrl+o
 wait_for "no dialog for opening" window '^Open'
 type_line "Z:${file//\//\\}"
 wait_for "the page was not opened" window 'tour.cbf - Studio'
 wait_for "the dialog stayed" no_window '^Open'
-step 12-reopened
-apart=$(pixels_apart 10-page 12-reopened)
+step 19-reopened
+apart=$(pixels_apart 17-page 19-reopened)
 [ "$apart" = 0 ] || fail "the reopened page differs from the saved one by $apart pixels"
 
 press alt+F4
 wait "$studio" || fail "Studio ended with code $?"
 studio=
+wine "$program" --check "$out/tour.cbf" >"$out/check.txt" 2>/dev/null </dev/null || fail "the saved file is not sound"
 rm -f "$out"/.*.page.png
 echo "The tour is complete. Pictures and the saved file (tour.cbf) are in $out/."
