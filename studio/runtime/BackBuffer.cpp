@@ -45,13 +45,17 @@ bool BackBuffer::Fit(CSize size) {
     return true;
 }
 
-void BackBuffer::Paint(const CRect& part, const std::function<void(Gdiplus::Graphics&)>& draw) {
+void BackBuffer::Paint(const CRect& part, const BackBuffer* ground,
+                       const std::function<void(Gdiplus::Graphics&)>& draw) {
     const CRect area = part & CRect(CPoint(0, 0), m_size);
     if (!m_dc || area.IsRectEmpty())
         return;
     const int state = ::SaveDC(m_dc);
     ::IntersectClipRect(m_dc, area.left, area.top, area.right, area.bottom);
-    ::PatBlt(m_dc, area.left, area.top, area.Width(), area.Height(), BLACKNESS);
+    if (ground)
+        ground->Show(m_dc, area);
+    else
+        ::PatBlt(m_dc, area.left, area.top, area.Width(), area.Height(), BLACKNESS);
     {
         const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(area));
         const DirectPaint direct(m_dc);

@@ -19,8 +19,10 @@ public:
 
     /// Makes it fit; true when it is new and has to be painted whole.
     bool Fit(CSize size);
-    /// Paints one rectangle over a black ground; `draw` draws in client coordinates, clipped to it.
-    void Paint(const CRect& part, const std::function<void(Gdiplus::Graphics&)>& draw);
+    /// Paints one rectangle over `ground`, a buffer of the same size, or over black (null); `draw` draws in
+    /// client coordinates, clipped to it.
+    void Paint(const CRect& part, const BackBuffer* ground,
+               const std::function<void(Gdiplus::Graphics&)>& draw);
     /// Copies a rectangle to a device context of the window.
     void Show(HDC dc, const CRect& part) const;
 

@@ -247,6 +247,13 @@ void ObjectRun::ApplyColors(const Look& look) {
         text.m_bEnabled = 0;
 }
 
+bool ObjectRun::MayMove() const {
+    constexpr Behaviour kMoving[] = {Behaviour::kMove1, Behaviour::kMove2, Behaviour::kSize1,
+                                     Behaviour::kSize2, Behaviour::kRotate};
+    return std::any_of(std::begin(kMoving), std::end(kMoving),
+                       [this](Behaviour behaviour) { return IsUsed(behaviour); });
+}
+
 RectF ObjectRun::PaintedBounds() {
     RectF bounds = Lumo::Normalised(m_object.GetPosition());
     const PointF centre = Lumo::CentreOf(bounds) + PointF(m_look.centreX, m_look.centreY);

@@ -43,6 +43,8 @@ public:
     /// Brings the object up to date. Everything that has to be repainted is added to `dirty` (page units).
     void Update(double time, std::vector<Gdiplus::RectF>& dirty);
 
+    /// Whether a behaviour moves, resizes or turns the object.
+    bool MayMove() const;
     /// Whether `PaintedBounds` may have changed since the last call.
     bool TakeMoved() { return std::exchange(m_moved, false); }
     /// Everything the object paints now, in page units.

@@ -79,6 +79,7 @@ void RunSession::Prepare(StudioCanvas& canvas) {
                 Show(page, *object);
         }
     }
+    ChooseGround(page);
     canvas.OnModeRunning();
     canvas.SetOperator(this);
     if (canvas.m_hWnd)
@@ -96,7 +97,29 @@ void RunSession::Show(RunningPage& page, CUIObject& object) {
     const RectF reach = runs && isGroup
                             ? kEverywhere
                             : Lumo::Inflated(Lumo::Normalised(object.GetPosition()), PaintMargin(object));
-    page.shown.push_back({&object, isGroup ? nullptr : own, reach});
+    const bool mayMove = isGroup || (own && own->MayMove());
+    page.shown.push_back({&object, isGroup ? nullptr : own, reach, runs, mayMove});
+}
+
+// An object that never changes is part of the ground unless something that may change lies under it.
+void RunSession::ChooseGround(RunningPage& page) {
+    std::vector<RectF> above;
+    for (Shown& shown : page.shown) {
+        const auto covers = [&](const RectF& other) { return other.IntersectsWith(shown.reach) != FALSE; };
+        shown.inGround = !shown.runs && std::none_of(above.begin(), above.end(), covers);
+        if (!shown.inGround)
+            above.push_back(shown.mayMove ? kEverywhere : shown.reach);
+    }
+}
+
+void RunSession::PaintGround(RunningPage& page, CSize size) {
+    page.ground.Fit(size);
+    page.ground.Paint(CRect(CPoint(0, 0), size), nullptr, [&](Gdiplus::Graphics& g) {
+        for (const Shown& shown : page.shown) {
+            if (shown.inGround)
+                shown.object->Draw(&g);
+        }
+    });
 }
 
 // In drawing order: the last one is on top.
@@ -167,11 +190,11 @@ void RunSession::PaintDirty(StudioCanvas& page, RunningPage& running, std::vecto
 void RunSession::PaintPart(RunningPage& running, const CRect& part) {
     m_paintedPixels += static_cast<long long>(part.Width()) * part.Height();
     const RectF area = Lumo::RectGdiFromAtl(part);
-    running.buffer.Paint(part, [&](Gdiplus::Graphics& g) {
+    running.buffer.Paint(part, &running.ground, [&](Gdiplus::Graphics& g) {
         for (Shown& shown : running.shown) {
             if (shown.run && shown.run->TakeMoved())
                 shown.reach = shown.run->PaintedBounds();
-            if (shown.reach.IntersectsWith(area))
+            if (!shown.inGround && shown.reach.IntersectsWith(area))
                 shown.object->Draw(&g);
         }
     });
@@ -193,6 +216,7 @@ void RunSession::PaintPage(StudioCanvas& page) {
         std::vector<RectF> ignored;
         for (const auto& run : running.live)
             run->Update(m_time, ignored);
+        PaintGround(running, client.Size());
         PaintPart(running, client);
     }
     running.buffer.Show(dc, dc.m_ps.rcPaint);

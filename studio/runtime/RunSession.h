@@ -50,12 +50,17 @@ private:
         Lumo::CUIObject* object;
         ObjectRun* run;
         Gdiplus::RectF reach;
+        bool runs;
+        bool mayMove;
+        bool inGround = false;
     };
     struct RunningPage {
         std::vector<std::unique_ptr<ObjectRun>> live;
         std::vector<Shown> shown;
         Lumo::CUIObjectDeque selection;
         int mode = 0;
+        // What never changes and lies under nothing that does, drawn once.
+        BackBuffer ground;
         BackBuffer buffer;
         bool whole = true;
     };
@@ -67,6 +72,8 @@ private:
 
     void Prepare(StudioCanvas& page);
     void Show(RunningPage& page, Lumo::CUIObject& object);
+    static void ChooseGround(RunningPage& page);
+    void PaintGround(RunningPage& page, CSize size);
     void Collect(RunningPage& page, Lumo::CUIObject& object, std::vector<Lumo::CUIObject*>& groups);
     RunningPage* Current();
     ObjectRun* RunAt(CPoint at);

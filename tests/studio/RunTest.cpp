@@ -220,6 +220,7 @@ TEST_F(RunTest, OnlyWhatChangedIsPainted) {
 
 TEST_F(RunTest, TwoHundredLiveObjectsLeaveTimeToSpare) {
     Page().MoveWindow(0, 0, 1000, 700);
+    Add(Lumo::DS_RECTANGLE, 0, 0, 1000, 700);  // a panel behind all of them
     const Lumo::DrawShape kinds[] = {Lumo::DS_CHARTLEVEL, Lumo::DS_BUTTONLEVEL, Lumo::DS_RECTANGLE,
                                      Lumo::DS_ELLIPSE, Lumo::DS_BUTTONDEVICE};
     for (int i = 0; i < 200; ++i) {
