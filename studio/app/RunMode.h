@@ -1,7 +1,7 @@
 // Run mode of the program: device, session, clock, and what the pages ask for.
 #pragma once
 
-#include "studio/app/NumberEntry.h"
+#include "studio/runtime/NumberEntry.h"
 #include "studio/runtime/RunSession.h"
 #include "window/Timer.h"
 

@@ -5,6 +5,7 @@
 #include "studio/controls/PeqChart.h"
 #include "studio/document/ObjectExtras.h"
 #include "studio/editing/PageEdits.h"
+#include "studio/runtime/NumberEntry.h"
 #include "studio/runtime/RunSession.h"
 
 #include <afxadv.h>
@@ -197,6 +198,31 @@ TEST_F(RunTest, ControlsAnswerTheMouse) {
     EXPECT_EQ(m_device.Get(L"master.mute"), 1.0);
     Mouse(WM_LBUTTONUP, 50, 270);
     EXPECT_EQ(m_device.Get(L"master.mute"), 0.0);
+}
+
+TEST_F(RunTest, ANumberIsTyped) {
+    NumberEntry entry;
+    double result = 0.0;
+    const auto open = [&] {
+        ASSERT_TRUE(entry.Open(Page(), CRect(50, 50, 90, 60), 3.5, [&](double number) { result = number; }));
+    };
+    open();
+    CString text;
+    entry.GetWindowText(text);
+    EXPECT_STREQ(text, L"3.5");
+    for (WCHAR c : {L'-', L'1', L'2', L'.', L'5'})
+        entry.SendMessage(WM_CHAR, c);
+    entry.SendMessage(WM_KEYDOWN, VK_RETURN);
+    EXPECT_EQ(result, -12.5);
+    EXPECT_FALSE(entry.IsOpen());
+    for (LPCWSTR refused : {L"", L"abc", L"7x", L"inf"}) {
+        open();
+        entry.SetWindowText(refused);
+        entry.SendMessage(WM_KEYDOWN, VK_RETURN);
+        EXPECT_TRUE(entry.IsOpen()) << refused;
+        EXPECT_EQ(result, -12.5);
+        entry.Close();
+    }
 }
 
 TEST_F(RunTest, OnlyWhatChangedIsPainted) {

@@ -1,4 +1,4 @@
-#include "studio/app/NumberEntry.h"
+#include "studio/runtime/NumberEntry.h"
 
 #include "studio/app/Painting.h"
 
