@@ -5,7 +5,6 @@
 /// key, English, Korean.
 #define STUDIO_PROPERTY_TEXTS(X) \
     X(kViewProperties,     L"&Properties",              L"속성(&P)") \
-    X(kPanelOne,           L"%s",                       L"%s") \
     X(kPanelMany,          L"%d objects",               L"개체 %d개") \
     X(kPanelNothing,       L"Nothing selected",         L"선택한 개체 없음") \
     X(kSectionPosition,    L"Position",                 L"위치") \
@@ -29,8 +28,8 @@
     X(kPropPicture,        L"Picture",                  L"그림") \
     X(kPropWidth,          L"Width",                    L"두께") \
     X(kPropDash,           L"Line style",               L"선 모양") \
-    X(kPropStartCap,       L"Start cap",                L"시작 끝") \
-    X(kPropEndCap,         L"End cap",                  L"마지막 끝") \
+    X(kPropStartCap,       L"Start cap",                L"시작 모양") \
+    X(kPropEndCap,         L"End cap",                  L"끝 모양") \
     X(kPropCaption,        L"Caption",                  L"캡션") \
     X(kPropFont,           L"Font",                     L"글꼴") \
     X(kPropFontSize,       L"Size",                     L"크기") \

@@ -36,20 +36,20 @@ public:
         m_rows.push_back(RecordValueName(Field<CString>(&Record::m_strName)));
     }
 
-    Fields& Text_(Text label, CString Record::*field) { return Add(RecordText(label, Field(field))); }
+    Fields& Words(Text label, CString Record::*field) { return Add(RecordText(label, Field(field))); }
     Fields& File(Text label, CString Record::*field) {
         Property property = RecordText(label, Field(field));
         property.kind = FieldKind::kFile;
         property.check = CheckPicture;
         return Add(property);
     }
-    template <class Number>
-    Fields& Number_(Text label, NumberRange range, Number Record::*field) {
+    template <class Value>
+    Fields& Number(Text label, NumberRange range, Value Record::*field) {
         return Add(RecordNumber(label, range, Field(field)));
     }
-    template <class Number>
-    Fields& Pair(Text label, NumberRange range, Number Record::*first, Number Record::*second) {
-        Number_(label, range, first);
+    template <class Value>
+    Fields& Pair(Text label, NumberRange range, Value Record::*first, Value Record::*second) {
+        Number(label, range, first);
         return Add(Joined(RecordNumber(label, range, Field(second))));
     }
     Fields& Choose(Text label, std::function<std::vector<Choice>()> choices, int Record::*field) {
@@ -133,7 +133,7 @@ std::vector<Property> MoveFields(CPrefMove CUIPreference::*record) {
     return Fields<R>(record)
         .Choose(Text::kPropDirection, kDirections, &R::m_nDirection)
         .Choose(Text::kPropMode, kMotions, &R::m_nMode)
-        .Number_(Text::kPropDistance, {0.0f, 100000.0f, false}, &R::m_fDistance)
+        .Number(Text::kPropDistance, {0.0f, 100000.0f, false}, &R::m_fDistance)
         .Pair(Text::kPropRange, kValues, &R::m_nLowValue, &R::m_nHighValue)
         .Rows();
 }
@@ -190,7 +190,7 @@ std::vector<Property> InputFields() {
     using R = CPrefInput;
     return Fields<R>(&CUIPreference::m_input)
         .Choose(Text::kPropKind, kTypes, &R::m_nType)
-        .Number_(Text::kPropStep, {1.0f, 10000.0f}, &R::m_nStep)
+        .Number(Text::kPropStep, {1.0f, 10000.0f}, &R::m_nStep)
         .Rows();
 }
 
@@ -207,17 +207,17 @@ std::vector<Property> BlinkFields() {
 std::vector<Property> ButtonFields() {
     using R = CPrefButton;
     return Fields<R>(&CUIPreference::m_button)
-        .Text_(Text::kPropTextOff, &R::m_strOffText)
-        .Text_(Text::kPropTextOn, &R::m_strOnText)
+        .Words(Text::kPropTextOff, &R::m_strOffText)
+        .Words(Text::kPropTextOn, &R::m_strOnText)
         .Choose(Text::kPropAction,
                 Choices({Text::kActionToggle, Text::kActionMomentary, Text::kActionSet, Text::kActionRadio,
                          Text::kActionAdd, Text::kActionCommands}),
                 &R::m_nAction)
-        .Number_(Text::kPropNumber, kValues, &R::m_nValue)
+        .Number(Text::kPropNumber, kValues, &R::m_nValue)
         .Check(Text::kPropConfirm, &R::m_bConfirm)
-        .Text_(Text::kPropQuestion, &R::m_strConfirmText)
-        .Text_(Text::kPropPress, &R::m_strPressCommand)
-        .Text_(Text::kPropRelease, &R::m_strReleaseCommand)
+        .Words(Text::kPropQuestion, &R::m_strConfirmText)
+        .Words(Text::kPropPress, &R::m_strPressCommand)
+        .Words(Text::kPropRelease, &R::m_strReleaseCommand)
         .Add(ButtonArguments())
         .Rows();
 }
@@ -228,8 +228,8 @@ std::vector<Property> PageFields() {
         .Choose(Text::kPropMode,
                 Choices({Text::kPageByName, Text::kPageByNumber, Text::kPageNext, Text::kPagePrevious}),
                 &R::m_nMode)
-        .Text_(Text::kPropPageName, &R::m_strPageName)
-        .Number_(Text::kPropPageNumber, {0.0f, 1000.0f}, &R::m_nPage)
+        .Words(Text::kPropPageName, &R::m_strPageName)
+        .Number(Text::kPropPageNumber, {0.0f, 1000.0f}, &R::m_nPage)
         .Rows();
 }
 
@@ -237,7 +237,7 @@ std::vector<Property> TextFields() {
     using R = CPrefText;
     return Fields<R>(&CUIPreference::m_text)
         .Choose(Text::kPropKind, kTypes, &R::m_nType)
-        .Text_(Text::kPropFormat, &R::m_strFormat)
+        .Words(Text::kPropFormat, &R::m_strFormat)
         .Rows();
 }
 
@@ -258,7 +258,7 @@ std::vector<Property> TrendFields() {
                 &R::m_nType)
         .Add(TrendLineNames())
         .Add(TrendLineWidth())
-        .Number_(Text::kPropTimeSpan, {1.0f, 86400.0f}, &R::m_nTimeSpan)
+        .Number(Text::kPropTimeSpan, {1.0f, 86400.0f}, &R::m_nTimeSpan)
         .Pair(Text::kPropDivisions, {1.0f, 100.0f}, &R::m_nTimeDivisions, &R::m_nValueDivisions)
         .Pair(Text::kPropRange, kValues, &R::m_nLowValue, &R::m_nHighValue)
         .Color(Text::kPropGridColor, &R::m_dwGridColor)

@@ -116,7 +116,6 @@ void PropertyPanel::ChooseBehaviour(int behaviour) {
     BuildBehaviourRows();
     LayOut();
     Refresh();
-    Invalidate(FALSE);
 }
 
 template <class Visit>

@@ -50,7 +50,6 @@ BOOL PropertyPanel::OnCommand(WPARAM wParam, LPARAM lParam) {
             section->header.Toggle();
             LayOut();
             Refresh();
-            Invalidate(FALSE);
         }
         return TRUE;
     }

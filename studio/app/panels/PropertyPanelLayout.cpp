@@ -27,6 +27,8 @@ int HeightOf(const Property& property) {
 void PropertyPanel::LayOut() {
     PlaceRows();
     UpdateScrollBar();
+    // What is moved brings its old picture along, with what lay over it.
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 // Places everything from the top; what is folded away is hidden.
@@ -148,7 +150,6 @@ void PropertyPanel::OnSize(UINT, int, int) {
     if (m_sections.empty())
         return;
     LayOut();
-    Invalidate(FALSE);
 }
 
 BOOL PropertyPanel::OnEraseBkgnd(CDC*) {
