@@ -161,7 +161,9 @@ void RunSession::Update() {
 }
 
 void RunSession::PageShown() {
-    m_grabbed = m_hover = nullptr;
+    // Nothing of the page that was left stays pressed or lit.
+    for (ObjectRun* run : {std::exchange(m_grabbed, nullptr), std::exchange(m_hover, nullptr)})
+        Relay(run, m_document.CurrentPage(), WM_MOUSELEAVE, 0, CPoint(0, 0));
     if (RunningPage* running = Current())
         running->whole = true;
     Update();

@@ -200,6 +200,37 @@ TEST_F(RunTest, ControlsAnswerTheMouse) {
     EXPECT_EQ(m_device.Get(L"master.mute"), 0.0);
 }
 
+TEST_F(RunTest, ControlsStandAnySizeAndBinding) {
+    const CSize sizes[] = {{1, 1}, {5, 300}, {300, 5}, {30, 30}, {70, 70}, {200, 160}};
+    const LPCWSTR bindings[] = {L"", L"nonsense", L"out99.peq", L"out2.peq.9", L"in.", L"out1.peq.1.freq"};
+    int at = 0;
+    for (int kind = Lumo::DS_CHARTPEQ; kind <= Lumo::DS_STATEPEQ; ++kind) {
+        for (const CSize& size : sizes) {
+            CUIObject* object =
+                Add(static_cast<Lumo::DrawShape>(kind), static_cast<float>(at % 500),
+                    static_cast<float>(at % 300), static_cast<float>(size.cx), static_cast<float>(size.cy));
+            EditExtras(*object)->binding = bindings[at % std::size(bindings)];
+            at += 7;
+        }
+    }
+    const auto before = Bytes();
+    Page().UpdateWindow();
+    Run();
+    for (int y = 0; y < 400; y += 23) {
+        for (int x = 0; x < 600; x += 29) {
+            Drag({x, y}, {x + 40, y - 30}, MK_LBUTTON);
+            Page().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), MAKELPARAM(x, y));
+        }
+        m_session->Tick(kTick);
+    }
+    for (int value = 0; value < m_device.Count(); ++value) {
+        EXPECT_GE(m_device.Get(value), m_device.Info(value).low);
+        EXPECT_LE(m_device.Get(value), m_device.Info(value).high);
+    }
+    m_session.reset();
+    EXPECT_EQ(Bytes(), before);
+}
+
 TEST_F(RunTest, ANumberIsTyped) {
     NumberEntry entry;
     double result = 0.0;
