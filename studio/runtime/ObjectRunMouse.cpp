@@ -11,6 +11,8 @@
 
 namespace Studio {
 
+using Gdiplus::RectF;
+
 namespace {
 
 constexpr Behaviour kMouseBehaviours[] = {Behaviour::kButton, Behaviour::kPage, Behaviour::kInput,
