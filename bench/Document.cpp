@@ -1,20 +1,13 @@
 // Making, naming, storing and loading many objects.
+#include "bench/Memory.h"
 #include "bench/Page.h"
 #include "bench/Table.h"
-
-#include <psapi.h>
 
 using namespace Lumo;
 
 namespace bench {
 
 namespace {
-
-size_t PrivateBytes() {
-    PROCESS_MEMORY_COUNTERS counters = {};
-    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof(counters));
-    return counters.PagefileUsage;
-}
 
 void MeasureMaking(std::vector<Line>& lines) {
     constexpr int kObjects = 10000;

@@ -3,13 +3,17 @@
 
 #include <afxwin.h>
 
-int main() {
+int main(int argc, char**) {
     if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOW))
         return 2;
+    if (argc > 1)
+        return bench::ShowEmptyWindow();
     std::vector<bench::Line> lines;
     bench::MeasurePainting(lines);
     bench::MeasureHitTests(lines);
     bench::MeasureDocument(lines);
+    bench::MeasureStudio(lines);
+    bench::MeasureStart(lines);
     bench::Print(lines);
     return 0;
 }

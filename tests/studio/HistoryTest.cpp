@@ -6,7 +6,6 @@
 #include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
 
-#include <chrono>
 #include <random>
 
 using namespace Studio;
@@ -228,48 +227,3 @@ TEST_F(HistoryTest, ListChangesAreSmallAndExact) {
     EXPECT_EQ(1u, change.inserted.size());
 }
 
-TEST_F(HistoryTest, UndoIsQuickOnALargePage) {
-    for (int i = 0; i < 10000; ++i) {
-        CUIObject* object =
-            MakeDrawnObject(Lumo::DS_RECTANGLE, Gdiplus::RectF(i % 100 * 6.0f, i / 100 * 4.0f, 5, 3))
-                .release();
-        object->SetCanvas(&Page());
-        m_document->AppendObject(object, &Page());
-    }
-    using Clock = std::chrono::steady_clock;
-    const auto undo = [&] {
-        const auto start = Clock::now();
-        EXPECT_TRUE(Edits().Undo());
-        return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-    };
-    Page().SelectOnly({Objects()[5000]});
-    NudgeSelection(Page(), 3, 3);
-    const double one = undo();
-    SelectAll(Page());
-    NudgeSelection(Page(), 3, 3);
-    const double all = undo();
-    RecordProperty("one_ms", std::to_string(one));
-    std::printf("undo of a move on 10,000 objects: %.2f ms of one, %.2f ms of all\n", one, all);
-    EXPECT_LE(one, 10.0);
-    EXPECT_LE(all, 200.0);
-}
-
-TEST_F(HistoryTest, TheSelectionOfManyObjectsIsCheapToPaint) {
-    m_parent.ShowWindow(SW_SHOW);
-    Page().ShowWindow(SW_SHOW);
-    for (int i = 0; i < 10000; ++i) {
-        CUIObject* object =
-            MakeDrawnObject(Lumo::DS_RECTANGLE, Gdiplus::RectF(i % 100 * 6.0f, i / 100 * 4.0f, 5, 3))
-                .release();
-        object->SetRemoved(1);  // not drawn, so that the time is the selection's alone
-        m_document->AppendObject(object, &Page());
-    }
-    Page().UpdateWindow();
-    Page().SelectOnly(Objects());
-    Page().Invalidate(FALSE);
-    const auto start = std::chrono::steady_clock::now();
-    Page().UpdateWindow();
-    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
-    std::printf("a paint with 10,000 selected objects: %.1f ms for the selection\n", took.count());
-    EXPECT_LE(took.count(), 200.0);
-}
