@@ -144,8 +144,16 @@ struct MenuLayout {
 };
 
 std::vector<UINT> PagesLayout() {
-    return {ID_PAGES_ADD, ID_PAGES_DUPLICATE, ID_PAGES_RENAME, ID_PAGES_REMOVE, 0, ID_PAGES_MOVE_LEFT,
-            ID_PAGES_MOVE_RIGHT, 0, ID_PAGES_PREVIOUS, ID_PAGES_NEXT};
+    return {ID_PAGES_ADD,
+            ID_PAGES_DUPLICATE,
+            ID_PAGES_RENAME,
+            ID_PAGES_REMOVE,
+            0,
+            ID_PAGES_MOVE_LEFT,
+            ID_PAGES_MOVE_RIGHT,
+            0,
+            ID_PAGES_PREVIOUS,
+            ID_PAGES_NEXT};
 }
 
 std::vector<UINT> ControlsLayout() {
@@ -159,9 +167,11 @@ std::vector<UINT> ControlsLayout() {
 
 std::vector<MenuLayout> MenuBarLayout() {
     return {
-        {Text::kMenuFile, {ID_FILE_NEW, ID_FILE_OPEN, 0, ID_FILE_SAVE, ID_FILE_SAVE_AS, 0,
-          ID_DOCUMENT_EXPORT, ID_DOCUMENT_DEMO, 0, ID_APP_EXIT}},
-        {Text::kMenuEdit, {ID_OBJECT_UNDO, ID_OBJECT_REDO, 0, ID_OBJECT_CUT, ID_OBJECT_COPY, ID_OBJECT_PASTE,
+        {Text::kMenuFile,
+         {ID_FILE_NEW, ID_FILE_OPEN, 0, ID_FILE_SAVE, ID_FILE_SAVE_AS, 0, ID_DOCUMENT_EXPORT,
+          ID_DOCUMENT_DEMO, 0, ID_APP_EXIT}},
+        {Text::kMenuEdit,
+         {ID_OBJECT_UNDO, ID_OBJECT_REDO, 0, ID_OBJECT_CUT, ID_OBJECT_COPY, ID_OBJECT_PASTE,
           ID_PAGE_DUPLICATE_OBJECTS, ID_OBJECT_DELETE, 0, ID_PAGE_SELECT_ALL}},
         {Text::kMenuView, {ID_PAGE_SHOW_GRID, ID_PAGE_SNAP_TO_GRID, 0, ID_VIEW_PROPERTIES, ID_VIEW_SYMBOLS}},
         {Text::kMenuPage, PagesLayout()},
@@ -171,9 +181,28 @@ std::vector<MenuLayout> MenuBarLayout() {
           ID_TOOL_TEXTBOX, ID_TOOL_PICTURE}},
         {Text::kMenuControls, ControlsLayout()},
         {Text::kMenuArrange,
-         {ID_POSITION_FORWARD, ID_POSITION_BACKWARD, ID_POSITION_FRONT, ID_POSITION_BACK, 0, ID_ROTATE_LEFT,
-          ID_ROTATE_RIGHT, ID_PAGE_FLIP_H, ID_PAGE_FLIP_V, 0, ID_GROUP_MAKE, ID_GROUP_UNMAKE, 0, ID_ALIGN_LEFT, ID_ALIGN_RIGHT, ID_ALIGN_TOP,
-          ID_ALIGN_BOTTOM, ID_ALIGN_VCENTER, ID_ALIGN_HCENTER, ID_ALIGN_CENTER, 0, ID_PAGE_DISTRIBUTE_H,
+         {ID_POSITION_FORWARD,
+          ID_POSITION_BACKWARD,
+          ID_POSITION_FRONT,
+          ID_POSITION_BACK,
+          0,
+          ID_ROTATE_LEFT,
+          ID_ROTATE_RIGHT,
+          ID_PAGE_FLIP_H,
+          ID_PAGE_FLIP_V,
+          0,
+          ID_GROUP_MAKE,
+          ID_GROUP_UNMAKE,
+          0,
+          ID_ALIGN_LEFT,
+          ID_ALIGN_RIGHT,
+          ID_ALIGN_TOP,
+          ID_ALIGN_BOTTOM,
+          ID_ALIGN_VCENTER,
+          ID_ALIGN_HCENTER,
+          ID_ALIGN_CENTER,
+          0,
+          ID_PAGE_DISTRIBUTE_H,
           ID_PAGE_DISTRIBUTE_V}},
         {Text::kMenuHelp, {ID_APP_ABOUT}},
     };

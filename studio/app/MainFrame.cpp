@@ -72,8 +72,8 @@ bool MainFrame::CreateFrame() {
     m_hAccelTable = m_keys = CreateAccelerators();
     m_runKeys = CreateRunAccelerators();
     m_document = new StudioDocument(*this, *this);
-    if (!m_toolbox.Create(*this) || !m_status.Create(*this) || !m_properties.Create(*this) || !CreatePageParts() ||
-        !m_document->NewFile())
+    if (!m_toolbox.Create(*this) || !m_status.Create(*this) || !m_properties.Create(*this) ||
+        !CreatePageParts() || !m_document->NewFile())
         return false;
     ShowPage();
     return true;
@@ -219,9 +219,8 @@ void MainFrame::RefreshStatus() {
     m_toolbox.SetCurrent(tool.kind);
     m_status.SetPane(StatusBar::kMode,
                      GetPlainText(page->m_nMode == Lumo::CM_POLY ? Text::kModePoly : Text::kModeDraw));
-    m_status.SetPane(StatusBar::kHint, m_refusal.IsEmpty()
-                                           ? GetPlainText(tool.name) + L":  " + GetText(tool.hint)
-                                           : m_refusal);
+    m_status.SetPane(StatusBar::kHint,
+                     m_refusal.IsEmpty() ? GetPlainText(tool.name) + L":  " + GetText(tool.hint) : m_refusal);
     m_status.SetPane(StatusBar::kSelection, SelectionText());
     m_status.SetPane(StatusBar::kModified,
                      m_document->GetModifiedFlag() ? GetText(Text::kStatusModified) : L"");

@@ -226,4 +226,3 @@ TEST_F(HistoryTest, ListChangesAreSmallAndExact) {
     EXPECT_EQ(1u, change.removed.size());
     EXPECT_EQ(1u, change.inserted.size());
 }
-
