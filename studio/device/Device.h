@@ -1,16 +1,18 @@
 // A simulated audio matrix controller: 16 inputs, 16 outputs, a gain at every crossing, equalisers and a
 // crossover behind every output. Everything it has is a value with a name.
 //
-// | name                                        | what |
-// |---------------------------------------------|-------------------------------------------------------------|
-// | in1.level, in1.peak                         | dBFS, read only | | in1.gain, in1.mute, in1.signal | dB;
-// switch; `Signal` code                                   | | xp.1.2.gain, xp.1.2.on                      |
-// crossing of input 1 and output 2: dB; switch                | | out1.level, out1.peak, out1.gain, out1.mute
-// | as of an input                                              | | out1.peq.on, out1.peq.1.type .freq .gain
-// .q .on | bands 1 to 6: `BandType` code, Hz, dB, Q, switch        | | out1.geq.on, out1.geq.1 | bands 1 to
-// 31, a third of an octave each: dB                | | out1.xover.on, .lowfreq .highfreq .slope    | two
-// edges in Hz, 12 or 24 dB per octave                     | | out1.xover.low .mid .high                   |
-// dB of the three ways                                        | | master.gain, master.mute | dB; switch |
+// clang-format off
+//   in1.level, in1.peak                          dBFS, read only
+//   in1.gain, in1.mute, in1.signal               dB; switch; `Signal` code
+//   xp.1.2.gain, xp.1.2.on                       crossing of input 1 and output 2: dB; switch
+//   out1.level, out1.peak, out1.gain, out1.mute  as of an input
+//   out1.peq.on, out1.peq.1.type .freq .gain .q .on
+//                                                bands 1 to 6: `BandType` code, Hz, dB, Q, switch
+//   out1.geq.on, out1.geq.1                      bands 1 to 31, a third of an octave each: dB
+//   out1.xover.on, .lowfreq .highfreq .slope     two edges in Hz, 12 or 24 dB per octave
+//   out1.xover.low .mid .high                    dB of the three ways
+//   master.gain, master.mute                     dB; switch
+// clang-format on
 #pragma once
 
 #include "studio/device/Ballistics.h"

@@ -4,47 +4,47 @@
 // behaviour uses the value named in its own record (`m_strName`); when that is empty, the object's binding.
 // A behaviour acts while it is turned on, its value exists and the object's condition holds.
 //
+// clang-format off
 // What the fields of the records mean:
-//
-// | record    | field                         | meaning |
-// |-----------|-------------------------------|----------------------------------------------------------------|
-// | all       | direction                     | 0 up, 1 right, 2 down, 3 left | | all       | m_nCompare |
-// `Comparison` code; with kAlways the value is not asked         | | all       | m_nLowValue, m_nHighValue |
-// value at the one and at the other end; low may be the larger   | | condition | m_comparisons | kAlways
-// leaves one out; limits are signed 16-bit numbers       | |           | m_nJoin                       | with
-// the next one: 0 and, 1 or; from left to right             | | blink     | m_nSpeed                      | 0
-// slow (1 s on, 1 s off), 1 normal (1/2 s), 2 fast (1/4 s)     | |           | m_bBlinkFill, Line, Text |
-// what blinks; none of them: the whole object                    | | colour    | fill, text: on, off |
-// colours for a switch that is on or off                         | |           | m_dwLineColor | outline
-// while a switch is on                                   | |           | m_dwAlarmColor, NormalColor   | fill
-// for a number beyond or within its alarm limit             | | hide      | m_nMode                       | 0
-// hidden while the comparison holds, 1 shown only while it does| |           | m_bHideFill, Line, Text | what
-// is hidden; none of them: the whole object                 | | fill      | m_nMode, m_strImagePath       | 0
-// colours; 1 the filled part shows the image file              | |           | m_nDirection | towards where
-// the object fills                                 | | move      | m_nMode                       | 0 in
-// proportion to the value, 1 all the way from the high value| |           | m_fDistance                   |
-// page units                                                     | | size      | m_nDirection | the edge that
-// moves                                            | |           | m_nMode                       | sizes in 0
-// page units, 1 per cent of the drawn size            | |           | m_nSmallSize, m_nLargeSize    | size at
-// the low and the high value; both 0: none to drawn size | | rotate    | m_ptCenter                    | page
-// units from the object's middle                            | | input     | m_nType                       | 0
-// number (click and type, or wheel), 1 switch (click)          | |           | m_nStep | one turn of the
-// wheel, in tenths of the value's unit           | | button    | m_nAction                     |
-// `ButtonAction` code                                            | |           | m_nValue | for kSetValue,
-// kRadioValue and kAddValue                       | |           | m_bConfirm, m_strConfirmText  | whether and
-// what the user is asked before the press acts       | |           | press, release command        |
-// assignments "name=value; name=value"; %1 to %15 are arguments  | | page      | m_nMode | 0 page of the
-// name, 1 page of the number, 2 next, 3 previous   | |           | m_nPage                       | from 1 |
-// |           | m_strPagePath                 | not used: pages are those of the open file | | text      |
-// m_nType                       | 0 number, 1 switch                                             | | |
-// m_strFormat                   | number: "#", "#.#", "#.##" stands for it; empty: with its unit | | | |
-// switch: text while on, "|", text while off                     | | slider    | m_nDirection | towards where
-// the value grows                                  | |           | m_nMode                       | 0 the
-// value jumps to the pointer, 1 it is dragged from where   | |           |                               | it
-// stands                                                      | | trend     | m_nType                       |
-// 0 points, 1 lines, 2 steps, 3 areas                            | |           | m_nTimeSpan | seconds | | |
-// lines: m_strName, m_nWidth    | value and width of a line                                      | | | lines:
-// m_nColor               | ARGB, -1 for a colour of Studio's choice                       |
+//   all         direction                  0 up, 1 right, 2 down, 3 left
+//               m_nCompare                 `Comparison` code; with kAlways the value is not asked
+//               m_nLowValue, m_nHighValue  value at the one and at the other end; low may be the larger
+//   condition   m_comparisons              kAlways leaves one out; limits are signed 16-bit numbers
+//               m_nJoin                    with the next one: 0 and, 1 or; from left to right
+//   blink       m_nSpeed                   0 slow (1 s on, 1 s off), 1 normal (1/2 s), 2 fast (1/4 s)
+//               m_bBlinkFill, Line, Text   what blinks; none of them: the whole object
+//   colour      fill, text: on, off        colours for a switch that is on or off
+//               m_dwLineColor              outline while a switch is on
+//               m_dwAlarmColor, Normal     fill for a number beyond or within its alarm limit
+//   hide        m_nMode                    0 hidden while the comparison holds, 1 shown only while it does
+//               m_bHideFill, Line, Text    what is hidden; none of them: the whole object
+//   fill        m_nMode, m_strImagePath    0 colours; 1 the filled part shows the image file
+//               m_nDirection               towards where the object fills
+//   move        m_nMode                    0 in proportion to the value, 1 all the way from the high value
+//               m_fDistance                page units
+//   size        m_nDirection               the edge that moves
+//               m_nMode                    sizes in 0 page units, 1 per cent of the drawn size
+//               m_nSmallSize, m_nLargeSize size at the low and the high value; both 0: none to drawn size
+//   rotate      m_ptCenter                 page units from the object's middle
+//   input       m_nType                    0 number (click and type, or wheel), 1 switch (click)
+//               m_nStep                    one turn of the wheel, in tenths of the value's unit
+//   button      m_nAction                  `ButtonAction` code
+//               m_nValue                   for kSetValue, kRadioValue and kAddValue
+//               m_bConfirm, m_strConfirmText  whether and what the user is asked before the press acts
+//               press, release command     assignments "name=value; name=value"; %1 to %15 are arguments
+//   page        m_nMode                    0 page of the name, 1 page of the number, 2 next, 3 previous
+//               m_nPage                    from 1
+//               m_strPagePath              not used: pages are those of the open file
+//   text        m_nType                    0 number, 1 switch
+//               m_strFormat                number: "#", "#.#", "#.##" stands for it; empty: with its unit
+//                                          switch: text while on, "|", text while off
+//   slider      m_nDirection               towards where the value grows
+//               m_nMode                    0 the value jumps to the pointer, 1 it is dragged from where it stands
+//   trend       m_nType                    0 points, 1 lines, 2 steps, 3 areas
+//               m_nTimeSpan                seconds
+//               lines: m_strName, m_nWidth value and width of a line
+//               lines: m_nColor            ARGB, -1 for a colour of Studio's choice
+// clang-format on
 #pragma once
 
 #include "behaviour/UIPreference.h"
