@@ -61,7 +61,7 @@ HINSTANCE Lumo::ModuleHandle() {
 extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH)
         return Load(instance);
-    if (reason == DLL_PROCESS_DETACH && g_module.hModule)
+    if (reason == DLL_PROCESS_DETACH && g_link)  // a load that was refused has undone itself
         Unload(instance);
     return TRUE;
 }
