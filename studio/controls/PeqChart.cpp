@@ -64,15 +64,15 @@ void PeqChart::Watch(std::vector<int>& values) {
 }
 
 CString PeqChart::Note(const Bands& bands) {
-    const int number = m_grabbed ? m_grabbed : m_hot;
+    const int number = HotBand();
     CString note;
     if (!bands.on)
         note = L"OFF";
     if (number < 1)
         return note;
     const Band& band = bands.band[number - 1];
-    note.Format(L"%d   %s Hz   %+.1f dB   Q %.2f", number, FrequencyLabel(band.frequency).GetString(),
-                band.gain, band.q);
+    note.Format(L"%d   %s Hz   %s dB   Q %.2f", number, FrequencyLabel(band.frequency).GetString(),
+                GainLabel(band.gain).GetString(), band.q);
     return note;
 }
 
@@ -82,7 +82,7 @@ void PeqChart::Render(Picture& picture) {
     CString title = Binding();
     title.MakeUpper();
     field.DrawGround(picture, title, Note(bands), kStep);
-    const int hot = m_grabbed ? m_grabbed : m_hot;
+    const int hot = HotBand();
     if (hot)
         field.DrawCurve(
             picture, [&](double f) { return bands.filter[hot - 1].Response(f); }, 1.2f,

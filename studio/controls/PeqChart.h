@@ -23,6 +23,8 @@ public:
 
     /// Where the handle of a band (from 1) is, in pixels from the chart's corner.
     CPoint HandleOf(int band);
+    /// The band (from 1) that is dragged or under the pointer, 0 when there is none.
+    int HotBand() const { return m_grabbed ? m_grabbed : m_hot; }
 
 protected:
     void Render(Picture& picture) override;

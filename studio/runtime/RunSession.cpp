@@ -58,6 +58,7 @@ RunSession::RunSession(StudioDocument& document, Device& device, RunHost& host)
 }
 
 RunSession::~RunSession() {
+    LetGo();
     run_drawshape = m_toolBefore;
     for (auto& [canvas, running] : m_pages) {
         canvas->SetOperator(nullptr);
@@ -161,9 +162,7 @@ void RunSession::Update() {
 }
 
 void RunSession::PageShown() {
-    // Nothing of the page that was left stays pressed or lit.
-    for (ObjectRun* run : {std::exchange(m_grabbed, nullptr), std::exchange(m_hover, nullptr)})
-        Relay(run, m_document.CurrentPage(), WM_MOUSELEAVE, 0, CPoint(0, 0));
+    LetGo();
     if (RunningPage* running = Current())
         running->whole = true;
     Update();
@@ -284,6 +283,17 @@ void RunSession::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& point)
 void RunSession::Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) {
     Relay(RunAt(at), &page, WM_MOUSEWHEEL, MAKELONG(flags, turn), at);
     Update();
+}
+
+// Nothing stays pressed or lit on a page that is left, nor when the run ends in the middle of a drag.
+void RunSession::LetGo() {
+    for (ObjectRun* run : {std::exchange(m_grabbed, nullptr), std::exchange(m_hover, nullptr)})
+        Relay(run, m_document.CurrentPage(), WM_MOUSELEAVE, 0, CPoint(0, 0));
+    const HWND capture = ::GetCapture();
+    for (const auto& [canvas, running] : m_pages) {
+        if (capture && capture == canvas->m_hWnd)
+            ::ReleaseCapture();
+    }
 }
 
 // The pointer has left the page, or something has taken the mouse away in the middle of a drag.

@@ -80,6 +80,7 @@ private:
     void Press(Lumo::CUICanvas* canvas, UINT message, UINT flags, const CPoint& point);
     void Relay(ObjectRun* run, Lumo::CUICanvas* canvas, UINT message, UINT flags, CPoint at);
     void SetHover(ObjectRun* run, Lumo::CUICanvas* canvas);
+    void LetGo();
     void PaintDirty(StudioCanvas& page, RunningPage& running, std::vector<Gdiplus::RectF>& dirty);
     void PaintPart(RunningPage& running, const CRect& part);
 

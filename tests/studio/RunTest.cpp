@@ -200,6 +200,24 @@ TEST_F(RunTest, ControlsAnswerTheMouse) {
     EXPECT_EQ(m_device.Get(L"master.mute"), 0.0);
 }
 
+TEST_F(RunTest, NothingStaysGrabbedWhenTheRunEnds) {
+    auto* chart = dynamic_cast<PeqChart*>(Add(Lumo::DS_CHARTPEQ, 0, 0, 300, 180));
+    CUIObject* held = Add(Lumo::DS_BUTTONDEVICE, 10, 250, 80, 40);
+    EditExtras(*held)->binding = L"master.mute";
+    dynamic_cast<DeviceButton*>(held)->SetButtonStyle(DeviceButton::kMomentary);
+    const CPoint handle = chart->HandleOf(3);
+    for (CPoint at : {handle, CPoint(50, 270)}) {
+        Run();
+        Mouse(WM_MOUSEMOVE, at.x, at.y);
+        Mouse(WM_LBUTTONDOWN, at.x, at.y);
+        Mouse(WM_MOUSEMOVE, at.x + 5, at.y);
+        m_session.reset();
+        EXPECT_NE(::GetCapture(), Page().m_hWnd);
+    }
+    EXPECT_EQ(m_device.Get(L"master.mute"), 0.0) << "a momentary button is released";
+    EXPECT_EQ(chart->HotBand(), 0) << "no band stays lit while the page is edited";
+}
+
 TEST_F(RunTest, ControlsStandAnySizeAndBinding) {
     const CSize sizes[] = {{1, 1}, {5, 300}, {300, 5}, {30, 30}, {70, 70}, {200, 160}};
     const LPCWSTR bindings[] = {L"", L"nonsense", L"out99.peq", L"out2.peq.9", L"in.", L"out1.peq.1.freq"};
