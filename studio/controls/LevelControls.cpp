@@ -2,6 +2,7 @@
 
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
+#include "studio/controls/Plot.h"
 
 #include <algorithm>
 #include <cmath>
@@ -195,8 +196,7 @@ void LevelButton::Render(Picture& picture) {
     const auto height = static_cast<float>(picture.Height());
     CString title = Binding();
     title.MakeUpper();
-    CString gain;
-    gain.Format(L"%+.1f dB", Value(L".gain"));
+    CString gain = GainLabel(Value(L".gain")) + L" dB";
     const float bar = std::max(3.0f, std::min(8.0f, height * 0.16f));
     const float text = height - bar - 9.0f;
     const DWORD gainInk = muted ? Ink::kRed : Ink::kQuiet;

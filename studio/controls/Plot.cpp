@@ -118,4 +118,14 @@ CString FrequencyLabel(double frequency) {
     return label;
 }
 
+CString GainLabel(double decibels) {
+    constexpr double kHalfStep = 0.05;
+    CString label;
+    if (std::fabs(decibels) < kHalfStep)
+        label = L"0.0";
+    else
+        label.Format(L"%+.1f", decibels);
+    return label;
+}
+
 }  // namespace Studio

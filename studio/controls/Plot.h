@@ -34,4 +34,7 @@ struct Plot {
 /// "80", "1k", "12.5k".
 CString FrequencyLabel(double frequency);
 
+/// Decibels as they are written at controls: "+3.5", "0.0", "-12.0".
+CString GainLabel(double decibels);
+
 }  // namespace Studio

@@ -55,8 +55,7 @@ void BandButton::Render(Picture& picture) {
         return;
     const bool units = width - left >= 58;
     const CString frequency = FrequencyLabel(band.frequency) + (units ? L" Hz" : L"");
-    CString gain;
-    gain.Format(units ? L"%+.1f dB" : L"%+.1f", band.gain);
+    const CString gain = GainLabel(band.gain) + (units ? L" dB" : L"");
     const DWORD text = band.on ? Ink::kText : Ink::kQuiet;
     if (height >= 32) {
         picture.Text(frequency, left, height * 0.1f, width - 6, height * 0.52f, 11.0f, text,
@@ -113,7 +112,7 @@ void CrossoverState::Render(Picture& picture) {
     if (part == kLowEdge || part == kHighEdge)
         note = FrequencyLabel(Value(part == kLowEdge ? L".lowfreq" : L".highfreq")) + L" Hz";
     else if (part)
-        note.Format(L"%+.1f dB", Value(part == kLow ? L".low" : part == kMid ? L".mid" : L".high"));
+        note = GainLabel(Value(part == kLow ? L".low" : part == kMid ? L".mid" : L".high")) + L" dB";
     else
         note.Format(L"%d dB/oct", static_cast<int>(Value(L".slope")));
     field.DrawGround(picture, title, on ? note : CString(L"OFF"), 12.0);
@@ -212,8 +211,8 @@ void GeqState::Render(Picture& picture) {
     title.MakeUpper();
     CString note = on ? L"" : L"OFF";
     if (m_hot)
-        note.Format(L"%s Hz   %+.1f dB", FrequencyLabel(Device::GeqFrequency(m_hot)).GetString(),
-                    Value(Numbered(L".%d", m_hot)));
+        note = FrequencyLabel(Device::GeqFrequency(m_hot)) + L" Hz   " +
+               GainLabel(Value(Numbered(L".%d", m_hot))) + L" dB";
     if (labels) {
         picture.Text(title, field.left, 4, field.right, 24, 11.0f, Ink::kText, Gdiplus::StringAlignmentNear,
                      true);
@@ -371,11 +370,10 @@ void PeqState::Render(Picture& picture) {
         picture.Disc(left + 8, top + height / 2, radius, ink);
         picture.Text(Numbered(L"%d", row), left, top, left + 16, top + height, 9.0f, Ink::kWell,
                      Gdiplus::StringAlignmentCenter, true);
-        CString gain, q;
-        gain.Format(L"%+.1f", band.gain);
+        CString q;
         q.Format(L"%.2f", band.q);
-        cells({L"", TypeName(band.type), FrequencyLabel(band.frequency), gain, q}, top, top + height,
-              band.on && on ? Ink::kText : Ink::kQuiet);
+        cells({L"", TypeName(band.type), FrequencyLabel(band.frequency), GainLabel(band.gain), q}, top,
+              top + height, band.on && on ? Ink::kText : Ink::kQuiet);
     }
 }
 

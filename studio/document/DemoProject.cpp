@@ -20,8 +20,9 @@ constexpr DWORD kRed = 0xFFE2574C;
 
 // Every page begins with its title and what can be done on it.
 void DrawHead(Sketch& s, Text title, Text note) {
-    s.Label(RectF(24, 14, 420, 36), GetText(title), 24, kTitle, Gdiplus::StringAlignmentNear);
-    s.Label(RectF(24, 48, 520, 24), GetText(note), 13, kQuiet, Gdiplus::StringAlignmentNear);
+    // A caption begins a little inside its box, the larger its type the more.
+    s.Label(RectF(17, 14, 420, 36), GetText(title), 24, kTitle, Gdiplus::StringAlignmentNear);
+    s.Label(RectF(19, 48, 525, 24), GetText(note), 13, kQuiet, Gdiplus::StringAlignmentNear);
 }
 
 CString Name(LPCWSTR format, int number) {
@@ -64,7 +65,7 @@ void DrawTrend(Sketch& s, const RectF& rect) {
     trend.m_nHighValue = 0;
     trend.m_nValueDivisions = 3;
     trend.m_dwBackColor = 0xFF0B0D11;
-    trend.m_dwGridColor = 0xFF262B34;
+    trend.m_dwGridColor = 0xFF7A8698;
     AddTrendLine(extras, L"in1.level", 0xFF3FC46B);
     AddTrendLine(extras, L"out1.level", 0xFF5B93F5);
 }
