@@ -41,10 +41,12 @@ CString TemporaryPath() {
     return path;
 }
 
+constexpr int kBuffer = 65536;
+
 // The page's objects are there already, so that loading reads into them, as a host's document has it.
 void Transfer(CUIDocument& document, const CString& path, UINT fileMode, UINT archiveMode) {
     CFile file(path, fileMode);
-    CArchive ar(&file, archiveMode);
+    CArchive ar(&file, archiveMode, kBuffer);
     document.Serialize(ar);
     ar.Close();
 }
@@ -70,7 +72,7 @@ void MeasureArchive(std::vector<Line>& lines) {
         5, [&] { Transfer(*page.document, path, create, CArchive::store); },
         [&] { CFile(path, create).Write(raw.data(), size); });
     const auto detail = [&](double seconds) {
-        return std::to_string(static_cast<int>(size / seconds / 1e6)) + " MB/s";
+        return std::to_string(static_cast<int>(size / seconds / 1e6)) + " MB/s, 64 KB buffer";
     };
     lines.push_back({"save 100,000 objects, speed against one raw write", save.other / save.ours, "x", 0.25,
                      true, detail(save.ours)});

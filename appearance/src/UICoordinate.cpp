@@ -25,9 +25,13 @@ CUICoordinate::~CUICoordinate() = default;
 
 void CUICoordinate::Serialize(CArchive& ar) {
     static const CString name(L"Coordinate");
-    // Read into a copy and not looked at: a file with another tag loads just the same.
-    CString tag = name;
-    ArchiveFields(ar, tag);
+    static CString discarded = name;  // not looked at: a file with another tag loads just the same
+    if (ar.IsStoring())
+        ar << name;
+    else
+        ar >> discarded;
+    if (discarded.GetLength() != name.GetLength())
+        discarded = name;
     m_text.Serialize(ar);
     m_fill.Serialize(ar);
     m_lineColor.Serialize(ar);

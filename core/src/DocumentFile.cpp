@@ -1,7 +1,7 @@
 // The archive file: dialogs, file and archive set-up, the order of the records, errors.
 #include "core/UIDocument.h"
 
-#include "core/UIObject.h"
+#include "core/src/ForEachObject.h"
 
 #include <afxdlgs.h>
 
@@ -54,11 +54,8 @@ int Archive(CFile& file, UINT mode, const CString& path, LPCTSTR errorFormat, Tr
 
 void CUIDocument::Serialize(CArchive& ar) {
     for (auto& [canvas, objects] : m_pages) {
-        if (!objects)
-            continue;
-        for (CUIObject* object : *objects)
-            if (object)
-                object->Serialize(ar);
+        if (objects)
+            ForEachObject(*objects, [&ar](CUIObject* object) { object->Serialize(ar); });
     }
 }
 

@@ -4,6 +4,7 @@
 #include "canvas/UICanvas.h"
 #include "core/Geometry.h"
 #include "core/UIObject.h"
+#include "core/src/ForEachObject.h"
 #include "core/src/ObjectFactory.h"
 
 #include <algorithm>
@@ -42,17 +43,6 @@ CUIObject* FindByName(const CUIObjectDeque* objects, const CString& name) {
             return object;
     }
     return nullptr;
-}
-
-// Most objects of a large page are skipped as soon as their geometry is read: that costs less than waiting
-// for it.
-constexpr size_t kAhead = 6;
-
-void Prefetch(const CUIObject* object) {
-    constexpr size_t kCacheLine = 64;
-    const char* bytes = reinterpret_cast<const char*>(object);
-    for (size_t at = 0; bytes && at < sizeof(CUIObject); at += kCacheLine)
-        __builtin_prefetch(bytes + at);
 }
 
 }  // namespace
@@ -166,13 +156,10 @@ void CUIDocument::DrawCanvas(Gdiplus::Graphics* g, CUICanvas* canvas) {
     const CUIObjectDeque* objects = canvas ? GetCanvasObjectList(canvas) : nullptr;
     if (!objects)
         return;
-    for (size_t i = 0; i < objects->size(); ++i) {
-        if (i + kAhead < objects->size())
-            Prefetch((*objects)[i + kAhead]);
-        CUIObject* object = (*objects)[i];
-        if (object && !object->GetRemoved())
+    ForEachObject(*objects, [g](CUIObject* object) {
+        if (!object->GetRemoved())
             object->Draw(g);
-    }
+    });
 }
 
 void CUIDocument::DrawCanvas(Gdiplus::Graphics* g) {
