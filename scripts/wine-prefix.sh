@@ -4,8 +4,11 @@
 # it is ended. Needs WINEPREFIX and a display.
 set -euo pipefail
 
-stamp="$WINEPREFIX/.tessel-fonts-1"
-[ -f "$stamp" ] || rm -rf "$WINEPREFIX"
+stamp="$WINEPREFIX/.tessel-fonts-2"
+if [ ! -f "$stamp" ]; then
+    [ ! -d "$WINEPREFIX" ] || wineserver -k >/dev/null 2>&1 || true
+    rm -rf "$WINEPREFIX"
+fi
 mkdir -p "$WINEPREFIX"
 wineserver -p >/dev/null 2>&1 || true  # one that runs already is as good
 [ -f "$stamp" ] && exit 0
@@ -22,8 +25,15 @@ add "$replacements" /v "Malgun Gothic" /t REG_SZ /d "NanumGothic"
 
 links='HKLM\Software\Microsoft\Windows NT\CurrentVersion\FontLink\SystemLink'
 for font in "Tahoma" "MS Shell Dlg" "MS Shell Dlg 2" "Segoe UI" "Microsoft Sans Serif" "MS Sans Serif" "System" \
-    "Arial" "Liberation Sans"; do
+    "Arial"; do
     add "$links" /v "$font" /t REG_MULTI_SZ /d "NanumGothic.ttf,NanumGothic"
+done
+# The other styles of a font are looked up by their full names.
+for font in "Liberation Sans" "Liberation Serif" "Liberation Mono"; do
+    add "$links" /v "$font" /t REG_MULTI_SZ /d "NanumGothic.ttf,NanumGothic"
+    add "$links" /v "$font Italic" /t REG_MULTI_SZ /d "NanumGothic.ttf,NanumGothic"
+    add "$links" /v "$font Bold" /t REG_MULTI_SZ /d "NanumGothicBold.ttf,NanumGothic"
+    add "$links" /v "$font Bold Italic" /t REG_MULTI_SZ /d "NanumGothicBold.ttf,NanumGothic"
 done
 
 # The symbols of the caption buttons; Tahoma stays out, or bold captions lose their Korean.

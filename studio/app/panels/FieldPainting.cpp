@@ -70,26 +70,14 @@ void PaintArrow(CDC& dc, CPoint centre, ArrowLook look, DWORD color) {
     }
 }
 
-namespace {
-
-void MakeBold(CFont& font, LPCWSTR face) {
-    LOGFONT look = {};
-    ::GetObject(BarFont(), sizeof look, &look);
-    look.lfWeight = FW_BOLD;
-    ::lstrcpyn(look.lfFaceName, face, LF_FACESIZE);
-    font.CreateFontIndirect(&look);
-}
-
-}  // namespace
-
-HFONT HeadingFont(const CString& text) {
-    // Not every system finds Korean letters for a bold Latin face.
-    const bool korean = std::any_of(text.GetString(), text.GetString() + text.GetLength(),
-                                    [](WCHAR letter) { return letter >= 0x1100; });
-    static CFont fonts[2];
-    CFont& font = fonts[korean ? 1 : 0];
-    if (!font.m_hObject)
-        MakeBold(font, korean ? L"Malgun Gothic" : L"Segoe UI");
+HFONT HeadingFont() {
+    static CFont font;
+    if (!font.m_hObject) {
+        LOGFONT look = {};
+        ::GetObject(BarFont(), sizeof look, &look);
+        look.lfWeight = FW_BOLD;
+        font.CreateFontIndirect(&look);
+    }
     return font;
 }
 

@@ -45,6 +45,6 @@ enum class ArrowLook { kDown, kUp, kRight };
 void PaintArrow(CDC& dc, CPoint centre, ArrowLook look, DWORD color);
 
 /// The font of a heading; it belongs to the program.
-HFONT HeadingFont(const CString& text);
+HFONT HeadingFont();
 
 }  // namespace Studio

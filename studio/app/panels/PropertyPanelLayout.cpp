@@ -172,7 +172,7 @@ void PropertyPanel::OnPaint() {
                       enabled ? Palette::kText : Palette::kQuietText);
         }
     }
-    ::SelectObject(dc, HeadingFont(m_title));
+    ::SelectObject(dc, HeadingFont());
     PaintText(dc, m_title, CRect(kMargin, -m_scroll, client.right - kMargin, kTitleHeight - m_scroll),
               Palette::kText);
     dc.FillSolidRect(0, 0, 1, client.Height(), ToColorRef(Palette::kEdge));

@@ -24,7 +24,7 @@ void SectionHeader::Draw(const DRAWITEMSTRUCT& item) const {
     const DWORD color = focus ? Palette::kAccent : Palette::kText;
     PaintArrow(dc, CPoint(rect.left + 13, rect.CenterPoint().y),
                m_open ? ArrowLook::kDown : ArrowLook::kRight, color);
-    ::SelectObject(dc, HeadingFont(GetText(m_title)));
+    ::SelectObject(dc, HeadingFont());
     dc.SetBkMode(TRANSPARENT);
     rect.left += 24;
     PaintText(dc, GetText(m_title), rect, color);
