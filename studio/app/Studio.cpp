@@ -1,6 +1,7 @@
 // The program.
 #include "studio/app/CommandLine.h"
 #include "studio/app/MainFrame.h"
+#include "studio/editing/TextKeys.h"
 
 #include <commctrl.h>
 
@@ -32,6 +33,11 @@ public:
         else
             frame->OpenPath(line.arguments.front());
         return TRUE;
+    }
+
+    BOOL PreTranslateMessage(MSG* message) override {
+        auto* frame = static_cast<CFrameWnd*>(m_pMainWnd);
+        return (frame && TakeTextKey(*message, *frame)) || CWinApp::PreTranslateMessage(message);
     }
 
     int ExitInstance() override {
