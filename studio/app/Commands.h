@@ -51,6 +51,7 @@ enum FrameCommandId : UINT {
     ID_VIEW_PROPERTIES = 6690,
     ID_RUN_PAGES,
     ID_RUN_ESCAPE,
+    ID_INSERT_EMBEDDED,
 };
 
 /// Commands on the pages and files of the document, and on what the frame shows.

@@ -37,6 +37,18 @@
                            L"그림을 넣을 곳을 끌거나 클릭한 다음 파일을 고르세요") \
     X(kPictureFilter,      L"Pictures|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico|All files (*.*)|*.*||", \
                            L"그림|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff;*.ico|모든 파일 (*.*)|*.*||") \
+    X(kMenuInsert,         L"&Insert",                  L"삽입(&I)") \
+    X(kInsertEmbedded,     L"&Object...",               L"개체(&O)...") \
+    X(kEmbeddedObject,     L"Embedded object",          L"포함된 개체") \
+    X(kStepEmbedded,       L"Edit Object",              L"개체 편집") \
+    X(kErrorEmbedded,      L"No object was inserted.\n\n%s", L"개체를 삽입하지 못했습니다.\n\n%s") \
+    X(kErrorOpenEmbedded,  L"The object could not be opened.\n\n%s", L"개체를 열 수 없습니다.\n\n%s") \
+    X(kFaultOle,           L"This system does not support embedded objects.", \
+                           L"이 시스템은 포함된 개체를 지원하지 않습니다.") \
+    X(kFaultBlank,         L"Only its picture is here: its data could not be stored.", \
+                           L"데이터를 저장할 수 없는 개체여서 그림만 남아 있습니다.") \
+    X(kFaultStatus,        L"The system reports the error 0x%08X.", L"시스템 오류가 발생했습니다(0x%08X).") \
+    X(kFaultOleDialog,     L"The list of objects could not be shown.", L"개체 목록을 표시할 수 없습니다.") \
     X(kErrorPicture,       L"The file \"%s\" holds no picture that can be shown.", \
                            L"파일 \"%s\"에는 표시할 수 있는 그림이 없습니다.")
 // clang-format on

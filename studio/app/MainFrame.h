@@ -11,6 +11,8 @@
 #include "studio/document/StudioDocument.h"
 #include "studio/editing/PageTool.h"
 
+class COleInsertDialog;
+
 namespace Studio {
 
 /// Owns document, tools and bars; routes every command. Deletes itself with its window.
@@ -38,6 +40,7 @@ public:
     void OnCanvasPointer(StudioCanvas& canvas, const CPoint* at) override;
     void OnCanvasMenu(StudioCanvas& canvas, CPoint screen) override;
     void OnCanvasPicture(StudioCanvas& canvas, const Gdiplus::RectF& place) override;
+    void OnCanvasEmbedded(StudioCanvas& canvas, EmbeddedObject& object) override;
 
 protected:
     DECLARE_MESSAGE_MAP()
@@ -66,6 +69,7 @@ protected:
     afx_msg void OnUpdatePagesCommand(CCmdUI* ui);
     afx_msg void OnViewSymbols();
     afx_msg void OnUpdateViewSymbols(CCmdUI* ui);
+    afx_msg void OnInsertEmbedded();
     afx_msg void OnRun();
     afx_msg void OnRunEscape();
     BOOL OnNotify(WPARAM id, LPARAM notify, LRESULT* result) override;
@@ -91,6 +95,7 @@ private:
     bool CreatePageParts();
     void ShowPagesMenu(CPoint screen);
     void InsertSymbol(const CString& path, const CPoint* screen);
+    void InsertEmbedded(StudioCanvas& page, COleInsertDialog& dialog);
     void OnPagesChanged();
     void StartAutosave();
     void AutosaveNow();

@@ -3,6 +3,7 @@
 #include "studio/app/MainFrame.h"
 #include "studio/editing/TextKeys.h"
 
+#include <afxole.h>
 #include <commctrl.h>
 
 namespace Studio {
@@ -42,6 +43,7 @@ public:
 
     int ExitInstance() override {
         const int code = CWinApp::ExitInstance();
+        AfxOleTerm();
         return m_exitCode ? m_exitCode : code;
     }
 

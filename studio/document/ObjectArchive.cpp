@@ -2,6 +2,7 @@
 
 #include "core/UIObjectPoly.h"
 #include "studio/document/ObjectExtras.h"
+#include "studio/editing/EmbeddedObject.h"
 #include "studio/editing/GroupObject.h"
 
 #include <cmath>
@@ -132,6 +133,8 @@ void StoreAt(CArchive& ar, CUIObject& object, int depth) {
         StorePoints(ar, *poly);
     else if (auto* group = dynamic_cast<GroupObject*>(&object))
         StoreChildren(ar, *group, depth);
+    else if (auto* embedded = dynamic_cast<EmbeddedObject*>(&object))
+        embedded->StoreContents(ar);
 }
 
 void LoadInto(CArchive& ar, CUIObject& object, ObjectClass objectClass, int depth, DWORD version) {
@@ -144,6 +147,8 @@ void LoadInto(CArchive& ar, CUIObject& object, ObjectClass objectClass, int dept
         LoadPoints(ar, *poly);
     else if (auto* group = dynamic_cast<GroupObject*>(&object))
         LoadChildren(ar, *group, depth, version);
+    else if (auto* embedded = dynamic_cast<EmbeddedObject*>(&object))
+        embedded->LoadContents(ar);
 }
 
 ObjectPtr LoadAt(CArchive& ar, int depth, DWORD version) {

@@ -15,7 +15,8 @@ struct FileFault {
 inline constexpr DWORD kArchiveVersion = 2;
 
 /// Writes class, the library's record, removed mark, the values that the record does not keep (text alignment
-/// and unit, pen alignment, rectangle mode, most points, points), the extras and the children of a group.
+/// and unit, pen alignment, rectangle mode, most points, points), the extras, the children of a group and the
+/// contents of an embedded item.
 /// Raises the archive's exceptions and `FileFault`.
 void StoreObject(CArchive& ar, Lumo::CUIObject& object);
 

@@ -34,6 +34,8 @@ std::unique_ptr<Bitmap> MakeBitmap(int width, int height) {
     return bitmap;
 }
 
+}  // namespace
+
 CLSID PngEncoder() {
     UINT count = 0, size = 0;
     Gdiplus::GetImageEncodersSize(&count, &size);
@@ -46,8 +48,6 @@ CLSID PngEncoder() {
     }
     throw FileFault{Text::kFaultPicture};
 }
-
-}  // namespace
 
 void DrawObjects(Graphics& g, const CUIObjectDeque& objects) {
     for (CUIObject* object : objects) {

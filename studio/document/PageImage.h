@@ -22,4 +22,7 @@ void DrawFitted(Gdiplus::Graphics& g, const Lumo::CUIObjectDeque& objects, CSize
 /// files.
 void WritePagePicture(const Lumo::CUIObjectDeque& objects, const CString& path);
 
+/// The encoder of PNG pictures. Raises `FileFault` when the system has none.
+CLSID PngEncoder();
+
 }  // namespace Studio

@@ -265,6 +265,8 @@ std::vector<BYTE> EmbeddedItem::DrawnPicture() {
 }
 
 CString StatusText(SCODE status) {
+    if (status == OLE_E_BLANK)
+        return GetText(Text::kFaultBlank);
     WCHAR words[512] = L"";
     ::FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
                     static_cast<DWORD>(status), 0, words, ARRAYSIZE(words), nullptr);

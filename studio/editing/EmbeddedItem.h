@@ -46,7 +46,7 @@ private:
     ComPtr<IStorage> m_storage;
 };
 
-/// The system's words for the status of a failed call, or its number.
+/// Why a call failed: the system's words for its status, or the number.
 CString StatusText(SCODE status);
 
 }  // namespace Studio

@@ -7,6 +7,7 @@
 #include "studio/controls/MatrixControls.h"
 #include "studio/controls/PeqChart.h"
 #include "studio/controls/StateControls.h"
+#include "studio/editing/EmbeddedObject.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/PictureFill.h"
 #include "studio/editing/StyledShapes.h"
@@ -114,6 +115,8 @@ ObjectClass ClassOf(const CUIObject& object) {
         return ObjectClass::kPolyLine;
     if (dynamic_cast<const GroupObject*>(&object))
         return ObjectClass::kGroup;
+    if (dynamic_cast<const EmbeddedObject*>(&object))
+        return ObjectClass::kEmbedded;
     if (dynamic_cast<const Control*>(&object))
         return static_cast<ObjectClass>(object.GetDrawShape());
     return ObjectClass::kNone;
@@ -135,6 +138,8 @@ ObjectPtr MakeObject(ObjectClass objectClass) {
             return ObjectPtr(new LiveObject<PolyLine>(none, kind));
         case ObjectClass::kGroup:
             return ObjectPtr(new LiveObject<GroupObject>);
+        case ObjectClass::kEmbedded:
+            return ObjectPtr(new LiveObject<EmbeddedObject>);
         case ObjectClass::kPeqChart:
             return ObjectPtr(new LiveObject<PeqChart>);
         case ObjectClass::kBandButton:
@@ -174,6 +179,8 @@ Lumo::DrawShape KindOf(ObjectClass objectClass) {
             return Lumo::DS_POLYLINE;
         case ObjectClass::kGroup:
             return Lumo::DS_GROUP;
+        case ObjectClass::kEmbedded:
+            return Lumo::DS_OLE;
         default:
             return Lumo::DS_UNKNOWN;
     }

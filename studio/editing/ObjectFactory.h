@@ -16,6 +16,7 @@ enum class ObjectClass : DWORD {
     kLine = 4,
     kPolyLine = 5,
     kGroup = 6,
+    kEmbedded = 7,
     // The audio controls have the numbers of their shape kinds.
     kPeqChart = Lumo::DS_CHARTPEQ,
     kBandButton = Lumo::DS_BUTTONBAND,

@@ -1,6 +1,7 @@
 #include "studio/editing/PageTool.h"
 
 #include "core/Geometry.h"
+#include "studio/editing/EmbeddedObject.h"
 #include "studio/editing/FigureGesture.h"
 #include "studio/editing/Geometry.h"
 #include "studio/editing/PictureGesture.h"
@@ -127,8 +128,11 @@ void SelectTool::Press(StudioCanvas& page, CPoint at, UINT flags) {
 }
 
 void SelectTool::DoubleClick(StudioCanvas& page, CPoint at, UINT flags) {
-    if (auto* text = dynamic_cast<TextBox*>(page.Document().ObjectAt(at)))
+    CUIObject* object = page.Document().ObjectAt(at);
+    if (auto* text = dynamic_cast<TextBox*>(object))
         page.BeginTextEdit(*text);
+    else if (auto* embedded = dynamic_cast<EmbeddedObject*>(object))
+        page.OpenEmbedded(*embedded);
     else
         Press(page, at, flags);
 }

@@ -29,7 +29,7 @@ protected:
     virtual void DoubleClick(StudioCanvas& page, CPoint at, UINT flags) { Press(page, at, flags); }
 };
 
-/// Selects, moves and resizes; a double click edits a text box.
+/// Selects, moves and resizes; a double click edits a text box or opens an embedded object.
 class SelectTool : public PageTool {
 public:
     SelectTool() : PageTool(Lumo::DS_SELECT) {}

@@ -12,6 +12,7 @@
 
 namespace Studio {
 
+class EmbeddedObject;
 class History;
 class StudioCanvas;
 class StudioDocument;
@@ -28,6 +29,8 @@ public:
     virtual void OnCanvasMenu(StudioCanvas& canvas, CPoint screen) = 0;
     /// The picture tool wants a picture at `place` (page units; without a size: about its corner).
     virtual void OnCanvasPicture(StudioCanvas&, const Gdiplus::RectF&) {}
+    /// An embedded object was double-clicked: it is to be opened.
+    virtual void OnCanvasEmbedded(StudioCanvas&, EmbeddedObject&) {}
 };
 
 /// Operates a page instead of editing it.
@@ -104,6 +107,8 @@ public:
 
     /// Asks the host for a picture, once the message that is being handled is done with.
     void RequestPicture(const Gdiplus::RectF& place);
+    /// Has the host open an embedded object.
+    void OpenEmbedded(EmbeddedObject& object) { m_listener.OnCanvasEmbedded(*this, object); }
     /// Tells the host that something may have changed.
     void NotifyState() { m_listener.OnCanvasState(*this); }
 

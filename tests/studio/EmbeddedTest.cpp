@@ -146,7 +146,7 @@ TEST_F(EmbeddedTest, WithoutAPictureThereIsAFrameInTheBounds) {
     SCODE status = S_OK;
     EXPECT_FALSE(embedded.Open(m_parent, &status)) << "there is no data to open";
     EXPECT_TRUE(FAILED(status));
-    EXPECT_FALSE(StatusText(status).IsEmpty());
+    EXPECT_EQ(CString(GetText(Text::kFaultBlank)), StatusText(status));
 }
 
 TEST_F(EmbeddedTest, CopiesAndUndoesLikeOtherObjects) {
