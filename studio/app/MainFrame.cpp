@@ -14,11 +14,14 @@ namespace Studio {
 namespace {
 
 const CRect kFrame(40, 40, 40 + 1320, 40 + 860);
+// Everything has its place, and some of the page is seen.
+constexpr POINT kLeastSize = {760, 520};
 
 }  // namespace
 
 BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_SIZE()
+    ON_WM_GETMINMAXINFO()
     ON_WM_ERASEBKGND()
     ON_WM_SETFOCUS()
     ON_WM_CLOSE()
@@ -84,6 +87,11 @@ void MainFrame::OnSize(UINT type, int cx, int cy) {
     CFrameWnd::OnSize(type, cx, cy);
     if (type != SIZE_MINIMIZED)
         LayOut();
+}
+
+void MainFrame::OnGetMinMaxInfo(MINMAXINFO* info) {
+    CFrameWnd::OnGetMinMaxInfo(info);
+    info->ptMinTrackSize = kLeastSize;
 }
 
 // Toolbox and symbols at the left, properties at the right, status bar at the bottom, tabs below the page.

@@ -45,6 +45,7 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
     afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnClose();

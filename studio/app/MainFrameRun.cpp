@@ -16,6 +16,8 @@ void MainFrame::SetRunning(bool running) {
     m_hAccelTable = running ? m_runKeys : m_keys;
     ::SetMenu(m_hWnd, running ? nullptr : m_menuBar);
     m_tabs.SetLocked(running);
+    // The page moves away under the pointer.
+    m_status.SetPane(StatusBar::kPointer, CString());
     m_toolbox.ShowWindow(running ? SW_HIDE : SW_SHOWNA);
     m_symbols.ShowWindow(m_showSymbols && !running ? SW_SHOWNA : SW_HIDE);
     m_properties.ShowWindow(m_showProperties && !running ? SW_SHOWNA : SW_HIDE);

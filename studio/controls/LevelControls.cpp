@@ -53,7 +53,7 @@ void LevelChart::Arrange() {
     const int count = one ? 1 : Device::kChannels;
     const bool roomy = size.cx >= 60;
     const int left = roomy ? 32 : 5;
-    m_top = roomy ? 26 : 6;
+    m_top = roomy ? 30 : 6;
     m_bottom = std::max(m_top + 1, static_cast<int>(size.cy) - (roomy && !one ? 22 : 8));
     const float pitch = static_cast<float>(size.cx - left - 8) / static_cast<float>(count);
     const float gap = pitch > 8.0f ? std::min(pitch * 0.25f, 6.0f) : 1.0f;
