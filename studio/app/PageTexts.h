@@ -48,9 +48,9 @@
     X(kDemoLevels,         L"Levels",                   L"레벨") \
     X(kDemoLevelsNote,     L"Click a channel to mute it, drag it up or down for its gain", \
                            L"채널을 클릭하면 음소거되고, 위아래로 끌면 게인이 바뀝니다") \
-    X(kCheckSound,         L"%s: sound, %d pages, %d objects", L"%s: 정상, 페이지 %d개, 개체 %d개") \
+    X(kCheckSound,         L"%s: sound; pages: %d, objects: %d", L"%s: 정상, 페이지 %d개, 개체 %d개") \
     X(kCheckFaulty,        L"%s: not sound. %s",        L"%s: 정상 아님. %s") \
-    X(kCheckPage,          L"Page %d \"%s\": %d objects", L"페이지 %d \"%s\": 개체 %d개") \
+    X(kCheckPage,          L"Page %d \"%s\"; objects: %d", L"페이지 %d \"%s\": 개체 %d개") \
     X(kUsage,              L"Studio [--lang en|ko] [--demo] [file.cbf]\n" \
                            L"Studio --render file.cbf picture.png [page]\n" \
                            L"Studio --check file.cbf\n" \

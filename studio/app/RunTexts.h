@@ -8,7 +8,7 @@
     X(kRunTitle,           L"Running",                  L"실행 중") \
     X(kRunHint,            L"Running: operate the page; Esc returns to editing", \
                            L"실행 중: 화면을 조작하세요. Esc를 누르면 편집으로 돌아갑니다") \
-    X(kRunValues,          L"%d live objects",          L"움직이는 개체 %d개") \
+    X(kRunValues,          L"Live objects: %d",          L"움직이는 개체 %d개") \
     X(kMenuControls,       L"Audio &Controls",          L"오디오 컨트롤(&C)") \
     X(kToolPeqChart,       L"Parametric &Equaliser Chart", L"파라메트릭 이퀄라이저 차트(&E)") \
     X(kToolBandButton,     L"Equaliser &Band Button",   L"이퀄라이저 밴드 버튼(&B)") \
