@@ -111,6 +111,8 @@ protected:
 
 private:
     bool OpenStorage();
+    template <class Create>
+    BOOL MakeObject(OLERENDER render, CLIPFORMAT cfFormat, LPFORMATETC lpFormatEtc, Create create);
     BOOL Finish(SCODE sc);
 
     LPLOCKBYTES m_lpLockBytes = nullptr;

@@ -30,37 +30,39 @@ BOOL COleClientItem::Finish(SCODE sc) {
     return FALSE;
 }
 
-BOOL COleClientItem::CreateNewItem(REFCLSID clsid, OLERENDER render, CLIPFORMAT cfFormat,
-                                   LPFORMATETC lpFormatEtc) {
+// Makes the object with create(wanted format, address of the object) in a fresh storage.
+template <class Create>
+BOOL COleClientItem::MakeObject(OLERENDER render, CLIPFORMAT cfFormat, LPFORMATETC lpFormatEtc,
+                                Create create) {
     Release(OLECLOSE_NOSAVE);
     if (!OpenStorage())
         return Finish(m_scLast);
     FORMATETC format{cfFormat, nullptr, DVASPECT_CONTENT, -1, TYMED_NULL};
-    LPFORMATETC wanted = lpFormatEtc ? lpFormatEtc : render == OLERENDER_FORMAT ? &format : nullptr;
-    return Finish(::OleCreate(clsid, IID_IOleObject, render, wanted, nullptr, m_lpStorage,
-                              reinterpret_cast<void**>(&m_lpObject)));
+    const LPFORMATETC wanted = lpFormatEtc ? lpFormatEtc : render == OLERENDER_FORMAT ? &format : nullptr;
+    return Finish(create(wanted, reinterpret_cast<void**>(&m_lpObject)));
+}
+
+BOOL COleClientItem::CreateNewItem(REFCLSID clsid, OLERENDER render, CLIPFORMAT cfFormat,
+                                   LPFORMATETC lpFormatEtc) {
+    return MakeObject(render, cfFormat, lpFormatEtc, [&](LPFORMATETC wanted, void** object) {
+        return ::OleCreate(clsid, IID_IOleObject, render, wanted, nullptr, m_lpStorage, object);
+    });
 }
 
 BOOL COleClientItem::CreateFromFile(LPCTSTR lpszFileName, REFCLSID clsid, OLERENDER render,
                                     CLIPFORMAT cfFormat, LPFORMATETC lpFormatEtc) {
-    Release(OLECLOSE_NOSAVE);
-    if (!OpenStorage())
-        return Finish(m_scLast);
-    FORMATETC format{cfFormat, nullptr, DVASPECT_CONTENT, -1, TYMED_NULL};
-    LPFORMATETC wanted = lpFormatEtc ? lpFormatEtc : render == OLERENDER_FORMAT ? &format : nullptr;
-    return Finish(::OleCreateFromFile(clsid, lpszFileName, IID_IOleObject, render, wanted, nullptr,
-                                      m_lpStorage, reinterpret_cast<void**>(&m_lpObject)));
+    return MakeObject(render, cfFormat, lpFormatEtc, [&](LPFORMATETC wanted, void** object) {
+        return ::OleCreateFromFile(clsid, lpszFileName, IID_IOleObject, render, wanted, nullptr, m_lpStorage,
+                                   object);
+    });
 }
 
 BOOL COleClientItem::CreateLinkFromFile(LPCTSTR lpszFileName, OLERENDER render, CLIPFORMAT cfFormat,
                                         LPFORMATETC lpFormatEtc) {
-    Release(OLECLOSE_NOSAVE);
-    if (!OpenStorage())
-        return Finish(m_scLast);
-    FORMATETC format{cfFormat, nullptr, DVASPECT_CONTENT, -1, TYMED_NULL};
-    LPFORMATETC wanted = lpFormatEtc ? lpFormatEtc : render == OLERENDER_FORMAT ? &format : nullptr;
-    return Finish(::OleCreateLinkToFile(lpszFileName, IID_IOleObject, render, wanted, nullptr, m_lpStorage,
-                                        reinterpret_cast<void**>(&m_lpObject)));
+    return MakeObject(render, cfFormat, lpFormatEtc, [&](LPFORMATETC wanted, void** object) {
+        return ::OleCreateLinkToFile(lpszFileName, IID_IOleObject, render, wanted, nullptr, m_lpStorage,
+                                     object);
+    });
 }
 
 BOOL COleClientItem::UpdateLink() {
