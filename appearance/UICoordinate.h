@@ -21,9 +21,8 @@ public:
     /// read until then stays.
     virtual void Serialize(CArchive& ar);
 
-    /// The embedded record of that kind, null for a value that is no kind. Valid as long as this object.
+    /// The embedded record of kind `type`, null for a value that is no kind. Valid as long as this object.
     CUIShapeFormat* GetShapeFormat(ShapeFormatType type);
-    /// The same, for reading.
     const CUIShapeFormat* GetShapeFormat(ShapeFormatType type) const;
 
     /// The embedded record of a class without a copy: `Format<CUIShapeFormatFill>()`.
@@ -37,13 +36,13 @@ public:
         return static_cast<Record&>(*GetShapeFormat(Record::Type));
     }
 
-    /// Loads the defaults of the record of that kind; nothing for a value that is no kind.
+    /// Loads the defaults of the record of kind `type`; nothing for a value that is no kind.
     void LoadDefault(ShapeFormatType type);
 
     /// Loads the defaults of all records.
     void LoadDefaultAll();
 
-    /// Kept: does nothing. A record is enabled or disabled by assigning one.
+    /// Kept: does nothing, whatever `type` is. A record is enabled or disabled by assigning one.
     void EnableShapeFormat(ShapeFormatType type, int enabled);
 
     /// A copy of the text record.
@@ -61,15 +60,20 @@ public:
     /// A copy of the shadow record. Kept: the transposed letters belong to the exported name.
     CUIShapeFormatShadow GetShpaeFormatShadow() const { return m_shadow; }
 
-    /// Replaces the text record as a whole, kind, name and enabled flag included. The other setters of this
-    /// name do the same with theirs.
+    /// Replaces the text record as a whole, kind, name and enabled flag included. The setters of the other
+    /// records do the same.
     void SetShapeFormatText(CUIShapeFormatText format) { m_text = format; }
+    /// Replaces the fill record.
     void SetShapeFormatFill(CUIShapeFormatFill format) { m_fill = format; }
+    /// Replaces the line colour record.
     void SetShapeFormatLineColor(CUIShapeFormatLineColor format) { m_lineColor = format; }
+    /// Replaces the line style record.
     void SetShapeFormatLineStyle(CUIShapeFormatLineStyle format) { m_lineStyle = format; }
+    /// Replaces the scale record.
     void SetShapeFormatScale(CUIShapeFormatScale format) { m_scale = format; }
+    /// Replaces the position record.
     void SetShapeFormatPosition(CUIShapeFormatPosition format) { m_position = format; }
-    /// Kept: the transposed letters belong to the exported name.
+    /// Replaces the shadow record. Kept: the transposed letters belong to the exported name.
     void SetShpaeFormatShadow(CUIShapeFormatShadow format) { m_shadow = format; }
 
     /// Caption. An empty argument leaves the old text.
@@ -202,15 +206,15 @@ public:
     int GetLineCapType() const { return m_lineStyle.m_nCapType; }
     void SetLineCapType(int type) { m_lineStyle.m_nCapType = type; }
 
-    /// The four values of a custom dash pattern, in order.
+    /// The four values of a custom dash pattern, in order: `first`, `second`, `third`, `fourth`.
     void GetLineDashValue(float* first, float* second, float* third, float* fourth) const;
     void SetLineDashValue(float first, float second, float third, float fourth);
 
-    /// Start arrow: first size, second size, filled (0 or 1).
+    /// Start arrow, kept for the host: first size `width`, second size `height`, `filled` 0 or 1.
     void GetLineStartArrow(float* width, float* height, int* filled) const;
     void SetLineStartArrow(float width, float height, int filled);
 
-    /// End arrow: first size, second size, filled (0 or 1).
+    /// End arrow, kept for the host: first size `width`, second size `height`, `filled` 0 or 1.
     void GetLineEndArrow(float* width, float* height, int* filled) const;
     void SetLineEndArrow(float width, float height, int filled);
 

@@ -12,6 +12,7 @@ public:
     CUIObjectRectangle();
     /// The given kind at `rect`, named "Rectangle" whatever the kind is.
     CUIObjectRectangle(const Gdiplus::RectF& rect, DrawShape shape);
+    /// Copies every field.
     CUIObjectRectangle(const CUIObjectRectangle&) = default;
     CUIObjectRectangle& operator=(const CUIObjectRectangle&) = default;
 
@@ -41,6 +42,7 @@ public:
     CUIObjectEllipse();
     /// The given kind at `rect`, named "Ellipse" whatever the kind is.
     CUIObjectEllipse(const Gdiplus::RectF& rect, DrawShape shape);
+    /// Copies every field.
     CUIObjectEllipse(const CUIObjectEllipse&) = default;
     CUIObjectEllipse& operator=(const CUIObjectEllipse&) = default;
 
@@ -63,8 +65,9 @@ public:
     virtual void DrawDragImage(Gdiplus::Graphics* graphics, Gdiplus::PointF& point);
 };
 
-/// Replaces the path by a rounded rectangle on whole units; `diameter` is that of its corners, at most the
-/// width and the height. Returns the status of the last GDI+ call.
+/// Replaces `path` by a rounded rectangle on whole units with the corner (`x`, `y`), `width` and `height`;
+/// `diameter` is that of its corners, at most the width and the height. Returns the status of the last GDI+
+/// call.
 AFX_EXT_API Gdiplus::Status GetRoundRectPath(Gdiplus::GraphicsPath* path, float x, float y, float width,
                                              float height, int diameter);
 

@@ -10,24 +10,24 @@ namespace Lumo {
 
 /// Kind of a shape-format record; the values are written to archives. 0 and 6 to 13 are not used.
 enum ShapeFormatType : int {
-    SFT_TEXT = 1,
-    SFT_FILL = 2,
-    SFT_LINECOLOR = 3,
-    SFT_LINESTYLE = 4,
-    SFT_SHADOW = 5,
-    SFT_SCALE = 14,
-    SFT_POSITION = 15,
-    SFT_TEXTBOX = 16,
+    SFT_TEXT = 1,       ///< `CUIShapeFormatText`
+    SFT_FILL = 2,       ///< `CUIShapeFormatFill`
+    SFT_LINECOLOR = 3,  ///< `CUIShapeFormatLineColor`
+    SFT_LINESTYLE = 4,  ///< `CUIShapeFormatLineStyle`
+    SFT_SHADOW = 5,     ///< `CUIShapeFormatShadow`
+    SFT_SCALE = 14,     ///< `CUIShapeFormatScale`
+    SFT_POSITION = 15,  ///< `CUIShapeFormatPosition`
+    SFT_TEXTBOX = 16,   ///< `CUIShapeFormatTextBox`
 };
 
-/// Puts an alpha (0 to 255, truncated) into the top byte of a colour with OR, so that alpha bits which the
+/// Puts `alpha` (0 to 255, truncated) into the top byte of `color` with OR, so that alpha bits which the
 /// colour already has stay set.
 AFX_EXT_API DWORD MergeAlpha(float alpha, DWORD color);
 
 /// Base of the records: kind, name and enabled flag. Virtual members stand in a fixed order.
 class AFX_EXT_CLASS CUIShapeFormat {
 public:
-    /// A record of the given kind and name; `enabled` is 1 or 0.
+    /// A record of the kind `type`, called `name`.
     CUIShapeFormat(ShapeFormatType type, const CString& name, int enabled);
     CUIShapeFormat(const CUIShapeFormat&) = default;
     CUIShapeFormat& operator=(const CUIShapeFormat&) = default;
@@ -62,7 +62,7 @@ public:
 
     /// Kind, name and enabled flag of the class; the other fields are zero until `LoadDefault`.
     CUIShapeFormatText();
-    /// The same with a name and an enabled flag of the caller's.
+    /// The same, called `name`.
     CUIShapeFormatText(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;
@@ -90,7 +90,7 @@ public:
 
     /// Kind, name and enabled flag of the class and shape mode 1; the other fields are zero.
     CUIShapeFormatFill();
-    /// A name and an enabled flag of the caller's; the other fields are zero.
+    /// A record called `name`; the other fields are zero.
     CUIShapeFormatFill(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;
@@ -121,7 +121,7 @@ public:
 
     /// Kind, name and enabled flag of the class and shape mode 1; the other fields are zero.
     CUIShapeFormatLineColor();
-    /// A name and an enabled flag of the caller's; the other fields are zero.
+    /// A record called `name`; the other fields are zero.
     CUIShapeFormatLineColor(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;
@@ -130,7 +130,8 @@ public:
     /// Copies every field.
     virtual void Set(const CUIShapeFormatLineColor& other) { *this = other; }
 
-    /// Colour that the outline is drawn with; false when the record is disabled or its mode draws none.
+    /// Stores in `color` what the outline is drawn with; false when the record is disabled or its mode draws
+    /// none.
     bool GetPenColor(DWORD* color) const;
 
     int m_nShapeMode = 0;             ///< 1 opaque colour, 2 alpha merged in, others no outline
@@ -150,7 +151,7 @@ public:
 
     /// Kind, name and enabled flag of the class; the other fields are zero until `LoadDefault`.
     CUIShapeFormatLineStyle();
-    /// The same with a name and an enabled flag of the caller's.
+    /// The same, called `name`.
     CUIShapeFormatLineStyle(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;
@@ -186,7 +187,7 @@ public:
 
     /// Kind, name and enabled flag of the class; the other fields are zero until `LoadDefault`.
     CUIShapeFormatShadow();
-    /// The same with a name and an enabled flag of the caller's.
+    /// The same, called `name`.
     CUIShapeFormatShadow(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;
@@ -211,7 +212,7 @@ public:
 
     /// Kind, name and enabled flag of the class; the other fields are zero until `LoadDefault`.
     CUIShapeFormatScale();
-    /// The same with a name and an enabled flag of the caller's.
+    /// The same, called `name`.
     CUIShapeFormatScale(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;
@@ -236,7 +237,7 @@ public:
 
     /// Kind, name and enabled flag of the class; the other fields are zero until `LoadDefault`.
     CUIShapeFormatPosition();
-    /// The same with a name and an enabled flag of the caller's.
+    /// The same, called `name`.
     CUIShapeFormatPosition(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;
@@ -259,7 +260,7 @@ public:
 
     /// Kind, name and enabled flag of the class; the other fields are zero until `LoadDefault`.
     CUIShapeFormatTextBox();
-    /// The same with a name and an enabled flag of the caller's.
+    /// The same, called `name`.
     CUIShapeFormatTextBox(const CString& name, int enabled);
 
     using CUIShapeFormat::Set;

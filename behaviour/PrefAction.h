@@ -8,6 +8,7 @@
 class AFX_EXT_CLASS CPrefInput : public CPrefBase {
 public:
     CPrefInput() = default;
+    /// Copies the values, not the name.
     CPrefInput(CPrefInput& source) : CPrefBase() { *this = source; }
     CPrefInput& operator=(const CPrefInput& source);
     ~CPrefInput() override = default;
@@ -21,6 +22,7 @@ public:
 class AFX_EXT_CLASS CPrefButton : public CPrefBase {
 public:
     CPrefButton() = default;
+    /// Copies the values, not the name.
     CPrefButton(CPrefButton& source) : CPrefBase() { *this = source; }
     CPrefButton& operator=(const CPrefButton& source);
     ~CPrefButton() override = default;
@@ -41,6 +43,7 @@ public:
 class AFX_EXT_CLASS CPrefPage : public CPrefBase {
 public:
     CPrefPage() = default;
+    /// Copies the values, not the name.
     CPrefPage(CPrefPage& source) : CPrefBase() { *this = source; }
     CPrefPage& operator=(const CPrefPage& source);
     ~CPrefPage() override = default;
@@ -56,6 +59,7 @@ public:
 class AFX_EXT_CLASS CPrefText : public CPrefBase {
 public:
     CPrefText() = default;
+    /// Copies the values, not the name.
     CPrefText(CPrefText& source) : CPrefBase() { *this = source; }
     CPrefText& operator=(const CPrefText& source);
     ~CPrefText() override = default;
@@ -69,6 +73,7 @@ public:
 class AFX_EXT_CLASS CPrefSlider : public CPrefBase {
 public:
     CPrefSlider() = default;
+    /// Copies the values, not the name.
     CPrefSlider(CPrefSlider& source) : CPrefBase() { *this = source; }
     CPrefSlider& operator=(const CPrefSlider& source);
     ~CPrefSlider() override = default;

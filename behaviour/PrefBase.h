@@ -39,6 +39,7 @@ struct CPrefComparison {
 class AFX_EXT_CLASS CPrefCondition : public CPrefBase {
 public:
     CPrefCondition() = default;
+    /// Copies the values, not the name.
     CPrefCondition(const CPrefCondition& source) : CPrefBase() { *this = source; }
     CPrefCondition& operator=(const CPrefCondition& source);
     ~CPrefCondition() override = default;

@@ -8,6 +8,7 @@
 class AFX_EXT_CLASS CPrefBlink : public CPrefBase {
 public:
     CPrefBlink() = default;
+    /// Copies the values, not the name.
     CPrefBlink(CPrefBlink& source) : CPrefBase() { *this = source; }
     CPrefBlink& operator=(const CPrefBlink& source);
     ~CPrefBlink() override = default;
@@ -26,6 +27,7 @@ public:
 class AFX_EXT_CLASS CPrefColor : public CPrefBase {
 public:
     CPrefColor() = default;
+    /// Copies the values, not the name.
     CPrefColor(CPrefColor& source) : CPrefBase() { *this = source; }
     CPrefColor& operator=(const CPrefColor& source);
     ~CPrefColor() override = default;
@@ -44,6 +46,7 @@ public:
 class AFX_EXT_CLASS CPrefHide : public CPrefBase {
 public:
     CPrefHide() = default;
+    /// Copies the values, not the name.
     CPrefHide(CPrefHide& source) : CPrefBase() { *this = source; }
     CPrefHide& operator=(const CPrefHide& source);
     ~CPrefHide() override = default;
@@ -62,6 +65,7 @@ public:
 class AFX_EXT_CLASS CPrefFill : public CPrefBase {
 public:
     CPrefFill() = default;
+    /// Copies the values, not the name.
     CPrefFill(CPrefFill& source) : CPrefBase() { *this = source; }
     CPrefFill& operator=(const CPrefFill& source);
     ~CPrefFill() override = default;

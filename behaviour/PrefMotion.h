@@ -8,6 +8,7 @@
 class AFX_EXT_CLASS CPrefMove : public CPrefBase {
 public:
     CPrefMove() = default;
+    /// Copies the values, not the name.
     CPrefMove(CPrefMove& source) : CPrefBase() { *this = source; }
     CPrefMove& operator=(const CPrefMove& source);
     ~CPrefMove() override = default;
@@ -24,6 +25,7 @@ public:
 class AFX_EXT_CLASS CPrefSize : public CPrefBase {
 public:
     CPrefSize() = default;
+    /// Copies the values, not the name.
     CPrefSize(CPrefSize& source) : CPrefBase() { *this = source; }
     CPrefSize& operator=(const CPrefSize& source);
     ~CPrefSize() override = default;
@@ -41,6 +43,7 @@ public:
 class AFX_EXT_CLASS CPrefRotate : public CPrefBase {
 public:
     CPrefRotate() = default;
+    /// Copies the values, not the name.
     CPrefRotate(CPrefRotate& source) : CPrefBase() { *this = source; }
     CPrefRotate& operator=(const CPrefRotate& source);
     ~CPrefRotate() override = default;

@@ -9,6 +9,7 @@
 class AFX_EXT_CLASS CPrefTrendLine : public CPrefBase {
 public:
     CPrefTrendLine() = default;
+    /// Copies the values, not the name.
     CPrefTrendLine(CPrefTrendLine& source) : CPrefBase() { *this = source; }
     CPrefTrendLine& operator=(const CPrefTrendLine& source);
     ~CPrefTrendLine() override = default;
@@ -24,6 +25,7 @@ public:
 class AFX_EXT_CLASS CPrefTrend : public CPrefBase {
 public:
     CPrefTrend() = default;
+    /// Copies the values, not the name.
     CPrefTrend(CPrefTrend& source) : CPrefBase() { *this = source; }
     /// Copies the fields and puts a new, nameless line into the list for every line of the source; a null
     /// entry is skipped.

@@ -13,6 +13,7 @@ public:
     CUIObjectButton();
     /// A button on `rect` (page units) of the given kind; the shape name is "Button".
     CUIObjectButton(const Gdiplus::RectF& rect, DrawShape kind);
+    /// Copies every field.
     CUIObjectButton(const CUIObjectButton& source) = default;
     CUIObjectButton& operator=(const CUIObjectButton& source) = default;
 
@@ -78,21 +79,20 @@ public:
     void SetDrawStyle(DWORD style) { m_dwDrawStyle = style; }
 
 protected:
-    DWORD m_dwButtonStyle = 0;
-    DWORD m_dwRadioGroup = 0;
-    DWORD m_dwButtonState = 0;
-    BOOL m_bChecked = FALSE;
-    BOOL m_bTracking = TRUE;
-    CString m_strTooltip;
-    BOOL m_bDrawNormal = TRUE;
-    BOOL m_bDrawDown = FALSE;
-    BOOL m_bDrawFocus = FALSE;
-    /// Archived; no other use.
-    BOOL m_bSpare = TRUE;
-    BOOL m_bOver = FALSE;
-    BOOL m_bDrawDisabled = FALSE;
-    BOOL m_bBorder = FALSE;
-    DWORD m_dwDrawStyle = 0;
+    DWORD m_dwButtonStyle = 0;     ///< see `GetButtonStyle`
+    DWORD m_dwRadioGroup = 0;      ///< see `GetRadioGroup`
+    DWORD m_dwButtonState = 0;     ///< see `GetButtonState`
+    BOOL m_bChecked = FALSE;       ///< draw flag of state 5, see `GetChecked`
+    BOOL m_bTracking = TRUE;       ///< see `GetTracking`
+    CString m_strTooltip;          ///< see `GetTooltip`
+    BOOL m_bDrawNormal = TRUE;     ///< draw flag of state 0
+    BOOL m_bDrawDown = FALSE;      ///< draw flag of state 1
+    BOOL m_bDrawFocus = FALSE;     ///< draw flag of state 2
+    BOOL m_bSpare = TRUE;          ///< archived; no other use
+    BOOL m_bOver = FALSE;          ///< draw flag of state 3, see `GetOver`
+    BOOL m_bDrawDisabled = FALSE;  ///< draw flag of state 4
+    BOOL m_bBorder = FALSE;        ///< see `GetBorder`
+    DWORD m_dwDrawStyle = 0;       ///< see `GetDrawStyle`
 
 private:
     void ApplyButtonState();
@@ -105,6 +105,7 @@ public:
     CUIObjectButtonRect();
     /// A button on `rect` (page units) of the given kind; the shape name is "ButtonRect".
     CUIObjectButtonRect(const Gdiplus::RectF& rect, DrawShape kind);
+    /// Copies every field.
     CUIObjectButtonRect(const CUIObjectButtonRect& source) = default;
     CUIObjectButtonRect& operator=(const CUIObjectButtonRect& source) = default;
 
@@ -123,6 +124,7 @@ public:
     CUIObjectButtonRectRound();
     /// A button on `rect` (page units) of the given kind; the shape name is "ButtonRectRound".
     CUIObjectButtonRectRound(const Gdiplus::RectF& rect, DrawShape kind);
+    /// Copies every field.
     CUIObjectButtonRectRound(const CUIObjectButtonRectRound& source) = default;
     CUIObjectButtonRectRound& operator=(const CUIObjectButtonRectRound& source) = default;
 
@@ -138,6 +140,7 @@ public:
     CUIObjectButtonEllipse();
     /// A button on `rect` (page units) of the given kind; the shape name is "ButtonEllipse".
     CUIObjectButtonEllipse(const Gdiplus::RectF& rect, DrawShape kind);
+    /// Copies every field.
     CUIObjectButtonEllipse(const CUIObjectButtonEllipse& source) = default;
     CUIObjectButtonEllipse& operator=(const CUIObjectButtonEllipse& source) = default;
 

@@ -10,6 +10,7 @@ class AFX_EXT_CLASS CUIObjectChartBase : public CUIObjectSymbol {
 public:
     /// A chart on `rect` (page units) of the given kind; the shape name is "ChartBase".
     CUIObjectChartBase(const Gdiplus::RectF& rect, DrawShape kind);
+    /// Copies every field.
     CUIObjectChartBase(const CUIObjectChartBase& source) = default;
     CUIObjectChartBase& operator=(const CUIObjectChartBase& source) = default;
 

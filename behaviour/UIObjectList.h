@@ -96,9 +96,9 @@ private:
     std::deque<CUIObject*> m_children;
 
 protected:
-    int m_nInitialWidth = 0;
-    int m_nInitialHeight = 0;
-    BOOL m_bGrouped = FALSE;
+    int m_nInitialWidth = 0;   ///< see `GetInitialWidth`
+    int m_nInitialHeight = 0;  ///< see `GetInitialHeight`
+    BOOL m_bGrouped = FALSE;   ///< see `GetGrouped`
 };
 
 /// A group that was inserted from a symbol file. It differs from a group in its name and default kind only.
@@ -106,6 +106,7 @@ class AFX_EXT_CLASS CUIObjectSymbol : public CUIObjectList {
 public:
     /// A symbol on `bounds` (page units) of the given kind; the shape name is "Symbol".
     CUIObjectSymbol(const Gdiplus::RectF& bounds, DrawShape kind);
+    /// Copies every field.
     CUIObjectSymbol(const CUIObjectSymbol& source) = default;
     CUIObjectSymbol& operator=(const CUIObjectSymbol& source) = default;
 

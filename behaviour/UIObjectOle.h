@@ -45,9 +45,9 @@ public:
     static BOOL c_bShowItems;
 
 protected:
-    float m_fFirstValue = 0.0f;
-    float m_fSecondValue = 0.0f;
-    COleClientItem* m_pClientItem = nullptr;
+    float m_fFirstValue = 0.0f;               ///< see `GetFirstValue`
+    float m_fSecondValue = 0.0f;              ///< see `GetSecondValue`
+    COleClientItem* m_pClientItem = nullptr;  ///< see `GetClientItem`
 };
 
 }  // namespace Lumo

@@ -13,6 +13,7 @@ public:
     CUIObjectTextEdit();
     /// A text box on `rect` (page units) of the given kind; the shape name is "TextEdit".
     CUIObjectTextEdit(const Gdiplus::RectF& rect, DrawShape kind);
+    /// Copies every field.
     CUIObjectTextEdit(const CUIObjectTextEdit& source) = default;
     CUIObjectTextEdit& operator=(const CUIObjectTextEdit& source) = default;
 

@@ -41,7 +41,8 @@ public:
     CUICanvas(const CUICanvas&) = delete;
     CUICanvas& operator=(const CUICanvas&) = delete;
 
-    /// Sets the page size in pixels (0: the screen's) and switches interaction off. Always 1.
+    /// Sets the page size in pixels to `size` (0: the screen's) and switches interaction off. Kept:
+    /// `bSkipDisplayQuery` makes no difference. Always 1.
     int Init(int bSkipDisplayQuery, CSize& size);
     /// Switches interaction off and empties the selection without repainting.
     void Clear();
@@ -81,8 +82,9 @@ public:
     /// A diagnostic picture of curves and an icon on `hdc`; reached by no message.
     void OnPaintTest(HDC hdc);
 
-    /// The document's update call; `hint` 0 whole window, 1 the object `data`, 2 the selection, 3 the objects
-    /// of the list `data`, 4 those of them that are embedded objects, 5 whole window and empty selection.
+    /// The document's update call; `sender` is not used; `hint` 0 whole window, 1 the object `data`, 2 the
+    /// selection, 3 the objects of the list `data`, 4 those of them that are embedded objects, 5 whole window
+    /// and empty selection.
     void UpdateCanvas(CWnd* sender, long hint, void* data);
 
     /// Union of the selected objects' rectangles and the origin; all zero when nothing is selected.
@@ -99,7 +101,7 @@ public:
     void Deselect(CUIObject* obj);
     /// Whether `obj` is selected.
     BOOL IsSelected(const CUIObject* obj);
-    /// Empties the selection unless `add` is set; selects nothing.
+    /// Empties the selection unless `add` is set; selects nothing, whatever `rect` and `whole` are.
     void SelectWithinRect(CRect rect, int add, int whole);
 
     /// Opens the in-place editor over `obj`, closing one that is open; null closes it without saving.
@@ -169,7 +171,7 @@ public:
     /// Asks for an embedded object and puts it on the page.
     void OnInsertOleObject();
 
-    /// Window procedure of the class "Tessel Canvas".
+    /// Window procedure of the class "Tessel Canvas" for the window `hwnd`.
     static LRESULT CALLBACK WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     /// The private clipboard format "Tessel GUI Object ".
@@ -182,7 +184,8 @@ public:
     BOOL PreTranslateMessage(MSG* msg) override;
     /// Repaints the rectangle of `obj` with its outline and, when it is selected, its handles.
     virtual void InvalidateObject(CUIObject* obj);
-    /// Moves handle `how` (8: the whole object) of every selected object by `to` - `from` (page units).
+    /// Moves handle `how` (8: the whole object) of every selected object by `to` - `from` (page units). The
+    /// last argument is not used.
     virtual void MoveTo(const int& how, CPoint& from, CPoint& to, int);
     /// Prepares `dc` so that logical units are page units; `info` is null on the screen.
     virtual void OnPrepareDC(CDC* dc, CPrintInfo* info);
@@ -201,10 +204,10 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnNcDestroy();
 
-    int m_nReserved1[2] = {};
-    int m_nWidth;  // kept: the page size in pixels is not set before Init
-    int m_nHeight;
-    int m_nReserved2[6] = {};
+    int m_nReserved1[2] = {};  ///< for hosts compiled against the layout
+    int m_nWidth;              ///< width of the page in pixels. Kept: not set before `Init`
+    int m_nHeight;             ///< height of the page, the same
+    int m_nReserved2[6] = {};  ///< for hosts compiled against the layout
 
 public:
     /// The selected objects, the one selected last in front; not owned, each at most once.
@@ -219,10 +222,10 @@ public:
     CUIEdit* m_pEdit = nullptr;
 
 protected:
-    CUIDocument* m_pDocument = nullptr;
-    float m_fScaleX = 0.0f;
-    float m_fScaleY = 0.0f;
-    std::map<int, void*> m_map;  // unused, for hosts compiled against the layout
+    CUIDocument* m_pDocument = nullptr;  ///< see `GetDocument`
+    float m_fScaleX = 0.0f;              ///< factor of `OnCanvasScale`, 0 until it is called; not used
+    float m_fScaleY = 0.0f;              ///< the same, vertically
+    std::map<int, void*> m_map;          ///< empty; for hosts compiled against the layout
 
 private:
     friend class CUIDocument;

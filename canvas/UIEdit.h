@@ -56,12 +56,12 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnChar(UINT ch, UINT repeat, UINT flags);
 
-    CRect m_rect;  // the object's rectangle in client coordinates of the parent
-    CUIObjectTextEdit* m_pObject = nullptr;
-    CUIEdit** m_ppOwner = nullptr;
-    CFont m_font;
-    int m_nCharWidth = 0;
-    int m_nLineHeight = 0;
+    CRect m_rect;                            ///< the object's rectangle in client coordinates of the parent
+    CUIObjectTextEdit* m_pObject = nullptr;  ///< see `GetEditedObject`
+    CUIEdit** m_ppOwner = nullptr;           ///< the owner's pointer to the editor, may be null
+    CFont m_font;                            ///< the font in use
+    int m_nCharWidth = 0;                    ///< see `GetCharWidth`
+    int m_nLineHeight = 0;                   ///< see `GetLineHeight`
 
 private:
     void calcTextMetrics();

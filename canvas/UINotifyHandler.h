@@ -73,11 +73,11 @@ public:
     void OnMouseMove(CWnd* wnd, UINT message, UINT flags, LPARAM packed) override;
 
 protected:
-    CPoint m_ptPress;   // client point of the last press
-    CPoint m_ptLast;    // client point of the last event
-    CPoint m_ptCursor;  // screen point of the last press or move
-    int m_nReserved[2];
-    int m_nDragState;  // a `DragState`
+    CPoint m_ptPress;    ///< client point of the last press
+    CPoint m_ptLast;     ///< client point of the last event
+    CPoint m_ptCursor;   ///< screen point of the last press or move
+    int m_nReserved[2];  ///< not set; for hosts compiled against the layout
+    int m_nDragState;    ///< a `DragState`; not set before the first press
 };
 
 /// The same notifications, told by the cursor on the screen and the physical button, whatever the messages
@@ -101,11 +101,11 @@ public:
     void OnMouseMove(CWnd* wnd, UINT message, UINT flags, LPARAM packed) override;
 
 protected:
-    CPoint m_ptCurrent;   // screen position read at the last release
-    CPoint m_ptPrevious;  // screen position read at the last move or release
-    int m_nMarker;        // -1 after every press and release
-    int m_nReserved;
-    int m_nDragState;  // a `DragState`
+    CPoint m_ptCurrent;   ///< screen position read at the last release
+    CPoint m_ptPrevious;  ///< screen position read at the last move or release
+    int m_nMarker;        ///< -1 after every press and release; not set before
+    int m_nReserved;      ///< not set; for hosts compiled against the layout
+    int m_nDragState;     ///< a `DragState`; not set before the first press
 };
 
 }  // namespace Lumo

@@ -71,14 +71,19 @@ protected:
     /// True when `canvas` is the current page of its document: the only page that may be edited.
     static bool IsCurrent(CUICanvas* canvas);
 
-    DrawShape m_nDrawShape;
+    DrawShape m_nDrawShape;  ///< see `GetKind`
 };
 
 /// Selects, moves and reshapes objects. The other tools hand it the drag of what they created.
 class AFX_EXT_CLASS CUISelectTool : public CUIToolBase {
 public:
     /// What a drag does.
-    enum DragMode { kNone = 0, kMove = 1, kHandle = 2, kRubberBand = 3 };
+    enum DragMode {
+        kNone = 0,        ///< nothing
+        kMove = 1,        ///< moves the selected objects
+        kHandle = 2,      ///< moves one handle of the selected object
+        kRubberBand = 3,  ///< pulls a rectangle
+    };
 
     /// A tool for kind 16, idle.
     CUISelectTool();

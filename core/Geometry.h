@@ -6,16 +6,16 @@
 
 namespace Lumo {
 
-/// Rounds half away from zero. A value beyond the 32-bit range gives the nearest end of it, NaN gives 0.
+/// Rounds half away from zero. A `value` beyond the 32-bit range gives the nearest end of it, NaN gives 0.
 AFX_EXT_API int RoundToInt(float value);
 
-/// Truncates towards zero. A value beyond the 32-bit range gives the nearest end of it, NaN gives 0.
+/// Truncates towards zero. A `value` beyond the 32-bit range gives the nearest end of it, NaN gives 0.
 AFX_EXT_API int TruncToInt(float value);
 
-/// Both coordinates rounded half away from zero.
+/// Both coordinates of `point` rounded half away from zero.
 AFX_EXT_API CPoint PointAtlFromGdi(const Gdiplus::PointF& point);
 
-/// The same point in floats.
+/// The same `point` in floats.
 AFX_EXT_API Gdiplus::PointF PointGdiFromAtl(const CPoint& point);
 
 /// The four edges rounded half away from zero; right and bottom are summed in floats first.

@@ -105,19 +105,19 @@ public:
     /// Destroys exactly this object, a group with its children, and takes it out of every page and selection
     /// first. Null does nothing.
     static void DestroyObject(CUIObject* object);
-    /// Destroys the objects of a list and empties it.
+    /// Destroys the objects of the list `objects` and empties it. Null does nothing.
     void ClearObject(CUIObjectDeque* objects);
 
-    /// The first object of the page of `canvas` (null: the current page) with that name, ignoring case; or
-    /// null.
+    /// The first object of the page of `canvas` (null: the current page) that is called `name`, ignoring
+    /// case; or null.
     CUIObject* FindObject(CString& name, CUICanvas* canvas);
     /// The topmost visible object of the current page whose body contains `pt` (page units), or null.
     CUIObject* ObjectAt(Gdiplus::PointF& pt);
-    /// The same for an integer point.
+    /// The same for an integer point `pt`.
     CUIObject* ObjectAt(CPoint& pt);
     /// Number of objects of that kind on the current page.
     int GetShapeCount(DrawShape kind);
-    /// 1 when an object of the current page has that name, ignoring case; else 0.
+    /// 1 when an object of the current page is called `name`, ignoring case; else 0.
     int CheckShapeName(CString& name);
     /// Gives `object` a name that no other object of the current page has: its kind's name and a number.
     void SetShapeName(CUIObject* object);
@@ -128,8 +128,8 @@ public:
     void DrawCanvas(Gdiplus::Graphics* g);
     /// Draws the current page, with `focus` even when it is marked removed; a null `focus` draws nothing.
     void DrawObject(Gdiplus::Graphics* g, CUIObject* focus);
-    /// Repaints `canvas` (null: nothing): hint 0 the whole window; hint 1 by its `UpdateCanvas`; hint 2 by
-    /// the `UpdateCanvas` of every canvas of the auxiliary list.
+    /// Repaints `canvas` (null: nothing): `hint` 0 the whole window; 1 the object `data`; 2 the selection of
+    /// every canvas of the auxiliary list. Other hints do nothing.
     void UpdateAllCanvas(CUICanvas* canvas, long hint, void* data);
 
     /// 1 when the document was changed since it was saved, loaded or cleared.
@@ -140,10 +140,10 @@ public:
 protected:
     /// Walked by `UpdateAllCanvas` with hint 2; nothing in the library fills it.
     std::deque<CUICanvas*> m_auxiliary;
-    CUIPageMap m_pages;
-    ATOM m_atomCanvas = 0;
-    int m_bModified = 0;
-    CUICanvas* m_pCurrent = nullptr;
+    CUIPageMap m_pages;               ///< the pages; the lists and their objects are owned
+    ATOM m_atomCanvas = 0;            ///< the canvases' window class, 0 until the first is created
+    int m_bModified = 0;              ///< 1 when changed since saved, loaded or cleared
+    CUICanvas* m_pCurrent = nullptr;  ///< the current page's canvas, or null
 
 private:
     friend class CUICanvas;

@@ -30,7 +30,7 @@ public:
     /// Sets kind, name (the kind's display name), position and rectangle mode 1.
     virtual void Init(DrawShape shape, Gdiplus::RectF& rect);
 
-    /// Replaces the path by the outline of a rounded rectangle; `radius` is the diameter of its corners.
+    /// Replaces `path` by the outline of a rounded rectangle; `radius` is the diameter of its corners.
     virtual void GetRoundRectPath(Gdiplus::GraphicsPath* path, Gdiplus::RectF rect, int radius);
 
     /// For derived classes: shows a dialog for geometry and style. Does nothing here.
@@ -107,7 +107,8 @@ public:
     /// Moves a handle, or the whole object with handle 8, by `delta`.
     virtual void MoveTo(const int& handle, const Gdiplus::PointF& delta);
 
-    /// For derived classes. Does nothing here.
+    /// For derived classes: a move by `delta` (page units) of an object that has the focus. Does nothing
+    /// here.
     virtual void FocusMoveTo(const int& handle, const Gdiplus::PointF& delta);
 
     /// Moves the edges that belong to a handle by `delta` truncated to integers; the position is rounded to
@@ -171,8 +172,9 @@ public:
     /// 1 when width or height of the position is 0, next to 0 or negative; else 0.
     int IsEmptyArea() const;
 
-    /// Loads the defaults of one record, or of all.
+    /// Loads the defaults of the record of kind `type`.
     void LoadDefault(ShapeFormatType type) { m_coordinate.LoadDefault(type); }
+    /// Loads the defaults of all records.
     void LoadDefaultAll() { m_coordinate.LoadDefaultAll(); }
 
     /// Caption. An empty argument leaves the old text.
@@ -305,7 +307,7 @@ public:
     int GetLineCapType() const { return m_coordinate.GetLineCapType(); }
     void SetLineCapType(int type) { m_coordinate.SetLineCapType(type); }
 
-    /// The four values of a custom dash pattern, in order.
+    /// The four values of a custom dash pattern, in order: `first`, `second`, `third`, `fourth`.
     void GetLineDashValue(float* first, float* second, float* third, float* fourth) const {
         m_coordinate.GetLineDashValue(first, second, third, fourth);
     }
@@ -313,7 +315,7 @@ public:
         m_coordinate.SetLineDashValue(first, second, third, fourth);
     }
 
-    /// Start arrow: first size, second size, filled (0 or 1).
+    /// Start arrow, kept for the host: first size `width`, second size `height`, `filled` 0 or 1.
     void GetLineStartArrow(float* width, float* height, int* filled) const {
         m_coordinate.GetLineStartArrow(width, height, filled);
     }
@@ -321,7 +323,7 @@ public:
         m_coordinate.SetLineStartArrow(width, height, filled);
     }
 
-    /// End arrow: first size, second size, filled (0 or 1).
+    /// End arrow, kept for the host: first size `width`, second size `height`, `filled` 0 or 1.
     void GetLineEndArrow(float* width, float* height, int* filled) const {
         m_coordinate.GetLineEndArrow(width, height, filled);
     }
@@ -359,16 +361,16 @@ public:
     void SetPosition(const Gdiplus::RectF& rect) { m_coordinate.SetPosition(rect); }
 
 protected:
-    CUIDocument* m_pDocument = nullptr;
-    CUICanvas* m_pCanvas = nullptr;
-    CString m_strShapeName;
-    DrawShape m_nDrawShape = DS_UNKNOWN;
-    int m_bRectMode = 1;
-    int m_bEditing = 0;
-    int m_bArchived = 1;
-    int m_bRemoved = 0;
-    int m_nStateC = 0;
-    CUICoordinate m_coordinate;
+    CUIDocument* m_pDocument = nullptr;   ///< see `GetDocument`
+    CUICanvas* m_pCanvas = nullptr;       ///< see `GetCanvas`
+    CString m_strShapeName;               ///< see `GetShapeName`
+    DrawShape m_nDrawShape = DS_UNKNOWN;  ///< shape kind
+    int m_bRectMode = 1;                  ///< see `GetRectMode`
+    int m_bEditing = 0;                   ///< see `GetEditing`
+    int m_bArchived = 1;                  ///< see `GetArchived`
+    int m_bRemoved = 0;                   ///< see `GetRemoved`
+    int m_nStateC = 0;                    ///< see `GetStateC`
+    CUICoordinate m_coordinate;           ///< geometry and style
 };
 
 }  // namespace Lumo

@@ -84,11 +84,11 @@ public:
     /// Toggles the rectangle mode.
     virtual void RectMode();
 
-    /// Remembers the size of `box`. Kept: no point turns.
+    /// Remembers the size of `box`. Kept: no point turns about `centre`.
     virtual void RotatePoints(float angle, const Gdiplus::PointF& centre, const Gdiplus::RectF& box);
 
-    /// Resizes the points (new ones are (0, 0), a negative count acts as 0) and returns them; the bounds are
-    /// not recalculated.
+    /// Makes the points `count` (new ones are (0, 0), a negative number acts as 0) and returns them; the
+    /// bounds are not recalculated.
     std::deque<Gdiplus::PointF>* NewPoints(int count);
 
     /// The live points. Kept: not the normalised ones.
@@ -106,16 +106,16 @@ public:
     }
 
 protected:
-    int m_nMaxPoints = 0;
-    float m_fPendingX = 0.0f;
-    float m_fPendingY = 0.0f;
-    int m_nInitialWidth = 0;
-    int m_nInitialHeight = 0;
-    int m_nFourth = 0;
-    int m_nBoxWidth = 0;
-    int m_nBoxHeight = 0;
-    std::deque<Gdiplus::PointF> m_points;
-    std::deque<Gdiplus::PointF> m_normalised;
+    int m_nMaxPoints = 0;                      ///< number of points at which the figure is complete
+    float m_fPendingX = 0.0f;                  ///< see `GetPendingOffset`
+    float m_fPendingY = 0.0f;                  ///< the same, vertically
+    int m_nInitialWidth = 0;                   ///< width at construction, truncated; archived in 16 bits
+    int m_nInitialHeight = 0;                  ///< height at construction, the same
+    int m_nFourth = 0;                         ///< archived in 16 bits; no other use
+    int m_nBoxWidth = 0;                       ///< bits of the float width that `RotatePoints` got last
+    int m_nBoxHeight = 0;                      ///< bits of the height, the same
+    std::deque<Gdiplus::PointF> m_points;      ///< the points, page units
+    std::deque<Gdiplus::PointF> m_normalised;  ///< emptied by `Init`; no other use
 
 private:
     int HandleAt(const Gdiplus::PointF& point, int body);

@@ -20,7 +20,7 @@ public:
     CUndoStack(const CUndoStack&) = delete;
     CUndoStack& operator=(const CUndoStack&) = delete;
 
-    /// Does nothing.
+    /// Does nothing; `task` is the name that the menu would show.
     void Push(const char* task);
 
     /// Does nothing.

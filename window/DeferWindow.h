@@ -20,9 +20,9 @@ public:
     /// Puts `window` at `rect` (client coordinates of its parent; an empty one makes it empty). A window
     /// that does not exist is left out.
     void Move(CWnd& window, const CRect& rect);
-    /// As `Move`, and shows the window.
+    /// As `Move`, and shows `window`.
     void Show(CWnd& window, const CRect& rect);
-    /// Hides a window where it is.
+    /// Hides `window` where it is.
     void Hide(CWnd& window);
 
 private:

@@ -12,7 +12,7 @@ namespace Lumo {
 /// Codes of the notifications (`WM_NOTIFY` with a `TabNotify`) a tab control sends to its parent. They are
 /// sent for what the user does, never for calls of the host.
 enum TabNotifyCode : UINT {
-    TABN_FIRST = 0x5400,
+    TABN_FIRST = 0x5400,         ///< the lowest code
     TABN_CHANGING = TABN_FIRST,  ///< `tab` is about to become current; a result that is not 0 refuses
     TABN_CHANGED,                ///< `tab` has become current
     TABN_MOVE,                   ///< `tab` is about to move to `target`; a result that is not 0 refuses
@@ -24,12 +24,12 @@ enum TabNotifyCode : UINT {
     TABN_ADD,                    ///< the user wants another tab
     TABN_MENU,                   ///< the right button asks for a menu at `point`; `tab` is -1 beside the tabs
     TABN_DRAGEND,                ///< a drag is over, whether or not the tab moved
-    TABN_LAST = TABN_DRAGEND,
+    TABN_LAST = TABN_DRAGEND,    ///< the highest code
 };
 
 /// What a notification is about.
 struct TabNotify {
-    NMHDR hdr;
+    NMHDR hdr;     ///< the control and the code, a `TabNotifyCode`
     int tab;       ///< index of the tab, -1 for none
     int target;    ///< the place it moves to, else -1
     LPCWSTR text;  ///< the new text, else null
@@ -37,7 +37,14 @@ struct TabNotify {
 };
 
 /// Parts of the control under a point.
-enum class TabPart { kNothing, kTab, kClose, kAdd, kScrollLeft, kScrollRight };
+enum class TabPart {
+    kNothing,      ///< the strip, or outside the control
+    kTab,          ///< a tab beside its close button
+    kClose,        ///< a tab's close button
+    kAdd,          ///< the add button
+    kScrollLeft,   ///< the button that scrolls towards the first tab
+    kScrollRight,  ///< the button that scrolls towards the last tab
+};
 
 /// A strip of tabs above or below the pages that its host shows. Tabs can be chosen with the mouse, the
 /// arrows, Home and End; dragged to another place (Escape ends the drag); renamed by a double click or F2;
@@ -53,11 +60,12 @@ public:
     TabCtrl& operator=(const TabCtrl&) = delete;
 
     /// Makes the window as a child of `parent`; `rect` is in its client coordinates. With `WS_TABSTOP` in
-    /// `style` a click gives the control the keyboard.
+    /// `style` a click gives the control the keyboard. `id` is the control's number in its notifications.
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
     /// Changes the look; null gives the flat style in light colours. The control owns the style.
     void SetStyle(std::unique_ptr<TabStyle> style);
+    /// The style in use; valid until the next `SetStyle`.
     const TabStyle& Style() const { return *m_style; }
     /// The height the style wants.
     int GetHeight() const { return m_style->Height(); }
@@ -72,23 +80,28 @@ public:
     /// Lets the user rename tabs; not at the start.
     void SetRename(bool allowed) { m_rename = allowed; }
 
-    /// Puts a tab behind the last one. Its index; the first tab becomes current.
+    /// Puts a tab behind the last one; `data` is the host's. Its index; the first tab becomes current. `text`
+    /// may be null.
     int AddTab(LPCWSTR text, DWORD_PTR data = 0);
-    /// Puts a tab in front of the one at `index` (clamped to the ends). Its index.
+    /// Puts a tab with `text` and `data` in front of the one at `index` (clamped to the ends). Its index.
     int InsertTab(int index, LPCWSTR text, DWORD_PTR data = 0);
     /// Removes a tab; when it was current its right neighbour becomes so, or else the left one. False for an
     /// index that is none.
     bool RemoveTab(int index);
+    /// Removes all tabs; none is current then.
     void RemoveAllTabs();
-    /// Moves a tab so that it has the index `to` afterwards. False for indices that are none.
+    /// Moves the tab at `from` so that it has the index `to` afterwards. False for indices that are none.
     bool MoveTab(int from, int to);
 
+    /// Number of tabs.
     int GetTabCount() const { return static_cast<int>(m_tabs.size()); }
     /// The text of a tab, empty for an index that is none.
     CString GetTabText(int index) const;
+    /// Changes the text of a tab to `text`; null empties it. False for an index that is none.
     bool SetTabText(int index, LPCWSTR text);
     /// The host's value of a tab, 0 for an index that is none.
     DWORD_PTR GetTabData(int index) const;
+    /// Changes the host's value of a tab to `data`. False for an index that is none.
     bool SetTabData(int index, DWORD_PTR data);
 
     /// The current tab, -1 when there are none.
@@ -104,9 +117,10 @@ public:
     /// Where a tab is shown, in client coordinates; may lie outside the visible strip. Empty for an index
     /// that is none.
     CRect GetTabRect(int index) const;
-    /// Where a tab, its close button, or the add and scroll buttons are; empty when they are not shown.
+    /// Where `part` is: the tab at `index`, its close button, the add button or a scroll button; empty when
+    /// it is not shown.
     CRect GetPartRect(TabPart part, int index = -1) const;
-    /// What is under a point (client coordinates), and the tab there or -1.
+    /// What is under a point (client coordinates); `tab` (may be null) gets the tab there, or -1.
     TabPart HitTest(CPoint point, int* tab = nullptr) const;
     /// Whether there are more tabs than fit.
     bool IsScrolling() const { return m_scrolling; }
@@ -115,10 +129,12 @@ public:
     bool BeginRename(int index);
     /// Closes an open editor, and renames when `accept`.
     void EndRename(bool accept);
+    /// Whether the editor is open.
     bool IsRenaming() const { return m_edit != nullptr; }
     /// Whether the user is dragging a tab.
     bool IsDragging() const { return m_dragging; }
 
+    /// Gives an open editor its keys before the host's accelerators get them.
     BOOL PreTranslateMessage(MSG* msg) override;
 
 protected:

@@ -6,7 +6,11 @@
 namespace Lumo {
 
 /// Ready-made colours of tab controls.
-enum class TabTheme { kLight, kDark, kBlue };
+enum class TabTheme {
+    kLight,  ///< greys on white with a blue accent
+    kDark,   ///< light texts on near black
+    kBlue,   ///< blues on white
+};
 
 /// The colours a style paints with.
 struct TabColors {
@@ -20,14 +24,22 @@ struct TabColors {
     COLORREF accent;       ///< the mark of the current tab, and of the place where a dragged tab would go
 };
 
-/// The colours of a theme.
+/// The colours of `theme`.
 AFX_EXT_CLASS TabColors TabColorsOf(TabTheme theme);
 
 /// The side of the pages on which the tabs are.
-enum class TabSide { kAbove, kBelow };
+enum class TabSide {
+    kAbove,  ///< above the pages
+    kBelow,  ///< below the pages
+};
 
 /// What is painted besides the tabs.
-enum class TabSign { kClose, kAdd, kScrollLeft, kScrollRight };
+enum class TabSign {
+    kClose,        ///< a cross
+    kAdd,          ///< a plus
+    kScrollLeft,   ///< an arrow to the left
+    kScrollRight,  ///< an arrow to the right
+};
 
 /// How a tab or a sign is shown now.
 struct TabState {
@@ -42,11 +54,13 @@ struct TabState {
 /// looks different. Sizes are in pixels.
 class AFX_EXT_CLASS TabStyle {
 public:
+    /// A style in `colors`.
     explicit TabStyle(const TabColors& colors);
     virtual ~TabStyle() = default;
     TabStyle(const TabStyle&) = delete;
     TabStyle& operator=(const TabStyle&) = delete;
 
+    /// The colours it paints with.
     const TabColors& Colors() const { return m_colors; }
     /// The font of the texts; the system's for menus and small captions. Owned by the style.
     HFONT Font() const { return m_font; }
@@ -59,22 +73,22 @@ public:
     virtual int Indent() const { return 6; }
     /// Space between a tab's edge and its text.
     virtual int Padding() const { return 14; }
-    /// Width of a tab for a text of that width, without a close button.
+    /// Width of a tab for a text that is `textWidth` wide, without a close button.
     virtual int TabWidth(int textWidth) const;
-    /// The rectangle that a tab paints in, of the part of the strip that belongs to it.
+    /// The rectangle that a tab paints in; `cell` is the part of the strip that belongs to it.
     virtual CRect TabBounds(const CRect& cell, TabSide side) const;
 
-    /// Paints the strip before the tabs.
+    /// Paints the whole `strip` before the tabs.
     virtual void DrawGround(CDC& dc, const CRect& strip, TabSide side) const;
-    /// Paints one tab without its text. The current one is painted last.
+    /// Paints one tab, whose rectangle is `bounds`, without its text. The current one is painted last.
     virtual void DrawTab(CDC& dc, const CRect& bounds, TabSide side, const TabState& state) const;
     /// The colour of a tab's text.
     virtual COLORREF TextColorOf(const TabState& state) const;
-    /// Paints a text into what the tab leaves for it.
+    /// Paints `text` into `bounds`, which is what the tab leaves for it.
     virtual void DrawText(CDC& dc, const CString& text, const CRect& bounds, const TabState& state) const;
-    /// Paints a close, add or scroll sign in the middle of `bounds`.
+    /// Paints `sign` in the middle of `bounds`.
     virtual void DrawSign(CDC& dc, TabSign sign, const CRect& bounds, const TabState& state) const;
-    /// Paints the mark between two tabs at which a dragged one would go; `x` is between them.
+    /// Paints the mark on `strip` between two tabs at which a dragged one would go; `x` is between them.
     virtual void DrawDropMark(CDC& dc, int x, const CRect& strip) const;
 
 protected:
@@ -89,7 +103,9 @@ private:
 /// No faces: texts on the strip, the current one in the accent colour with a bar at the page's side.
 class AFX_EXT_CLASS FlatTabStyle : public TabStyle {
 public:
+    /// The style in the colours of `theme`.
     explicit FlatTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
+    /// The style in `colors`.
     explicit FlatTabStyle(const TabColors& colors) : TabStyle(colors) {}
 
     void DrawGround(CDC& dc, const CRect& strip, TabSide side) const override;
@@ -100,7 +116,9 @@ public:
 /// Buttons on a bar: separate faces with round corners, the current one filled with the accent colour.
 class AFX_EXT_CLASS BarTabStyle : public TabStyle {
 public:
+    /// The style in the colours of `theme`.
     explicit BarTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
+    /// The style in `colors`.
     explicit BarTabStyle(const TabColors& colors) : TabStyle(colors) {}
 
     int Gap() const override { return 4; }
@@ -112,7 +130,9 @@ public:
 /// Index cards: the current tab is one piece with the page beside the strip.
 class AFX_EXT_CLASS ClientAreaTabStyle : public TabStyle {
 public:
+    /// The style in the colours of `theme`.
     explicit ClientAreaTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
+    /// The style in `colors`.
     explicit ClientAreaTabStyle(const TabColors& colors) : TabStyle(colors) {}
 
     int Gap() const override { return -1; }

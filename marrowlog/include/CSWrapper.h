@@ -10,6 +10,7 @@
 class MARROWLOG_CLASS CCSWrapper {
 public:
     CCSWrapper();
+    /// A section of its own that nobody is in; the assignment changes nothing.
     CCSWrapper(const CCSWrapper&);
     CCSWrapper& operator=(const CCSWrapper&);
     ~CCSWrapper();
@@ -18,6 +19,7 @@ public:
     void Lock();
     /// Enters the section if it is free; FALSE when it is not.
     BOOL TryLock();
+    /// Leaves the section once; only for the thread that is in it.
     void Unlock();
 
 private:
@@ -27,6 +29,7 @@ private:
 /// Keeps a section entered for the length of a scope.
 class CCSLock {
 public:
+    /// Enters `section`, which must outlive this object.
     explicit CCSLock(CCSWrapper& section) : m_section(section) { m_section.Lock(); }
     ~CCSLock() { m_section.Unlock(); }
 

@@ -13,14 +13,15 @@
 /// called from any thread; never fails: what cannot be written is left out.
 class MARROWLOG_CLASS CLoggable {
 public:
-    /// Adds a line. `level` is written as it is; `reserved` is 0; `format` is printf's with wide text for
-    /// `%s`, for which a CString may be given as well.
+    /// Adds a line. `level` is written as it is; `reserved` is 0; `format` is printf's for `args`, with wide
+    /// text for `%s`, for which a CString may be given as well.
     template <class... Args>
     static void AddLogLine(int level, int reserved, LPCWSTR format, Args... args) {
         AddArguments(level, reserved, format, Argument(args)...);
     }
 
-    /// The same with the arguments of a caller that is itself variadic.
+    /// The same, `level`, `reserved` and `format`, with the arguments `args` of a caller that is itself
+    /// variadic.
     static void AddLogLineV(int level, int reserved, LPCWSTR format, va_list args) noexcept;
 
 private:
