@@ -43,11 +43,19 @@ void MainFrame::OnPropertyRefused(const CString& reason) {
 
 // The wheel turns what the pointer is over, wherever the focus is.
 BOOL MainFrame::OnMouseWheel(UINT flags, short turn, CPoint screen) {
-    CRect panel;
-    m_properties.GetWindowRect(panel);
-    if (!m_showProperties || !panel.PtInRect(screen))
+    const auto isOver = [screen](CWnd& window) {
+        CRect rect;
+        window.GetWindowRect(rect);
+        return window.IsWindowVisible() && rect.PtInRect(screen);
+    };
+    if (isOver(m_properties))
+        m_properties.ScrollByWheel(turn);
+    else if (isOver(m_symbols))
+        m_symbols.ScrollByWheel(turn);
+    else if (StudioCanvas* page = Page(); page && isOver(*page) && !IsRunning())
+        page->ScrollByWheel(flags, turn);
+    else
         return CFrameWnd::OnMouseWheel(flags, turn, screen);
-    m_properties.ScrollByWheel(turn);
     return TRUE;
 }
 

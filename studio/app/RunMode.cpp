@@ -80,11 +80,13 @@ bool RunMode::Confirm(const CString& question) {
 }
 
 void RunMode::EnterNumber(int value, const Gdiplus::RectF& over) {
-    m_entry.Open(*m_document->CurrentPage(), Lumo::RectAtlFromGdi(over), m_device.Get(value),
-                 [this, value](double number) {
-                     m_device.Set(value, number);
-                     m_session->Update();
-                 });
+    StudioCanvas& page = *m_document->CurrentPage();
+    CRect area = Lumo::RectAtlFromGdi(over);
+    page.DocToClient(area);
+    m_entry.Open(page, area, m_device.Get(value), [this, value](double number) {
+        m_device.Set(value, number);
+        m_session->Update();
+    });
 }
 
 }  // namespace Studio

@@ -44,7 +44,6 @@ BEGIN_MESSAGE_MAP(SymbolPanel, CWnd)
     ON_WM_MOUSELEAVE()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
-    ON_WM_MOUSEWHEEL()
     ON_WM_CAPTURECHANGED()
     ON_WM_SETCURSOR()
 END_MESSAGE_MAP()
@@ -240,9 +239,8 @@ void SymbolPanel::OnCaptureChanged(CWnd*) {
     Invalidate(FALSE);
 }
 
-BOOL SymbolPanel::OnMouseWheel(UINT, short delta, CPoint) {
-    ScrollTo(m_offset - delta * kCell / WHEEL_DELTA);
-    return TRUE;
+void SymbolPanel::ScrollByWheel(short turn) {
+    ScrollTo(m_offset - turn * kCell / WHEEL_DELTA);
 }
 
 void SymbolPanel::ChooseFolder() {

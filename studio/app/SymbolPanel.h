@@ -19,6 +19,8 @@ public:
     /// Shows another folder, or the same one anew.
     void ShowFolder(const CString& folder);
     const CString& Folder() const { return m_folder; }
+    /// Scrolls by a turn of the mouse wheel.
+    void ScrollByWheel(short turn);
 
     /// Called for a symbol that is clicked (null), or dropped at a point of the screen.
     std::function<void(const CString& path, const CPoint* screen)> onInsert;
@@ -34,7 +36,6 @@ protected:
     afx_msg void OnMouseLeave();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
-    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
 

@@ -44,14 +44,15 @@ void StudioCanvas::OnPaint() {
         return;
     }
     CPaintDC dc(this);
-    const CRect part = dc.m_ps.rcPaint;
+    CRect part = dc.m_ps.rcPaint;
     if (part.IsRectEmpty())
         return;
+    ClientToDoc(part);
     m_picture.Begin(part, kGround);
     if (m_nMode != Lumo::CM_RUNNING && PageGrid().shown)
         PaintGrid(m_picture, part, PageGrid().step);
     PaintObjects(part);
-    m_picture.Show(dc.m_hDC);
+    m_picture.Show(dc.m_hDC, m_origin);
     // The paint wiped the band inside the update region, which the context is clipped to.
     if (m_band) {
         CRect band(m_bandFrom, m_bandTo);

@@ -41,7 +41,7 @@ void PageBitmap::DottedFrame(const CRect& frame, DWORD first, DWORD second) {
     }
 }
 
-void PageBitmap::Show(HDC dc) const {
+void PageBitmap::Show(HDC dc, CPoint origin) const {
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = m_part.Width();
@@ -49,7 +49,7 @@ void PageBitmap::Show(HDC dc) const {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
-    ::SetDIBitsToDevice(dc, m_part.left, m_part.top, m_part.Width(), m_part.Height(), 0, 0, 0,
+    ::SetDIBitsToDevice(dc, m_part.left - origin.x, m_part.top - origin.y, m_part.Width(), m_part.Height(), 0, 0, 0,
                         m_part.Height(), m_pixels.data(), &info, DIB_RGB_COLORS);
 }
 

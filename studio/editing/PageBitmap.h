@@ -12,13 +12,13 @@ namespace Studio {
 /// outlines cheap. Keeps its memory from one paint to the next.
 class PageBitmap {
 public:
-    /// Starts a picture of `part` (client coordinates, not empty) in one colour (opaque ARGB).
+    /// Starts a picture of `part` (page units, not empty) in one colour (opaque ARGB).
     void Begin(const CRect& part, DWORD ground);
 
-    /// Graphics over the picture in client coordinates, clipped to it. Valid until the next `Begin`.
+    /// Graphics over the picture in page units, clipped to it. Valid until the next `Begin`.
     std::unique_ptr<Gdiplus::Graphics> MakeGraphics();
 
-    /// One pixel (client coordinates); nothing happens outside.
+    /// One pixel (page units); nothing happens outside.
     void Dot(int x, int y, DWORD color) {
         if (x >= m_part.left && x < m_part.right && y >= m_part.top && y < m_part.bottom)
             m_pixels[static_cast<size_t>(y - m_part.top) * m_width + (x - m_part.left)] = color;
@@ -26,8 +26,8 @@ public:
     /// A dotted outline, two colours in turn, so that it shows on any ground.
     void DottedFrame(const CRect& frame, DWORD first, DWORD second);
 
-    /// Copies the picture to a window.
-    void Show(HDC dc) const;
+    /// Copies the picture to a window that has the page's point `origin` at its corner.
+    void Show(HDC dc, CPoint origin) const;
 
 private:
     CRect m_part;

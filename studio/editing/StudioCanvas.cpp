@@ -22,6 +22,7 @@ using Lumo::CUIToolBase;
 namespace {
 
 constexpr UINT kPictureRequested = WM_APP + 1;
+constexpr UINT kBarsRequested = WM_APP + 2;
 
 bool HasNamedChild(CUIObject* object, const CString& name) {
     // The kind spares nearly every object of a large page the cast.
@@ -49,7 +50,12 @@ BEGIN_MESSAGE_MAP(StudioCanvas, CUICanvas)
     ON_WM_MOUSEWHEEL()
     ON_WM_SETCURSOR()
     ON_WM_CTLCOLOR()
+    ON_WM_SIZE()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_TIMER()
     ON_MESSAGE(kPictureRequested, &StudioCanvas::OnPictureRequested)
+    ON_MESSAGE(kBarsRequested, &StudioCanvas::OnBarsRequested)
     ON_MESSAGE(WM_PARENTNOTIFY, &StudioCanvas::OnParentNotify)
 END_MESSAGE_MAP()
 
@@ -71,6 +77,18 @@ bool StudioCanvas::CreatePage(CWnd& parent) {
                                CRect(0, 0, 0, 0), &parent, 0);
     CUIToolBase::run_drawshape = tool;
     return made != FALSE;
+}
+
+void StudioCanvas::SetOperator(PageOperator* pageOperator) {
+    m_operator = pageOperator;
+    UpdateScrollBars();
+}
+
+void StudioCanvas::NotifyState() {
+    m_listener.OnCanvasState(*this);
+    // Once for a row of changes, and not while something is dragged.
+    if (!m_barsRequested && !m_gesture && m_hWnd)
+        m_barsRequested = PostMessage(kBarsRequested) != FALSE;
 }
 
 void StudioCanvas::Begin(std::unique_ptr<Gesture> gesture) {
@@ -297,8 +315,10 @@ void StudioCanvas::OnLButtonDblClk(UINT flags, CPoint point) {
 void StudioCanvas::OnMouseMove(UINT flags, CPoint point) {
     CUICanvas::OnMouseMove(flags, point);
     TrackPointer(point);
-    if (m_gesture)
+    if (m_gesture) {
+        FollowPointer(point);
         NotifyState();
+    }
 }
 
 void StudioCanvas::TrackPointer(CPoint at) {
@@ -318,10 +338,15 @@ void StudioCanvas::OnMouseLeave() {
 }
 
 BOOL StudioCanvas::OnMouseWheel(UINT flags, short turn, CPoint screen) {
-    if (!m_operator)
+    CPoint at = screen;
+    ScreenToClient(&at);
+    CRect client;
+    GetClientRect(client);
+    // What lies under the pointer is the frame's to find.
+    if (!client.PtInRect(at))
         return CUICanvas::OnMouseWheel(flags, turn, screen);
-    ScreenToClient(&screen);
-    m_operator->Wheel(*this, flags, turn, screen);
+    if (!m_operator || !m_operator->Wheel(*this, flags, turn, at))
+        ScrollByWheel(flags, turn);
     return TRUE;
 }
 
@@ -366,7 +391,9 @@ void StudioCanvas::OnCaptureChanged(CWnd* window) {
 // Another page is shown: what was being done on this one is over.
 void StudioCanvas::OnShowWindow(BOOL show, UINT status) {
     CUICanvas::OnShowWindow(show, status);
-    if (!show) {
+    if (show) {
+        UpdateScrollBars();
+    } else {
         EndGesture();
         EndTextEdit();
     }

@@ -1,5 +1,5 @@
 // Studio's canvas: gestures that can be cancelled, no stuck capture, a selection band that survives a
-// repaint.
+// repaint, scroll bars where the page is larger than its window.
 #pragma once
 
 #include "canvas/UICanvas.h"
@@ -39,8 +39,8 @@ public:
     virtual ~PageOperator() = default;
     /// Paints the page's window; has to validate it.
     virtual void PaintPage(StudioCanvas& page) = 0;
-    /// The wheel was turned by `turn` over a client point.
-    virtual void Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) = 0;
+    /// The wheel was turned by `turn` over a client point. False when nothing there answers it.
+    virtual bool Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) = 0;
     /// The pointer has left the window, or the mouse was taken away.
     virtual void PointerLeft(StudioCanvas& page) = 0;
     /// The cursor over a client point.
@@ -66,7 +66,16 @@ public:
     }
 
     /// While there is an operator (not owned; null to end) it paints the page, and the mouse edits nothing.
-    void SetOperator(PageOperator* pageOperator) { m_operator = pageOperator; }
+    void SetOperator(PageOperator* pageOperator);
+
+    /// The page's point (page units) at the corner of the window.
+    CPoint ScrollOrigin() const { return m_origin; }
+    /// Shows another part of the page, as far as there is something: the page's corner and everything that
+    /// stands on it can be reached. Text that is being typed is stored first.
+    void ScrollTo(CPoint origin);
+    /// Turns the view by the wheel's `turn`, sideways with Shift.
+    void ScrollByWheel(UINT flags, short turn);
+    void OnPrepareDC(CDC* dc, CPrintInfo* info) override;
 
     /// Starts a gesture with the mouse captured; one that is going on is finished first.
     void Begin(std::unique_ptr<Gesture> gesture);
@@ -110,7 +119,7 @@ public:
     /// Has the host open an embedded object.
     void OpenEmbedded(EmbeddedObject& object) { m_listener.OnCanvasEmbedded(*this, object); }
     /// Tells the host that something may have changed.
-    void NotifyState() { m_listener.OnCanvasState(*this); }
+    void NotifyState();
 
 protected:
     DECLARE_MESSAGE_MAP()
@@ -129,8 +138,19 @@ protected:
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     afx_msg LRESULT OnParentNotify(WPARAM event, LPARAM window);
     afx_msg LRESULT OnPictureRequested(WPARAM, LPARAM);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnTimer(UINT_PTR timer);
+    afx_msg LRESULT OnBarsRequested(WPARAM, LPARAM);
 
 private:
+    CRect View() const;
+    CRect ScrollArea(const CRect& view) const;
+    void MeasureContents();
+    void UpdateScrollBars();
+    int ScrolledBy(int bar, UINT code, int now);
+    void FollowPointer(CPoint at);
     void PaintObjects(const CRect& part);
     void EndGesture();
     void KeepTypedText(Lumo::CUIObject& object, HWND editor);
@@ -146,6 +166,11 @@ private:
     bool m_swallowRightUp = false;
     bool m_trackingLeave = false;
     PageOperator* m_operator = nullptr;
+    CPoint m_origin;
+    CPoint m_followed;  // client point that a gesture left the window at
+    CRect m_contents;   // around the objects, as they were measured last
+    bool m_barsRequested = false;
+    bool m_updatingBars = false;
     PageBitmap m_picture;
     bool m_band = false;
     CPoint m_bandFrom;

@@ -45,7 +45,7 @@ bool BackBuffer::Fit(CSize size) {
     return true;
 }
 
-void BackBuffer::Paint(const CRect& part, const BackBuffer* ground,
+void BackBuffer::Paint(const CRect& part, CPoint origin, const BackBuffer* ground,
                        const std::function<void(Gdiplus::Graphics&)>& draw) {
     const CRect area = part & CRect(CPoint(0, 0), m_size);
     if (!m_dc || area.IsRectEmpty())
@@ -57,10 +57,12 @@ void BackBuffer::Paint(const CRect& part, const BackBuffer* ground,
     else
         ::PatBlt(m_dc, area.left, area.top, area.Width(), area.Height(), BLACKNESS);
     {
-        const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(area));
+        const Gdiplus::RectF shown = Lumo::RectGdiFromAtl(area + origin);
+        const Lumo::PaintScope scope(shown);
         const DirectPaint direct(m_dc);
         Gdiplus::Graphics g(m_wrapper.get());
-        g.SetClip(Lumo::RectGdiFromAtl(area));
+        g.TranslateTransform(static_cast<float>(-origin.x), static_cast<float>(-origin.y));
+        g.SetClip(shown);
         draw(g);
     }
     ::RestoreDC(m_dc, state);

@@ -20,8 +20,8 @@ public:
     /// Makes it fit; true when it is new and has to be painted whole.
     bool Fit(CSize size);
     /// Paints one rectangle over `ground`, a buffer of the same size, or over black (null); `draw` draws in
-    /// client coordinates, clipped to it.
-    void Paint(const CRect& part, const BackBuffer* ground,
+    /// page units, of which `origin` is the buffer's corner, clipped to it.
+    void Paint(const CRect& part, CPoint origin, const BackBuffer* ground,
                const std::function<void(Gdiplus::Graphics&)>& draw);
     /// Copies a rectangle to a device context of the window.
     void Show(HDC dc, const CRect& part) const;

@@ -15,8 +15,8 @@ using Lumo::CUIObject;
 
 namespace {
 
-// A kind that no drawing tool serves.
 const RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
+// A kind that no drawing tool serves.
 constexpr Lumo::DrawShape kRunningKind = Lumo::DS_UNKNOWN;
 
 CRect Pixels(const RectF& area) {
@@ -115,7 +115,7 @@ void RunSession::ChooseGround(RunningPage& page) {
 
 void RunSession::PaintGround(RunningPage& page, CSize size) {
     page.ground.Fit(size);
-    page.ground.Paint(CRect(CPoint(0, 0), size), nullptr, [&](Gdiplus::Graphics& g) {
+    page.ground.Paint(CRect(CPoint(0, 0), size), page.origin, nullptr, [&](Gdiplus::Graphics& g) {
         for (const Shown& shown : page.shown) {
             if (shown.inGround)
                 shown.object->Draw(&g);
@@ -171,12 +171,14 @@ void RunSession::PageShown() {
 }
 
 void RunSession::PaintDirty(StudioCanvas& page, RunningPage& running, std::vector<RectF>& dirty) {
-    if (dirty.empty() || !page.m_hWnd || !page.IsWindowVisible() || running.whole)
+    // A page that was scrolled is painted whole before long.
+    if (dirty.empty() || !page.m_hWnd || !page.IsWindowVisible() || running.whole ||
+        running.origin != page.ScrollOrigin())
         return;
     const CRect window(CPoint(0, 0), running.buffer.Size());
     std::vector<CRect> areas;
     for (const RectF& area : dirty) {
-        CRect pixels = Pixels(area) & window;
+        CRect pixels = (Pixels(area) - running.origin) & window;
         if (!pixels.IsRectEmpty())
             areas.push_back(pixels);
     }
@@ -190,8 +192,8 @@ void RunSession::PaintDirty(StudioCanvas& page, RunningPage& running, std::vecto
 
 void RunSession::PaintPart(RunningPage& running, const CRect& part) {
     m_paintedPixels += static_cast<long long>(part.Width()) * part.Height();
-    const RectF area = Lumo::RectGdiFromAtl(part);
-    running.buffer.Paint(part, &running.ground, [&](Gdiplus::Graphics& g) {
+    const RectF area = Lumo::RectGdiFromAtl(part + running.origin);
+    running.buffer.Paint(part, running.origin, &running.ground, [&](Gdiplus::Graphics& g) {
         for (Shown& shown : running.shown) {
             if (shown.run && shown.run->TakeMoved())
                 shown.reach = shown.run->PaintedBounds();
@@ -211,8 +213,9 @@ void RunSession::PaintPage(StudioCanvas& page) {
     page.GetClientRect(client);
     if (client.IsRectEmpty())
         return;
-    if (running.buffer.Fit(client.Size()) || running.whole) {
+    if (running.buffer.Fit(client.Size()) || running.whole || running.origin != page.ScrollOrigin()) {
         running.whole = false;
+        running.origin = page.ScrollOrigin();
         // Values may have changed while another page was shown.
         std::vector<RectF> ignored;
         for (const auto& run : running.live)
@@ -223,6 +226,7 @@ void RunSession::PaintPage(StudioCanvas& page) {
     running.buffer.Show(dc, dc.m_ps.rcPaint);
 }
 
+// `at` in page units, as everywhere in here.
 ObjectRun* RunSession::RunAt(CPoint at) {
     RunningPage* running = Current();
     if (!running)
@@ -243,7 +247,8 @@ void RunSession::SetHover(ObjectRun* run, CUICanvas* canvas) {
     Relay(std::exchange(m_hover, run), canvas, WM_MOUSELEAVE, 0, CPoint(0, 0));
 }
 
-void RunSession::Press(CUICanvas* canvas, UINT message, UINT flags, const CPoint& point) {
+void RunSession::Press(CUICanvas* canvas, UINT message, UINT flags, CPoint point) {
+    canvas->ClientToDoc(point);
     ObjectRun* run = RunAt(point);
     SetHover(run, canvas);
     m_grabbed = run;
@@ -262,27 +267,34 @@ void RunSession::OnLButtonDblClk(CUICanvas* canvas, UINT flags, const CPoint& po
 }
 
 void RunSession::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
+    CPoint at = point;
+    canvas->ClientToDoc(at);
     // Releasing the capture reports a lost one: it comes last, when nothing is grabbed any more.
-    Relay(m_grabbed, canvas, WM_LBUTTONUP, flags, point);
+    Relay(m_grabbed, canvas, WM_LBUTTONUP, flags, at);
     m_grabbed = nullptr;
     m_releasing = true;
     if (::GetCapture() == canvas->m_hWnd)
         ::ReleaseCapture();
     m_releasing = false;
-    SetHover(RunAt(point), canvas);
+    SetHover(RunAt(at), canvas);
     Update();
 }
 
 void RunSession::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& point) {
+    CPoint at = point;
+    canvas->ClientToDoc(at);
     if (!m_grabbed)
-        SetHover(RunAt(point), canvas);
-    Relay(m_grabbed ? m_grabbed : m_hover, canvas, WM_MOUSEMOVE, flags, point);
+        SetHover(RunAt(at), canvas);
+    Relay(m_grabbed ? m_grabbed : m_hover, canvas, WM_MOUSEMOVE, flags, at);
     Update();
 }
 
-void RunSession::Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) {
-    Relay(RunAt(at), &page, WM_MOUSEWHEEL, MAKELONG(flags, turn), at);
+bool RunSession::Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) {
+    page.ClientToDoc(at);
+    ObjectRun* run = RunAt(at);
+    Relay(run, &page, WM_MOUSEWHEEL, MAKELONG(flags, turn), at);
     Update();
+    return run != nullptr;
 }
 
 // Nothing stays pressed or lit on a page that is left, nor when the run ends in the middle of a drag.
@@ -307,7 +319,8 @@ void RunSession::PointerLeft(StudioCanvas& page) {
     Update();
 }
 
-HCURSOR RunSession::CursorAt(StudioCanvas&, CPoint at) {
+HCURSOR RunSession::CursorAt(StudioCanvas& page, CPoint at) {
+    page.ClientToDoc(at);
     return ::LoadCursor(nullptr, m_grabbed || RunAt(at) ? IDC_HAND : IDC_ARROW);
 }
 

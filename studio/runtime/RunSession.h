@@ -35,7 +35,7 @@ public:
     void PageShown();
 
     void PaintPage(StudioCanvas& page) override;
-    void Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) override;
+    bool Wheel(StudioCanvas& page, UINT flags, short turn, CPoint at) override;
     void PointerLeft(StudioCanvas& page) override;
     HCURSOR CursorAt(StudioCanvas& page, CPoint at) override;
 
@@ -62,6 +62,7 @@ private:
         // What never changes and lies under nothing that does, drawn once.
         BackBuffer ground;
         BackBuffer buffer;
+        CPoint origin;  // the page's point at the buffers' corner
         bool whole = true;
     };
 
@@ -73,11 +74,11 @@ private:
     void Prepare(StudioCanvas& page);
     void Show(RunningPage& page, Lumo::CUIObject& object);
     static void ChooseGround(RunningPage& page);
-    void PaintGround(RunningPage& page, CSize size);
+    static void PaintGround(RunningPage& page, CSize size);
     void Collect(RunningPage& page, Lumo::CUIObject& object, std::vector<Lumo::CUIObject*>& groups);
     RunningPage* Current();
     ObjectRun* RunAt(CPoint at);
-    void Press(Lumo::CUICanvas* canvas, UINT message, UINT flags, const CPoint& point);
+    void Press(Lumo::CUICanvas* canvas, UINT message, UINT flags, CPoint point);
     void Relay(ObjectRun* run, Lumo::CUICanvas* canvas, UINT message, UINT flags, CPoint at);
     void SetHover(ObjectRun* run, Lumo::CUICanvas* canvas);
     void LetGo();
