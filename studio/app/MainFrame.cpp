@@ -102,12 +102,13 @@ void MainFrame::LayOut() {
     GetClientRect(client);
     const int bottom = client.bottom - StatusBar::kHeight;
     const bool running = IsRunning();
-    const int left = running ? 0 : Toolbox::kWidth + (m_showSymbols ? SymbolPanel::kWidth : 0);
+    const int tools = Toolbox::WidthFor(bottom);
+    const int left = running ? 0 : tools + (m_showSymbols ? SymbolPanel::kWidth : 0);
     const int right = client.Width() - (m_showProperties && !running ? PropertyPanel::kWidth : 0);
     const int tabs = bottom - m_tabs.Height();
     Lumo::DeferWindow layout;
-    layout.Move(m_toolbox, CRect(0, 0, Toolbox::kWidth, bottom));
-    layout.Move(m_symbols, CRect(Toolbox::kWidth, 0, Toolbox::kWidth + SymbolPanel::kWidth, bottom));
+    layout.Move(m_toolbox, CRect(0, 0, tools, bottom));
+    layout.Move(m_symbols, CRect(tools, 0, tools + SymbolPanel::kWidth, bottom));
     layout.Move(m_properties, CRect(client.Width() - PropertyPanel::kWidth, 0, client.Width(), bottom));
     layout.Move(m_tabs.Window(), CRect(left, tabs, std::max(left, right), bottom));
     layout.Move(m_status, CRect(0, bottom, client.Width(), client.bottom));

@@ -21,6 +21,22 @@ constexpr int kMargin = 8;
 constexpr int kGap = 9;  // between the drawing tools and the audio controls
 constexpr float kIcon = 24.0f;
 
+int ButtonCount() {
+    return static_cast<int>(Tools().size());
+}
+
+// The audio controls are the last buttons.
+int FirstControl() {
+    int button = 0;
+    while (button < ButtonCount() && !IsControl(Tools()[button].kind))
+        ++button;
+    return button;
+}
+
+int RowsFor(int buttons, int columns) {
+    return (buttons + columns - 1) / columns;
+}
+
 // The face of a button with round corners.
 void FillRound(Graphics& g, DWORD color) {
     constexpr float kDiameter = 12.0f;
@@ -46,11 +62,12 @@ BEGIN_MESSAGE_MAP(Toolbox, CWnd)
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
     ON_WM_DESTROY()
+    ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 bool Toolbox::Create(CWnd& parent) {
     const LPCWSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
-    if (!CreateEx(0, windowClass, L"Tools", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(0, 0, kWidth, 0),
+    if (!CreateEx(0, windowClass, L"Tools", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0),
                   &parent, 0))
         return false;
     AddTooltips();
@@ -64,7 +81,7 @@ void Toolbox::AddTooltips() {
     if (!m_tooltip)
         return;
     ::SendMessage(m_tooltip, WM_SETFONT, reinterpret_cast<WPARAM>(BarFont()), FALSE);
-    for (int button = 0; button < static_cast<int>(Tools().size()); ++button) {
+    for (int button = 0; button < ButtonCount(); ++button) {
         const ToolInfo& tool = Tools()[button];
         CString text;
         text = GetPlainText(tool.name);
@@ -88,13 +105,39 @@ void Toolbox::SetCurrent(Lumo::DrawShape kind) {
     Invalidate(FALSE);
 }
 
-CRect Toolbox::ButtonRect(int button) {
-    const int gap = IsControl(Tools()[button].kind) ? kGap : 0;
-    return CRect(CPoint(kMargin, kMargin + button * kStep + gap), CSize(kButton, kButton));
+int Toolbox::ColumnsFor(int height) {
+    return kMargin + ButtonCount() * kStep + kGap <= height ? 1 : 2;
 }
 
-int Toolbox::ButtonAt(CPoint point) {
-    for (int button = 0; button < static_cast<int>(Tools().size()); ++button) {
+int Toolbox::WidthFor(int height) {
+    return 2 * kMargin - (kStep - kButton) + ColumnsFor(height) * kStep;
+}
+
+void Toolbox::OnSize(UINT type, int cx, int cy) {
+    CWnd::OnSize(type, cx, cy);
+    m_columns = ColumnsFor(cy);
+    for (int button = 0; button < ButtonCount(); ++button) {
+        TTTOOLINFO info = {};
+        info.cbSize = TTTOOLINFO_V1_SIZE;
+        info.hwnd = m_hWnd;
+        info.uId = static_cast<UINT_PTR>(button);
+        info.rect = ButtonRect(button);
+        ::SendMessage(m_tooltip, TTM_NEWTOOLRECT, 0, reinterpret_cast<LPARAM>(&info));
+    }
+    Invalidate(FALSE);
+}
+
+CRect Toolbox::ButtonRect(int button) const {
+    const int first = FirstControl();
+    const bool control = button >= first;
+    const int place = control ? button - first : button;
+    const int row = place / m_columns + (control ? RowsFor(first, m_columns) : 0);
+    return CRect(CPoint(kMargin + place % m_columns * kStep, kMargin + row * kStep + (control ? kGap : 0)),
+                 CSize(kButton, kButton));
+}
+
+int Toolbox::ButtonAt(CPoint point) const {
+    for (int button = 0; button < ButtonCount(); ++button) {
         if (ButtonRect(button).PtInRect(point))
             return button;
     }
@@ -105,7 +148,7 @@ void Toolbox::OnPaint() {
     BufferedPaint paint(*this);
     Graphics& g = paint.Graphics();
     g.Clear(Color(Palette::kBar));
-    for (int button = 0; button < static_cast<int>(Tools().size()); ++button) {
+    for (int button = 0; button < ButtonCount(); ++button) {
         const CRect rect = ButtonRect(button);
         if (!paint.Needs(rect))
             continue;
@@ -113,12 +156,10 @@ void Toolbox::OnPaint() {
         g.DrawImage(face.get(), static_cast<INT>(rect.left), static_cast<INT>(rect.top));
     }
     Pen edge{Color(Palette::kEdge)};
-    for (int button = 1; button < static_cast<int>(Tools().size()); ++button) {
-        const int y = ButtonRect(button).top - (kStep - kButton + kGap) / 2 - 1;
-        if (IsControl(Tools()[button].kind) && !IsControl(Tools()[button - 1].kind))
-            g.DrawLine(&edge, kMargin, y, kWidth - kMargin, y);
-    }
-    g.DrawLine(&edge, kWidth - 1, 0, kWidth - 1, static_cast<INT>(paint.Client().bottom));
+    const INT right = paint.Client().right;
+    const INT y = ButtonRect(FirstControl()).top - (kStep - kButton + kGap) / 2 - 1;
+    g.DrawLine(&edge, kMargin, y, right - kMargin, y);
+    g.DrawLine(&edge, right - 1, 0, right - 1, static_cast<INT>(paint.Client().bottom));
 }
 
 void Toolbox::DrawFace(Graphics& g, int button) const {

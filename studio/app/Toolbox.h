@@ -1,4 +1,4 @@
-// The column of tool buttons at the left of the frame.
+// The tool buttons at the left of the frame.
 #pragma once
 
 #include "core/DrawShape.h"
@@ -7,12 +7,13 @@
 
 namespace Studio {
 
-/// Shows one button per tool and sends its command to the parent. Buttons stand at fixed places: 40 by 40
-/// pixels from (8, 8) on, one every 44 pixels; the audio controls
-/// stand 9 pixels lower.
+/// Shows one button per tool and sends its command to the parent. Buttons are 40 by 40 pixels from (8, 8) on,
+/// one every 44 pixels, in one column, or in two where one is higher than the window; the audio controls
+/// begin a row of their own, 9 pixels lower.
 class Toolbox : public CWnd {
 public:
-    static constexpr int kWidth = 56;
+    /// Width that the buttons need in a window of a height.
+    static int WidthFor(int height);
 
     /// Makes the window at the left edge of `parent`.
     bool Create(CWnd& parent);
@@ -29,14 +30,17 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT type, int cx, int cy);
 
 private:
-    static CRect ButtonRect(int button);
-    static int ButtonAt(CPoint point);
+    static int ColumnsFor(int height);
+    CRect ButtonRect(int button) const;
+    int ButtonAt(CPoint point) const;
     void DrawFace(Gdiplus::Graphics& g, int button) const;
     void SetHot(int button);
     void AddTooltips();
 
+    int m_columns = 1;
     Lumo::DrawShape m_current = Lumo::DS_SELECT;
     int m_hot = -1;
     int m_pressed = -1;
