@@ -149,26 +149,48 @@ ULONGLONG CArchive::BytesLeft() const {
     return ULONGLONG(m_lpBufMax - m_lpBufCur) + (length > position ? length - position : 0);
 }
 
-// The common case: a short text that the buffer holds whole. A text that is there already keeps its sharing.
-bool CArchive::LoadBufferedText(CString& string) {
-    constexpr int kHead = 4;
-    const BYTE* head = m_lpBufCur;
-    const ptrdiff_t buffered = m_lpBufMax - head;
-    if (!IsLoading() || buffered < kHead || head[0] != 0xFF || head[1] != 0xFE || head[2] != 0xFF ||
-        head[3] == 0xFF)
-        return false;
-    const int count = head[3];
-    const int size = kHead + count * int(sizeof(wchar_t));
-    if (buffered < size)
-        return false;
-    if (count != string.GetLength() ||
-        std::memcmp(head + kHead, string.GetString(), size_t(size - kHead)) != 0) {
-        CString loaded;
-        std::memcpy(loaded.GetBuffer(count), head + kHead, size_t(size - kHead));
-        loaded.ReleaseBuffer(count);
-        string = std::move(loaded);
+namespace {
+
+// Whether two runs of wide characters are the same. Most texts are a few words of memory long, for which a
+// call of the C runtime's comparison costs more than it does.
+bool SameText(const BYTE* a, const BYTE* b, size_t size) {
+    ULONGLONG x, y;
+    for (; size >= sizeof x; size -= sizeof x, a += sizeof x, b += sizeof y) {
+        std::memcpy(&x, a, sizeof x);
+        std::memcpy(&y, b, sizeof y);
+        if (x != y)
+            return false;
     }
-    m_lpBufCur += size;
+    for (; size; size -= sizeof(wchar_t), a += sizeof(wchar_t), b += sizeof(wchar_t)) {
+        if (a[0] != b[0] || a[1] != b[1])
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+// The common case: a short text that the buffer holds whole. A text that is there already keeps its sharing.
+inline bool CArchive::LoadBufferedText(CString& string) {
+    constexpr DWORD kUnicodeText = 0x00FFFEFF;  // the marks before a length of one byte
+    DWORD head;
+    const ptrdiff_t buffered = m_lpBufMax - m_lpBufCur;
+    if (!IsLoading() || buffered < ptrdiff_t(sizeof head))
+        return false;
+    std::memcpy(&head, m_lpBufCur, sizeof head);
+    const int count = int(head >> 24);
+    const size_t size = size_t(count) * sizeof(wchar_t);
+    if ((head & 0x00FFFFFF) != kUnicodeText || count == 0xFF || size_t(buffered) < sizeof head + size)
+        return false;
+    const BYTE* text = m_lpBufCur + sizeof head;
+    m_lpBufCur += sizeof head + size;
+    if (count == string.GetLength() &&
+        SameText(text, reinterpret_cast<const BYTE*>(string.GetString()), size))
+        return true;
+    CString loaded;
+    std::memcpy(loaded.GetBuffer(count), text, size);
+    loaded.ReleaseBuffer(count);
+    string = std::move(loaded);
     return true;
 }
 

@@ -132,7 +132,7 @@ void CUIMultiDownTool::OnLButtonDblClk(CUICanvas* canvas, UINT flags, const CPoi
     run_drawshape = DS_SELECT;
     s_figure = nullptr;
     if (HasCapture(canvas))
-        ::ReleaseCapture();
+        LetMouseGo();
 }
 
 }  // namespace Lumo

@@ -58,7 +58,7 @@ void CUISelectTool::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& poi
     if (!IsCurrent(canvas))
         return;
     CPoint pt = ToDoc(canvas, point);
-    if (!HasCapture(canvas)) {
+    if (IsIdle(flags) || !HasCapture(canvas)) {
         Hover(canvas, pt);
         return;
     }

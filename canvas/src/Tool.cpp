@@ -52,6 +52,7 @@ CUIToolBase::~CUIToolBase() {
 
 void CUIToolBase::OnLButtonDown(CUICanvas* canvas, UINT, const CPoint& point) {
     canvas->SetCapture();
+    g_pressed = true;
     CPoint pt = point;
     canvas->ClientToDoc(pt);
     run_down = run_last = pt;

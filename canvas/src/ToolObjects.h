@@ -28,9 +28,23 @@ inline bool HasCapture(const CUICanvas* canvas) {
     return canvas->m_hWnd && ::GetCapture() == canvas->m_hWnd;
 }
 
+/// Whether a tool captured the mouse and has not let it go itself.
+inline bool g_pressed = false;
+
+/// Whether no press can be going on. Asking the system who has the mouse costs more than all else of a mouse
+/// move, so that it is only asked when a tool or a button says that there may be one.
+inline bool IsIdle(UINT flags) {
+    return !g_pressed && (flags & (MK_LBUTTON | MK_MBUTTON | MK_RBUTTON)) == 0;
+}
+
+inline void LetMouseGo() {
+    ::ReleaseCapture();
+    g_pressed = false;
+}
+
 /// Ends a press that began no drag.
 inline void EndPress() {
-    ::ReleaseCapture();
+    LetMouseGo();
     ShowCursor(IDC_ARROW);
 }
 

@@ -83,8 +83,9 @@ const Gdiplus::StringFormat* CaptionCache::FormatOf(int alignment) {
     auto& format = m_formats[alignment];
     if (format == nullptr) {
         format = std::make_unique<Gdiplus::StringFormat>(Gdiplus::StringFormatFlagsNoClip);
+        // The box that a caption is laid out in is as high as its text, so that the line alignment moves
+        // nothing; but for any other than the first the text is measured once more at every drawing.
         format->SetAlignment(static_cast<Gdiplus::StringAlignment>(alignment));
-        format->SetLineAlignment(static_cast<Gdiplus::StringAlignment>(alignment));
     }
     return format.get();
 }
