@@ -1,0 +1,26 @@
+// Messages on their way to windows.
+#pragma once
+
+#include "stress/monkey/Random.h"
+
+#include <afxwin.h>
+
+namespace monkey {
+
+/// Handles everything that waits in the queue, timers excepted unless asked for: those come when the clock
+/// says so, and the same seed has to do the same.
+void Pump(bool timers = false);
+
+/// Sends a mouse message to a window through the queue, straight to it, or, where this program's windows are
+/// in front, as input of the system; buttons and modifiers as they were left by the messages before. The
+/// point is in client coordinates.
+void SendMouse(Random& random, CWnd& window, CPoint at);
+/// Sends a key with modifiers to the window with the focus.
+void SendKey(Random& random, UINT key, bool control = false, bool shift = false);
+/// Types some letters.
+void SendText(Random& random);
+/// Releases buttons, modifiers and the capture as a user who takes the hands away: releases go to the window
+/// that has the mouse, or to `window`.
+void LetGo(CWnd& window, CPoint at);
+
+}  // namespace monkey

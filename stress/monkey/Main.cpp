@@ -1,0 +1,108 @@
+// Sends messages at random and checks what has to hold after each burst. The same seed sends the same
+// messages.
+#include "stress/monkey/Dialogs.h"
+#include "stress/monkey/Monkey.h"
+#include "stress/monkey/Scratch.h"
+
+#include "studio/editing/TextKeys.h"
+
+#include <afxole.h>
+#include <commctrl.h>
+
+#include <cstdlib>
+#include <cstdio>
+#include <cstring>
+
+namespace monkey {
+
+namespace {
+
+constexpr int kThoroughEvery = 25;  // bursts
+
+class MonkeyApp : public CWinApp {
+public:
+    MonkeyApp() : CWinApp(L"Monkey") {}
+    BOOL PreTranslateMessage(MSG* message) override {
+        auto* frame = dynamic_cast<CFrameWnd*>(m_pMainWnd);
+        return (frame && Studio::TakeTextKey(*message, *frame)) || CWinApp::PreTranslateMessage(message);
+    }
+};
+
+MonkeyApp theApp;
+
+struct Options {
+    bool studio = false;
+    std::uint64_t messages = 10000;
+    std::uint64_t seed = 1;
+};
+
+Options Read(int count, char** words) {
+    Options options;
+    for (int i = 1; i < count; ++i) {
+        if (!std::strcmp(words[i], "--studio") || !std::strcmp(words[i], "--canvas"))
+            options.studio = words[i][2] == 's';
+        else if (!std::strcmp(words[i], "--messages") && i + 1 < count)
+            options.messages = std::strtoull(words[++i], nullptr, 10);
+        else if (!std::strcmp(words[i], "--seed") && i + 1 < count)
+            options.seed = std::strtoull(words[++i], nullptr, 10);
+        else
+            throw Broken{"usage: Monkey.exe [--canvas|--studio] [--messages N] [--seed S]"};
+    }
+    return options;
+}
+
+void Burst(Monkey& monkey, const Options& options, std::uint64_t burst) {
+    NoteBurst(burst);
+    const int length = Random(options.seed, burst).Between(20, 50);
+    for (int i = 0; i < length && MessagesSent() < options.messages; ++i) {
+        Random random(options.seed, burst, i + 1);
+        SetDialogAnswers(Random(random.Next()));
+        monkey.Act(random);
+    }
+    monkey.Settle();
+    theApp.OnIdle(0);
+    theApp.OnIdle(1);
+    monkey.Check();
+    if (burst % kThoroughEvery == kThoroughEvery - 1)
+        monkey.CheckThoroughly();
+}
+
+int Run(const Options& options) {
+    const char* subject = options.studio ? "studio" : "canvas";
+    std::printf("monkey: %s, seed %llu, %llu messages\n", subject, options.seed, options.messages);
+    std::fflush(stdout);
+    StartJournal(subject, options.seed);
+    const Scratch scratch;
+    const DialogAnswerer answerer(scratch.Folder());
+    std::unique_ptr<Monkey> monkey = options.studio ? MakeStudioMonkey() : MakeCanvasMonkey();
+    std::uint64_t bursts = 0;
+    try {
+        while (MessagesSent() < options.messages)
+            Burst(*monkey, options, bursts++);
+        monkey->CheckThoroughly();
+    } catch (const Broken& broken) {
+        Report(broken.what);
+        return 1;
+    }
+    monkey.reset();
+    std::printf("%llu messages in %llu bursts, %d dialogs and menus answered; all invariants held\n",
+                MessagesSent(), bursts, answerer.Answered());
+    return 0;
+}
+
+}  // namespace
+
+}  // namespace monkey
+
+int main(int count, char** words) {
+    if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOW))
+        return 2;
+    INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_BAR_CLASSES | ICC_STANDARD_CLASSES};
+    ::InitCommonControlsEx(&controls);
+    try {
+        return monkey::Run(monkey::Read(count, words));
+    } catch (const monkey::Broken& usage) {
+        std::puts(usage.what.c_str());
+        return 2;
+    }
+}
