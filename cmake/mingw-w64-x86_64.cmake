@@ -1,16 +1,4 @@
-# Cross build for 64-bit Windows with the posix-threads flavour of MinGW-w64; programs run through Wine.
-set(CMAKE_SYSTEM_NAME Windows)
+# Cross build for 64-bit Windows; programs run through Wine.
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
-
-set(TESSEL_TRIPLET x86_64-w64-mingw32)
-set(CMAKE_C_COMPILER ${TESSEL_TRIPLET}-gcc-posix)
-set(CMAKE_CXX_COMPILER ${TESSEL_TRIPLET}-g++-posix)
-set(CMAKE_RC_COMPILER ${TESSEL_TRIPLET}-windres)
-
-set(CMAKE_FIND_ROOT_PATH /usr/${TESSEL_TRIPLET})
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-
-set(CMAKE_CXX_FLAGS_DEBUG_INIT "-Og -g1")
+include("${CMAKE_CURRENT_LIST_DIR}/mingw-w64.cmake")
 set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/wine-launcher.sh")
