@@ -3,6 +3,9 @@
 
 #include <afxwin.h>
 
+#include <cstdio>
+#include <exception>
+
 int main(int argc, char**) {
     if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOW))
         return 2;
@@ -14,7 +17,13 @@ int main(int argc, char**) {
     bench::MeasureDocument(lines);
     bench::MeasurePainting(lines);
     bench::MeasureHitTests(lines);
-    bench::MeasureStart(lines);
+    bench::MeasureScaling(lines);
+    try {
+        bench::MeasureStart(lines);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
     bench::Print(lines);
     return 0;
 }

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <stdexcept>
 #include <string>
 
 namespace bench {
@@ -60,7 +61,7 @@ double SecondsToStart(CString command) {
     });
     command.ReleaseBuffer();
     if (!process.hProcess)
-        return 0.0;
+        throw std::runtime_error("a program whose start is measured does not start");
     ::PostMessage(window, WM_CLOSE, 0, 0);
     if (::WaitForSingleObject(process.hProcess, kPatience) != WAIT_OBJECT_0)
         ::TerminateProcess(process.hProcess, 1);

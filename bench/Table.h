@@ -39,6 +39,7 @@ void MeasurePainting(std::vector<Line>& lines);
 void MeasureHitTests(std::vector<Line>& lines);
 void MeasureDocument(std::vector<Line>& lines);
 void MeasureStudio(std::vector<Line>& lines);
+void MeasureScaling(std::vector<Line>& lines);
 void MeasureStart(std::vector<Line>& lines);
 
 /// The program that Studio's start is measured against: an empty window. Returns the exit code.
