@@ -7,7 +7,6 @@
 
 #include "behaviour/UIObjectTextEdit.h"
 #include "canvas/CanvasCommands.h"
-#include "canvas/UIEdit.h"
 #include "canvas/UITool.h"
 #include "core/Geometry.h"
 
@@ -270,8 +269,7 @@ void CanvasMonkey::Check() {
     for (const auto& canvas : m_host.Canvases()) {
         const CUIObjectDeque* page = m_host.Document().GetCanvasObjectList(canvas.get());
         CheckSelection(canvas->m_selection, page ? *page : CUIObjectDeque());
-        Require(!canvas->m_pEdit || all.contains(canvas->m_pEdit->GetEditedObject()),
-                "the editor is open on an object that is gone");
+        CheckEditor(*canvas, all);
     }
     const std::vector<BYTE> before = Bytes();
     for (const auto& canvas : m_host.Canvases()) {

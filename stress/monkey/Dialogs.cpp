@@ -76,6 +76,9 @@ LRESULT CALLBACK OnMenu(int code, WPARAM wParam, LPARAM lParam) {
         for (int level = 0; level < 3; ++level)
             ::PostMessage(message.hwnd, WM_KEYDOWN, VK_ESCAPE, 0);
     }
+    // A press on a scroll bar or a frame is followed until the button goes up.
+    if (code == HC_ACTION && message.message == WM_NCLBUTTONDOWN)
+        ::PostMessage(message.hwnd, WM_LBUTTONUP, 0, message.lParam);
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 

@@ -76,24 +76,32 @@ Stroke NextStroke(Random& random) {
 }  // namespace
 
 void Pump(bool timers) {
-    const auto next = [timers](MSG& message) {
-        return timers ? ::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)
-                      : ::PeekMessage(&message, nullptr, 0, WM_TIMER - 1, PM_REMOVE) ||
-                            ::PeekMessage(&message, nullptr, WM_TIMER + 1, 0xFFFF, PM_REMOVE);
+    constexpr int kMostTicks = 8;  // of timers that come faster than they are served
+    const auto handle = [](UINT first, UINT last) {
+        MSG message;
+        if (!::PeekMessage(&message, nullptr, first, last, PM_REMOVE))
+            return false;
+        if (message.message != WM_QUIT && !AfxPreTranslateMessage(&message)) {
+            ::TranslateMessage(&message);
+            ::DispatchMessage(&message);
+        }
+        return true;
     };
-    MSG message;
-    while (next(message)) {
-        if (message.message == WM_QUIT || AfxPreTranslateMessage(&message))
-            continue;
-        ::TranslateMessage(&message);
-        ::DispatchMessage(&message);
-    }
+    const auto handleAll = [&] {
+        while (handle(0, WM_TIMER - 1) || handle(WM_TIMER + 1, 0xFFFF)) {
+        }
+    };
+    handleAll();
+    for (int ticks = 0; timers && ticks < kMostTicks && handle(WM_TIMER, WM_TIMER); ++ticks)
+        handleAll();
 }
 
 void SendMouse(Random& random, CWnd& window, CPoint at) {
     const Stroke stroke = NextStroke(random);
     const UINT modifiers = (random.Chance(12) ? MK_SHIFT : 0) | (random.Chance(8) ? MK_CONTROL : 0);
     const int way = random.Below(10);
+    CRect client;
+    window.GetClientRect(client);
     CPoint screen = at;
     window.ClientToScreen(&screen);
     const HWND captured = ::GetCapture();
@@ -103,7 +111,8 @@ void SendMouse(Random& random, CWnd& window, CPoint at) {
     ::GetWindowTextA(window.m_hWnd, name, sizeof name);
     Note("mouse %04x at %ld, %ld of \"%s\", held %x, modifiers %x, way %d", stroke.message, at.x, at.y, name,
          g_held, modifiers, way);
-    if (way == 0 && !wheel && IsOurs(::WindowFromPoint(screen)) && IsOurs(::GetForegroundWindow())) {
+    if (way == 0 && !wheel && client.PtInRect(at) && ::WindowFromPoint(screen) == window.m_hWnd &&
+        IsOurs(::GetForegroundWindow())) {
         SystemMouse(screen, stroke.event);
         Pump();
         return;

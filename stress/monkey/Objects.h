@@ -4,6 +4,9 @@
 #include "stress/monkey/Journal.h"
 
 #include "behaviour/UIObjectList.h"
+#include "behaviour/UIObjectTextEdit.h"
+#include "canvas/UICanvas.h"
+#include "canvas/UIEdit.h"
 #include "core/UIDocument.h"
 
 #include <algorithm>
@@ -35,6 +38,12 @@ inline void CheckSelection(const std::deque<Lumo::CUIObject*>& selection,
         Require(there.contains(object), "a selected object is not on the page");
         Require(selected.insert(object).second, "an object is twice in the selection");
     }
+}
+
+/// An editor is open on an object that is there.
+inline void CheckEditor(const Lumo::CUICanvas& canvas, const ObjectSet& all) {
+    const Lumo::CUIObject* edited = canvas.m_pEdit ? canvas.m_pEdit->GetEditedObject() : nullptr;
+    Require(!edited || all.contains(edited), "the editor is open on an object that is gone");
 }
 
 /// What `store` writes to an archive.
