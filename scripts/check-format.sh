@@ -2,4 +2,5 @@
 # Every C++ file of the tree must be as clang-format leaves it.
 set -euo pipefail
 
-git ls-files -z -- '*.h' '*.cpp' | xargs -0 --no-run-if-empty clang-format --dry-run -Werror
+find . -path ./build -prune -o -path ./.git -prune -o \( -name '*.h' -o -name '*.cpp' \) -print0 |
+    xargs -0 clang-format --dry-run -Werror
