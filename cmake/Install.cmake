@@ -27,13 +27,18 @@ if(CMAKE_CROSSCOMPILING)
 endif()
 
 foreach(dll ${TESSEL_RUNTIME_DLLS})
-    install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll}" DESTINATION bin)
+    install(PROGRAMS "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll}" DESTINATION bin)
+    # The compiler's come with their symbols: 24 MB instead of 2.
+    install(CODE "if(CMAKE_INSTALL_DO_STRIP)
+        execute_process(COMMAND \"${CMAKE_STRIP}\" \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin/${dll}\")
+    endif()")
 endforeach()
 install(TARGETS Studio RUNTIME DESTINATION bin)
 install(DIRECTORY studio/symbols DESTINATION bin)
 install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/demo.cbf" DESTINATION bin OPTIONAL)  # the target demo_project makes it
 
-install(FILES README.md CHANGELOG.md DESTINATION .)
+configure_file(cmake/PackageReadme.md.in package/README.md @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/package/README.md" CHANGELOG.md DESTINATION .)
 install(DIRECTORY docs DESTINATION . FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg" PATTERN api EXCLUDE)
 install(DIRECTORY "${CMAKE_BINARY_DIR}/api/html/" DESTINATION docs/api OPTIONAL)  # the target api_reference makes it
 install(DIRECTORY examples DESTINATION .)
