@@ -1,7 +1,9 @@
 // Coordinates, and the way of a mouse message to its tool.
 #include "canvas/UITool.h"
 #include "canvas/src/MappedDC.h"
+#include "canvas/src/ToolObjects.h"
 #include "core/Geometry.h"
+#include "core/UIDocument.h"
 
 #include <afxext.h>
 
@@ -94,7 +96,11 @@ void CUICanvas::OnLButtonDown(UINT flags, CPoint point) {
 }
 
 void CUICanvas::OnLButtonUp(UINT flags, CPoint point) {
-    if (CUIToolBase* tool = FindModeTool())
+    CUIToolBase* tool = FindModeTool();
+    // Tools edit the current page only.
+    if (!tool || !m_pDocument || m_pDocument->GetCurrentCanvas() != this)
+        AbandonPress(this);
+    if (tool)
         tool->OnLButtonUp(this, flags, point);
 }
 

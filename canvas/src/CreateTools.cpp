@@ -101,6 +101,7 @@ void CUISymbolTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& p
 }
 
 void CUISymbolTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
+    AbandonPress(canvas);
     Relay(canvas, WM_LBUTTONUP, flags, point);
     ShowCursor(IDC_ARROW);
 }

@@ -96,7 +96,13 @@ void CUIMultiDownTool::ContinueFigure(CUICanvas* canvas, UINT flags, const CPoin
 }
 
 void CUIMultiDownTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    if (!IsCurrent(canvas) || run_handle != 1 || !Figure(canvas))
+    if (!IsCurrent(canvas))
+        return;
+    if (!Figure(canvas)) {
+        AbandonPress(canvas);
+        return;
+    }
+    if (run_handle != 1)
         return;
     const CRect click(run_down.x - kClickSlack, run_down.y - kClickSlack, run_down.x + kClickSlack,
                       run_down.y + kClickSlack);

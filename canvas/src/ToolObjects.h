@@ -48,6 +48,16 @@ inline void EndPress() {
     ShowCursor(IDC_ARROW);
 }
 
+/// Ends a press that the tool which began it cannot end any more: mode, tool or page changed in between.
+inline void AbandonPress(CUICanvas* canvas) {
+    if (!g_pressed || !HasCapture(canvas))
+        return;
+    EndPress();
+    CUIToolBase::run_handle = -1;
+    SelectTool().m_nDragMode = CUISelectTool::kNone;
+    canvas->UpdateCanvas(nullptr, 0, nullptr);  // a rubber band may be left
+}
+
 /// The object selected last, or null.
 inline CUIObject* FrontSelected(const CUICanvas* canvas) {
     return canvas->m_selection.empty() ? nullptr : canvas->m_selection.front();
