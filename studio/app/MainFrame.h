@@ -74,6 +74,7 @@ protected:
     afx_msg void OnRun();
     afx_msg void OnRunEscape();
     BOOL OnNotify(WPARAM id, LPARAM notify, LRESULT* result) override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
 private:
     StudioCanvas* PropertyPage() override { return Page(); }

@@ -3,6 +3,8 @@
 
 #include "studio/app/Commands.h"
 
+#include <algorithm>
+
 namespace Studio {
 
 void MainFrame::SetRunning(bool running) {
@@ -31,6 +33,15 @@ void MainFrame::OnRun() {
 void MainFrame::OnRunEscape() {
     if (!m_run.CancelEntry())
         SetRunning(false);
+}
+
+// Menus and keys offer nothing else then, but a command may come from anywhere.
+BOOL MainFrame::OnCommand(WPARAM wParam, LPARAM lParam) {
+    constexpr UINT kAllowed[] = {ID_RUN_PAGES, ID_RUN_ESCAPE, ID_APP_ABOUT, ID_APP_EXIT};
+    const UINT* const end = std::end(kAllowed);
+    if (IsRunning() && !lParam && std::find(kAllowed, end, LOWORD(wParam)) == end)
+        return TRUE;
+    return CFrameWnd::OnCommand(wParam, lParam);
 }
 
 void MainFrame::RefreshRunStatus() {
