@@ -69,6 +69,8 @@
     X(kPropTimeSpan,       L"Seconds",                  L"시간(초)") \
     X(kPropDivisions,      L"Divisions",                L"눈금 수") \
     X(kPropTrendLines,     L"Lines",                    L"선") \
+    X(kPropLineColors,     L"Line colours",             L"선 색") \
+    X(kColorAuto,          L"auto",                     L"자동") \
     X(kPropLineWidth,      L"Line width",               L"선 두께") \
     X(kPropGridColor,      L"Grid",                     L"눈금 색") \
     X(kPropBackColor,      L"Background",               L"배경색") \
@@ -176,6 +178,8 @@
     X(kRefuseWhole,        L"This must be a whole number.", L"정수를 입력하세요.") \
     X(kRefuseRange,        L"This must be from %s to %s.", L"%s에서 %s까지 입력할 수 있습니다.") \
     X(kRefuseColor,        L"A colour is six digits 0-9, A-F: 3E7BFA.", L"색은 여섯 자리(0-9, A-F)입니다: 3E7BFA") \
+    X(kRefuseLineColors,   L"One colour for each line, \"auto\" or six digits: auto, 3E7BFA", \
+                           L"선마다 \"자동\" 또는 여섯 자리 색을 쉼표로 구분해 입력하세요: 자동, 3E7BFA") \
     X(kRefuseEmptyName,    L"An object needs a name.",  L"개체에는 이름이 있어야 합니다.") \
     X(kRefuseTakenName,    L"Another object has this name.", L"다른 개체가 쓰는 이름입니다.") \
     X(kRefuseNoFile,       L"There is no such file.",   L"파일이 없습니다.") \

@@ -14,6 +14,8 @@ class StudioDocument;
 /// Starts and ends the session of a document. The device keeps its settings from one run to the next.
 class RunMode : public RunHost {
 public:
+    /// The device has been on for a while: meters and graphs begin with levels, not with their rise.
+    RunMode() { m_device.Settle(); }
     /// Updates per second.
     static constexpr int kRate = 30;
 

@@ -105,6 +105,15 @@ CSize Control::Size() {
     return {Lumo::RoundToInt(bounds.Width), Lumo::RoundToInt(bounds.Height)};
 }
 
+// A binding that means nothing to this control: its name, so that it can be put right.
+void Control::RenderUnbound(Picture& picture) {
+    const auto right = static_cast<float>(picture.Width());
+    const auto bottom = static_cast<float>(picture.Height());
+    picture.FrameRound(0, 0, right, bottom, 6.0f, Ink::kCard, Ink::kRed);
+    picture.Text(Binding() + L" ?", 4, 0, right - 4, bottom, 12.0f, Ink::kRed,
+                 Gdiplus::StringAlignmentCenter);
+}
+
 void Control::DrawPicture(Gdiplus::Graphics& g) {
     const RectF bounds = Lumo::Normalised(Self().GetPosition());
     constexpr int kLargest = 4096;
@@ -115,7 +124,12 @@ void Control::DrawPicture(Gdiplus::Graphics& g) {
         m_drawnBinding = binding;
         m_stale = true;
     }
-    Refresh(m_picture, size.cx, size.cy, m_stale, [this](Picture& picture) { Render(picture); });
+    Refresh(m_picture, size.cx, size.cy, m_stale, [this](Picture& picture) {
+        if (IsBound())
+            Render(picture);
+        else
+            RenderUnbound(picture);
+    });
     m_stale = m_changed = false;
     RectF clip;
     g.GetVisibleClipBounds(&clip);

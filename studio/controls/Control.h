@@ -38,6 +38,8 @@ public:
 
     /// Name that a new control is bound to.
     virtual LPCWSTR DefaultBinding() const = 0;
+    /// Whether the object's binding leads to the values that the control needs.
+    virtual bool IsBound() = 0;
 
 protected:
     Control() = default;
@@ -76,6 +78,7 @@ protected:
 
 private:
     CPoint Corner() const;
+    void RenderUnbound(Picture& picture);
 
     Device* m_device = nullptr;
     Gdiplus::PointF m_origin;

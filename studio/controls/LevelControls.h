@@ -11,6 +11,7 @@ public:
     LevelChart() : ChartControl(Lumo::DS_CHARTLEVEL) {}
 
     LPCWSTR DefaultBinding() const override { return L"in"; }
+    bool IsBound() override { return ValueOf(L".level") >= 0 || ValueOf(L"1.level") >= 0; }
     void Connect(Device* device) override;
     /// Levels move all the time: only the pixels that changed are repainted.
     bool TakeChange(std::vector<CRect>& parts) override;
@@ -46,6 +47,7 @@ public:
     LevelButton() : ButtonControl(Lumo::DS_BUTTONLEVEL) {}
 
     LPCWSTR DefaultBinding() const override { return L"in1"; }
+    bool IsBound() override { return ValueOf(L".gain") >= 0 && ValueOf(L".mute") >= 0; }
     /// The level moves all the time: only its bar is repainted.
     bool TakeChange(std::vector<CRect>& parts) override;
     void DrawNormal(Gdiplus::Graphics* g) override { DrawWithLevel(*g); }

@@ -12,6 +12,7 @@ public:
     DeviceChart() : ChartControl(Lumo::DS_CHARTDEVICE) {}
 
     LPCWSTR DefaultBinding() const override { return L"xp"; }
+    bool IsBound() override { return true; }
     void OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnMouseMove(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
@@ -58,6 +59,7 @@ public:
     DeviceButton() : ButtonControl(Lumo::DS_BUTTONDEVICE) {}
 
     LPCWSTR DefaultBinding() const override { return L"in1"; }
+    bool IsBound() override { return SwitchValue() >= 0; }
     void OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void Leave() override;

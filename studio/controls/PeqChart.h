@@ -13,6 +13,7 @@ public:
     PeqChart() : ChartControl(Lumo::DS_CHARTPEQ) {}
 
     LPCWSTR DefaultBinding() const override { return L"out1.peq"; }
+    bool IsBound() override { return ValueOf(L".1.freq") >= 0; }
     void OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonDblClk(CWnd* window, UINT message, UINT flags, LPARAM packed) override;

@@ -13,6 +13,7 @@ public:
     BandButton() : ButtonControl(Lumo::DS_BUTTONBAND) {}
 
     LPCWSTR DefaultBinding() const override { return L"out1.peq.1"; }
+    bool IsBound() override { return ValueOf(L".freq") >= 0; }
 
 protected:
     void Render(Picture& picture) override;
@@ -30,6 +31,7 @@ public:
     CrossoverState() : ChartControl(Lumo::DS_STATECROSSOVER) {}
 
     LPCWSTR DefaultBinding() const override { return L"out1.xover"; }
+    bool IsBound() override { return ValueOf(L".lowfreq") >= 0; }
     void OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonDblClk(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
@@ -61,6 +63,7 @@ public:
     GeqState() : ChartControl(Lumo::DS_STATEGEQ) {}
 
     LPCWSTR DefaultBinding() const override { return L"out1.geq"; }
+    bool IsBound() override { return ValueOf(L".1") >= 0; }
     void OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonDblClk(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
@@ -89,6 +92,7 @@ public:
     PeqState() : ChartControl(Lumo::DS_STATEPEQ) {}
 
     LPCWSTR DefaultBinding() const override { return L"out1.peq"; }
+    bool IsBound() override { return ValueOf(L".1.freq") >= 0; }
     void OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnMouseMove(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnMouseWheel(CWnd* window, UINT message, UINT flags, LPARAM packed) override;

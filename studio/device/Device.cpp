@@ -239,6 +239,12 @@ void Device::Tick(double seconds) {
     }
 }
 
+void Device::Settle() {
+    constexpr int kTicks = 90;
+    for (int i = 0; i < kTicks; ++i)
+        Tick(1.0 / 30.0);
+}
+
 Band Device::PeqBand(int output, int band) const {
     const int type = Find(Numbered(L"out%d.peq.%d.type", output, band));
     if (type < 0)
@@ -273,9 +279,7 @@ CString Device::Describe(int value) const {
 const Device& SampleDevice() {
     static const Device device = [] {
         Device sample(7);
-        constexpr int kTicks = 90;
-        for (int i = 0; i < kTicks; ++i)
-            sample.Tick(1.0 / 30.0);
+        sample.Settle();
         return sample;
     }();
     return device;

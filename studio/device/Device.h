@@ -69,6 +69,8 @@ public:
 
     /// Lets time pass: signals, levels.
     void Tick(double seconds);
+    /// Lets so much time pass that the levels of a new device have risen to what is fed in.
+    void Settle();
 
     /// Parametric bands and settings of an output (from 1), for drawing.
     Band PeqBand(int output, int band) const;

@@ -1,6 +1,7 @@
 #include "studio/properties/BehaviourFields.h"
 
 #include "studio/device/Device.h"
+#include "studio/properties/PropertyEdits.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -13,6 +14,8 @@ namespace {
 
 constexpr size_t kArgumentCount = std::extent_v<decltype(CPrefButton::m_strArguments)>;
 constexpr size_t kMostLines = 16;
+// A line that has no colour of its own.
+constexpr int kAutomatic = -1;
 
 // What an object without extras has.
 const ObjectExtras& ExtrasOf(const CUIObject& object) {
@@ -107,6 +110,33 @@ std::vector<CString> LineNames(const ObjectExtras& extras) {
     return names;
 }
 
+bool HasTrendLines(const CUIObject& object) {
+    return HasExtras(object) && !ExtrasOf(object).prefs.m_trend.m_lines.empty();
+}
+
+bool IsAutomatic(const CString& word) {
+    return word.IsEmpty() || word.CompareNoCase(GetText(Text::kColorAuto)) == 0;
+}
+
+int LineColor(const CString& word) {
+    if (IsAutomatic(word))
+        return kAutomatic;
+    const DWORD rgb = ParseColor(word).value_or(0);
+    // An opaque white would be the code of the automatic colour.
+    return static_cast<int>(rgb | (rgb == 0x00FFFFFF ? 0xFE000000 : 0xFF000000));
+}
+
+std::vector<CString> LineColors(const ObjectExtras& extras) {
+    std::vector<CString> words;
+    for (const CPrefTrendLine* line : extras.prefs.m_trend.m_lines) {
+        CString word = GetText(Text::kColorAuto);
+        if (line && line->m_nColor != kAutomatic)
+            word.Format(L"%06X", static_cast<unsigned>(line->m_nColor) & 0xFFFFFF);
+        words.push_back(word);
+    }
+    return words;
+}
+
 // Lines that stay keep their width and colour.
 void SetLineNames(ObjectExtras& extras, const std::vector<CString>& names) {
     auto& lines = extras.prefs.m_trend.m_lines;
@@ -134,6 +164,7 @@ Property RecordText(Text label, FieldOf<CString> field) {
 
 Property RecordValueName(FieldOf<CString> field) {
     Property property = RecordText(Text::kPropValueName, field);
+    property.kind = FieldKind::kValue;
     property.check = CheckValueName;
     property.set = [field](CUIObject& object, const PropertyValue& value) {
         Writable(object, field) = CString(std::get<CString>(value)).Trim();
@@ -196,7 +227,8 @@ Property ButtonArguments() {
 }
 
 Property TrendLineNames() {
-    Property property = Row(Text::kPropTrendLines, FieldKind::kText);
+    Property property = Row(Text::kPropTrendLines, FieldKind::kValue);
+    property.names = NameUse::kSeveral;
     property.get = [](CUIObject& object) { return Join(LineNames(ExtrasOf(object))); };
     property.set = [](CUIObject& object, const PropertyValue& value) {
         SetLineNames(*EditExtras(object), Split(std::get<CString>(value)));
@@ -214,12 +246,30 @@ Property TrendLineNames() {
     return property;
 }
 
+Property TrendLineColors() {
+    Property property = Row(Text::kPropLineColors, FieldKind::kText);
+    property.applies = HasTrendLines;
+    property.get = [](CUIObject& object) { return Join(LineColors(ExtrasOf(object))); };
+    property.set = [](CUIObject& object, const PropertyValue& value) {
+        const std::vector<CString> words = Split(std::get<CString>(value));
+        auto word = words.begin();
+        for (CPrefTrendLine* line : EditExtras(object)->prefs.m_trend.m_lines)
+            line->m_nColor = word != words.end() ? LineColor(*word++) : kAutomatic;
+    };
+    property.check = [](StudioCanvas&, const PropertyValue& value) {
+        const std::vector<CString> words = Split(std::get<CString>(value));
+        const bool sound = std::all_of(words.begin(), words.end(), [](const CString& word) {
+            return IsAutomatic(word) || ParseColor(word).has_value();
+        });
+        return sound ? CString() : CString(GetText(Text::kRefuseLineColors));
+    };
+    return property;
+}
+
 Property TrendLineWidth() {
     Property property = Row(Text::kPropLineWidth, FieldKind::kNumber);
     property.range = {1.0f, 20.0f};
-    property.applies = [](const CUIObject& object) {
-        return HasExtras(object) && !ExtrasOf(object).prefs.m_trend.m_lines.empty();
-    };
+    property.applies = HasTrendLines;
     property.get = [](CUIObject& object) {
         const auto& lines = ExtrasOf(object).prefs.m_trend.m_lines;
         return lines.empty() ? 1.0f : static_cast<float>(lines.front()->m_nWidth);
@@ -232,7 +282,8 @@ Property TrendLineWidth() {
 }
 
 Property BindingRow() {
-    Property property = Row(Text::kPropBinding, FieldKind::kText);
+    Property property = Row(Text::kPropBinding, FieldKind::kValue);
+    property.names = NameUse::kFront;
     property.step = Text::kStepBinding;
     property.check = CheckBinding;
     property.get = [](CUIObject& object) { return ExtrasOf(object).binding; };

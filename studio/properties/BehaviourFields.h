@@ -25,6 +25,8 @@ Property RecordColor(Text label, FieldOf<DWORD> field);
 Property ButtonArguments();
 /// The values of a trend graph's lines in one text, with commas between them.
 Property TrendLineNames();
+/// The colours of the lines in one text: six digits or "auto" each, with commas between them.
+Property TrendLineColors();
 /// The width of all lines of a trend graph.
 Property TrendLineWidth();
 

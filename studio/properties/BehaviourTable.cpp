@@ -257,6 +257,7 @@ std::vector<Property> TrendFields() {
                 Choices({Text::kTrendPoints, Text::kTrendLine, Text::kTrendSteps, Text::kTrendAreas}),
                 &R::m_nType)
         .Add(TrendLineNames())
+        .Add(TrendLineColors())
         .Add(TrendLineWidth())
         .Number(Text::kPropTimeSpan, {1.0f, 86400.0f}, &R::m_nTimeSpan)
         .Pair(Text::kPropDivisions, {1.0f, 100.0f}, &R::m_nTimeDivisions, &R::m_nValueDivisions)

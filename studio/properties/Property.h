@@ -35,6 +35,7 @@ enum class FieldKind {
     kText,     // CString, in one line
     kCaption,  // CString, in several lines
     kFile,     // CString, a path with a button that asks for it
+    kValue,    // CString, names of the device's values, with a button that lists them
     kNumber,   // float
     kChoice,   // int or CString, one of `Property::choices`
     kColor,    // ColorParts
@@ -46,6 +47,13 @@ enum class FieldKind {
 struct Choice {
     PropertyValue value;
     CString text;
+};
+
+/// What an editor of value names takes from the list.
+enum class NameUse {
+    kWhole,    // one name
+    kFront,    // one name, or the front part that several share: "out1.peq"
+    kSeveral,  // names with commas between them
 };
 
 /// What a number may be.
@@ -71,6 +79,7 @@ struct Property {
     /// The values of a choice, asked for when its editor is made.
     std::function<std::vector<Choice>()> choices = {};
     NumberRange range = {0.0f, 0.0f};
+    NameUse names = NameUse::kWhole;
     /// What stands within the editor: "X" before a number, the text of a check mark, the letter of a toggle.
     CString inside = {};
     /// The editor stands in the row of the property before it, whose label counts for both.

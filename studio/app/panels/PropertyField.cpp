@@ -113,6 +113,8 @@ std::unique_ptr<PropertyField> MakeField(PropertyHost& host, const Property& pro
             return std::make_unique<TextField>(host, property);
         case FieldKind::kFile:
             return std::make_unique<FileField>(host, property);
+        case FieldKind::kValue:
+            return std::make_unique<ValueField>(host, property);
         case FieldKind::kCaption:
             return std::make_unique<CaptionField>(host, property);
         case FieldKind::kNumber:

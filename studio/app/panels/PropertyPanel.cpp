@@ -4,6 +4,9 @@
 #include "studio/editing/StudioCanvas.h"
 #include "studio/properties/PropertyTable.h"
 
+#include <algorithm>
+#include <bit>
+
 namespace Studio {
 
 namespace {
@@ -156,6 +159,7 @@ void PropertyPanel::Refresh() {
     StudioCanvas* page = m_owner.PropertyPage();
     static const Lumo::CUIObjectDeque none;
     const Lumo::CUIObjectDeque& objects = page ? page->m_selection : none;
+    FollowSelection(objects);
     ForEachRow([&](Section& section, Row& row) {
         for (auto& field : row.fields) {
             if (section.header.IsOpen() && field.get() != m_chooser)
@@ -167,6 +171,19 @@ void PropertyPanel::Refresh() {
     // A field that cannot be used any more has lost the focus to nobody.
     if (hadFocus && !FocusedField())
         LeaveToPage();
+}
+
+// Another selection shows the first behaviour that it has; one without any, what was shown before.
+void PropertyPanel::FollowSelection(const Lumo::CUIObjectDeque& objects) {
+    if (std::equal(objects.begin(), objects.end(), m_chosenFor.begin(), m_chosenFor.end()))
+        return;
+    m_chosenFor.assign(objects.begin(), objects.end());
+    const DWORD on = BehavioursOf(objects);
+    if (!on || on >> static_cast<int>(m_behaviour) & 1)
+        return;
+    m_behaviour = static_cast<Behaviour>(std::countr_zero(on));
+    BuildBehaviourRows();
+    LayOut();
 }
 
 void PropertyPanel::RefreshChooser() {

@@ -85,6 +85,7 @@ private:
     bool BuildBehaviourRows();
     PropertyField* AddField(Section& section, const Property& property);
     void ChooseBehaviour(int behaviour);
+    void FollowSelection(const Lumo::CUIObjectDeque& objects);
     void RefreshChooser();
     void RefreshTitle();
     void FadeNote();
@@ -111,6 +112,7 @@ private:
     Property m_chooserProperty;
     ChoiceField* m_chooser = nullptr;
     Behaviour m_behaviour = Behaviour::kBlink;
+    std::vector<const Lumo::CUIObject*> m_chosenFor;  // the selection the behaviour was chosen for
     DWORD m_behavioursOn = 0;
     RefusalNote m_note;
     PropertyField* m_refused = nullptr;

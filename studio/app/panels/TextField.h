@@ -1,4 +1,4 @@
-// Fields for one line of text and for the path of a file.
+// Fields for one line of text, for the path of a file and for names of values.
 #pragma once
 
 #include "studio/app/panels/EditField.h"
@@ -15,10 +15,12 @@ protected:
     std::optional<PropertyValue> Parse(const CString& text, CString&) const override { return text; }
 };
 
-/// A path, with a button that asks for a picture file.
-class FileField : public TextField {
+/// One line of text with a button that helps to find it; Enter on the button presses it.
+class AidedField : public TextField {
 public:
     using TextField::TextField;
+
+    bool OnKey(UINT key) override;
 
 protected:
     DECLARE_MESSAGE_MAP()
@@ -28,10 +30,37 @@ protected:
     void LayOut(const CRect& client) override;
     CRect EditRoom(const CRect& client) const override;
 
+    /// Asks for a text and writes it.
+    virtual void Assist() = 0;
+    /// Draws what stands on the button.
+    virtual void DrawFace(CDC& dc, const CRect& rect, DWORD color) const = 0;
+
 private:
-    void AskForFile();
+    void Press();
 
     CButton m_button;
+};
+
+/// A path, with a button that asks for a picture file.
+class FileField : public AidedField {
+public:
+    using AidedField::AidedField;
+
+protected:
+    void Assist() override;
+    void DrawFace(CDC& dc, const CRect& rect, DWORD color) const override;
+};
+
+/// Names of values, with a button that opens a menu of all that the device has; the arrow down opens it too.
+class ValueField : public AidedField {
+public:
+    using AidedField::AidedField;
+
+    bool OnKey(UINT key) override;
+
+protected:
+    void Assist() override;
+    void DrawFace(CDC& dc, const CRect& rect, DWORD color) const override;
 };
 
 }  // namespace Studio
