@@ -16,10 +16,7 @@ struct StudioDocument::AbsentPage {
     AbsentPage() = default;
     AbsentPage(const AbsentPage&) = delete;
     AbsentPage& operator=(const AbsentPage&) = delete;
-    ~AbsentPage() {
-        for (Lumo::CUIObject* object : objects)
-            ReleaseObject(object);
-    }
+    ~AbsentPage() { ReleaseObjects(objects); }
 };
 
 int StudioDocument::IndexOf(const Lumo::CUICanvas* canvas) const {

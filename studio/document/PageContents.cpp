@@ -19,6 +19,8 @@ void Require(bool sound) {
 }
 
 Text ReasonOf(const CFileException& e) {
+    if (e.m_lOsError == ERROR_INVALID_NAME || e.m_lOsError == ERROR_FILENAME_EXCED_RANGE)
+        return Text::kFaultName;
     switch (e.m_cause) {
         case CFileException::fileNotFound:
         case CFileException::badPath:
@@ -85,6 +87,13 @@ void WriteContents(const DocumentContents& contents, const CString& path) {
             StorePage(ar, page.name, ListOf(page));
         StoreEnd(ar);
     });
+}
+
+PageContents::~PageContents() {
+    Lumo::CUIObjectDeque doomed;
+    for (ObjectPtr& object : objects)
+        doomed.push_back(object.release());
+    ReleaseObjects(doomed);
 }
 
 Lumo::CUIObjectDeque ListOf(const PageContents& page) {

@@ -14,6 +14,12 @@ namespace Studio {
 struct PageContents {
     CString name;
     std::vector<ObjectPtr> objects;
+
+    PageContents() = default;
+    PageContents(PageContents&&) = default;
+    PageContents& operator=(PageContents&&) = default;
+    /// Destroys the objects that are still here.
+    ~PageContents();
 };
 
 /// All pages and the index of the one that is shown first.

@@ -48,10 +48,10 @@ void StudioCanvas::OnPaint() {
     if (part.IsRectEmpty())
         return;
     ClientToDoc(part);
-    m_picture.Begin(part, kGround);
-    if (m_nMode != Lumo::CM_RUNNING && PageGrid().shown)
-        PaintGrid(m_picture, part, PageGrid().step);
-    PaintObjects(part);
+    if (m_lifted.empty())
+        PaintObjects(part);
+    else
+        PaintLifted(part);
     m_picture.Show(dc.m_hDC, m_origin);
     // The paint wiped the band inside the update region, which the context is clipped to.
     if (m_band) {
@@ -62,7 +62,14 @@ void StudioCanvas::OnPaint() {
     }
 }
 
+void StudioCanvas::PaintGround(PageBitmap& picture, const CRect& part) const {
+    picture.Begin(part, kGround);
+    if (m_nMode != Lumo::CM_RUNNING && PageGrid().shown)
+        PaintGrid(picture, part, PageGrid().step);
+}
+
 void StudioCanvas::PaintObjects(const CRect& part) {
+    PaintGround(m_picture, part);
     CRect wide = part;
     wide.InflateRect(1, 1);
     const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(wide));
@@ -74,9 +81,43 @@ void StudioCanvas::PaintObjects(const CRect& part) {
         return;
     }
     graphics.reset();
+    FrameSelection();
+}
+
+void StudioCanvas::FrameSelection() {
     for (CUIObject* object : m_selection)
         m_picture.DottedFrame(Lumo::RectAtlFromGdi(Lumo::Normalised(object->GetPosition())), kFrameLight,
                               kFrameDark);
+}
+
+void StudioCanvas::LiftSelection(bool lift) {
+    constexpr size_t kMostDrawn = 200;
+    const bool was = !m_lifted.empty();
+    m_lifted.clear();
+    m_restArea.SetRectEmpty();
+    if (lift && m_selection.size() > kMostDrawn)
+        m_lifted.insert(m_selection.begin(), m_selection.end());
+    if (was || !m_lifted.empty())
+        InvalidateAll(m_selection);
+}
+
+// The rest of the page stays as it is: it is drawn once.
+void StudioCanvas::PaintLifted(const CRect& part) {
+    CRect view;
+    GetClientRect(view);
+    ClientToDoc(view);
+    if (view != m_restArea) {
+        m_restArea = view;
+        PaintGround(m_rest, view);
+        const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(view));
+        const auto graphics = m_rest.MakeGraphics();
+        for (CUIObject* object : *Objects()) {
+            if (object && !object->GetRemoved() && !m_lifted.count(object))
+                object->Draw(graphics.get());
+        }
+    }
+    m_picture.Begin(part, m_rest);
+    FrameSelection();
 }
 
 void StudioCanvas::ShowBand(CPoint from, CPoint to) {

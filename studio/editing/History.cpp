@@ -82,9 +82,7 @@ void History::RefreshModified() {
 
 void History::Clear() {
     m_open.reset();
-    // The youngest first: it may hold what an older one refers to.
-    while (!m_steps.empty())
-        m_steps.pop_back();
+    DropSteps(0);
     m_done = m_saved = 0;
     m_document.SetModifiedFlag(0);
 }
@@ -118,11 +116,21 @@ void History::Close() {
     RefreshModified();
 }
 
+// The objects of all steps go at once: one after the other, each would be looked for on every page. The
+// youngest step is the first to go: it may hold what an older one refers to.
+void History::DropSteps(size_t kept) {
+    CUIObjectDeque orphans;
+    for (size_t i = kept; i < m_steps.size(); ++i)
+        m_steps[i]->TakeOrphans(orphans);
+    m_document.ClearObject(&orphans);
+    while (m_steps.size() > kept)
+        m_steps.pop_back();
+}
+
 void History::Record(std::unique_ptr<HistoryStep> step) {
     if (m_saved != kNever && m_saved > m_done)
         m_saved = kNever;
-    while (m_steps.size() > m_done)
-        m_steps.pop_back();
+    DropSteps(m_done);
     if (m_mayMerge && m_done > 0 && m_done != m_saved && m_steps.back()->CanAbsorb(*step)) {
         m_steps.back()->Absorb(*step);
     } else {

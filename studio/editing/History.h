@@ -66,6 +66,7 @@ private:
     bool Travel(bool forward);
     void Replay(HistoryStep& step, bool forward);
     void Record(std::unique_ptr<HistoryStep> step);
+    void DropSteps(size_t kept);
     void RefreshModified();
 
     Lumo::CUIDocument& m_document;

@@ -94,6 +94,13 @@ HistoryStep::~HistoryStep() {
         m_document.ClearObject(&orphans);
 }
 
+void HistoryStep::TakeOrphans(CUIObjectDeque& to) {
+    const CUIObjectDeque orphans = Orphans();
+    to.insert(to.end(), orphans.begin(), orphans.end());
+    for (Change& change : m_changes)
+        change.list = {};
+}
+
 // Objects that stand in no list on this side of the step: those that went and did not come elsewhere, or the
 // other way round. Objects that changed from the page to a group or back are still held.
 CUIObjectDeque HistoryStep::Orphans() const {

@@ -22,7 +22,7 @@ using ObjectState = std::variant<Geometry, std::vector<BYTE>>;
 class HistoryStep {
 public:
     HistoryStep(Lumo::CUIDocument& document, StudioCanvas& page, Text name, DWORD mergeKey);
-    /// Destroys the objects that nothing but this step holds.
+    /// Destroys the objects that nothing but this step holds, unless they were taken.
     ~HistoryStep();
     HistoryStep(const HistoryStep&) = delete;
     HistoryStep& operator=(const HistoryStep&) = delete;
@@ -44,6 +44,9 @@ public:
     bool CanAbsorb(const HistoryStep& next) const;
     /// Takes over what `next` led to; `next` is to be thrown away.
     void Absorb(HistoryStep& next);
+
+    /// Gives away the objects that nothing but this step holds; it can only be thrown away afterwards.
+    void TakeOrphans(Lumo::CUIObjectDeque& to);
 
     /// Selects on the step's page what was selected after (`forward`) or before the step.
     void RestoreSelection(bool forward);

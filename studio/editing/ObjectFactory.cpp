@@ -96,10 +96,14 @@ ObjectClass ClassOfKind(Lumo::DrawShape kind) {
 void ReleaseObject(CUIObject* object) {
     if (!object)
         return;
+    Lumo::CUIObjectDeque doomed{object};
+    ReleaseObjects(doomed);
+}
+
+void ReleaseObjects(Lumo::CUIObjectDeque& objects) {
     // A group's Release keeps the group itself; the document's own way of clearing a list ends both kinds.
     Lumo::CUIDocument loose;
-    Lumo::CUIObjectDeque doomed{object};
-    loose.ClearObject(&doomed);
+    loose.ClearObject(&objects);
 }
 
 ObjectClass ClassOf(const CUIObject& object) {

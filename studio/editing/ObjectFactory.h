@@ -1,6 +1,7 @@
 // The classes of objects that Studio makes, and how a new one looks.
 #pragma once
 
+#include "core/UIDocument.h"
 #include "core/UIObject.h"
 
 #include <memory>
@@ -36,6 +37,8 @@ constexpr bool IsControl(Lumo::DrawShape kind) {
 
 /// Destroys an object that is in no page list, a group with its children.
 void ReleaseObject(Lumo::CUIObject* object);
+/// Destroys many of them at once, and empties the list: one by one each would be looked for on every page.
+void ReleaseObjects(Lumo::CUIObjectDeque& objects);
 
 struct ObjectReleaser {
     void operator()(Lumo::CUIObject* object) const { ReleaseObject(object); }

@@ -14,8 +14,26 @@ void PageBitmap::Begin(const CRect& part, DWORD ground) {
     m_part = part;
     m_width = static_cast<size_t>(part.Width());
     m_pixels.assign(m_width * static_cast<size_t>(part.Height()), ground);
+    Wrap();
+}
+
+void PageBitmap::Begin(const CRect& part, const PageBitmap& other) {
+    m_part = part;
+    m_width = static_cast<size_t>(part.Width());
+    m_pixels.resize(m_width * static_cast<size_t>(part.Height()));
+    const DWORD* row = other.m_pixels.data() +
+                       static_cast<size_t>(part.top - other.m_part.top) * other.m_width +
+                       (part.left - other.m_part.left);
+    for (DWORD* to = m_pixels.data(); to != m_pixels.data() + m_pixels.size(); to += m_width) {
+        std::copy_n(row, m_width, to);
+        row += other.m_width;
+    }
+    Wrap();
+}
+
+void PageBitmap::Wrap() {
     m_bitmap = std::make_unique<Gdiplus::Bitmap>(
-        part.Width(), part.Height(), static_cast<INT>(m_width * sizeof(DWORD)), PixelFormat32bppPARGB,
+        m_part.Width(), m_part.Height(), static_cast<INT>(m_width * sizeof(DWORD)), PixelFormat32bppPARGB,
         reinterpret_cast<BYTE*>(m_pixels.data()));
 }
 
@@ -49,8 +67,8 @@ void PageBitmap::Show(HDC dc, CPoint origin) const {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
-    ::SetDIBitsToDevice(dc, m_part.left - origin.x, m_part.top - origin.y, m_part.Width(), m_part.Height(), 0, 0, 0,
-                        m_part.Height(), m_pixels.data(), &info, DIB_RGB_COLORS);
+    ::SetDIBitsToDevice(dc, m_part.left - origin.x, m_part.top - origin.y, m_part.Width(), m_part.Height(), 0,
+                        0, 0, m_part.Height(), m_pixels.data(), &info, DIB_RGB_COLORS);
 }
 
 }  // namespace Studio

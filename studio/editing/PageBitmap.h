@@ -15,6 +15,9 @@ public:
     /// Starts a picture of `part` (page units, not empty) in one colour (opaque ARGB).
     void Begin(const CRect& part, DWORD ground);
 
+    /// Starts a picture of `part` with what `other`, which covers it, shows there.
+    void Begin(const CRect& part, const PageBitmap& other);
+
     /// Graphics over the picture in page units, clipped to it. Valid until the next `Begin`.
     std::unique_ptr<Gdiplus::Graphics> MakeGraphics();
 
@@ -30,6 +33,8 @@ public:
     void Show(HDC dc, CPoint origin) const;
 
 private:
+    void Wrap();
+
     CRect m_part;
     size_t m_width = 0;
     std::vector<DWORD> m_pixels;

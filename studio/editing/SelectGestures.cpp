@@ -43,9 +43,11 @@ void SelectionGesture::BeginMove() {
         return;
     m_edit.emplace(m_page, m_name);
     m_edit->TouchPlace(m_objects);
+    m_page.LiftSelection(true);
 }
 
 void SelectionGesture::Finish() {
+    m_page.LiftSelection(false);
     m_edit.reset();
 }
 
@@ -56,6 +58,7 @@ bool SelectionGesture::Release(CPoint at, UINT flags) {
 }
 
 void SelectionGesture::Cancel() {
+    m_page.LiftSelection(false);
     if (m_edit)
         m_edit->Cancel();
     m_edit.reset();

@@ -30,7 +30,10 @@ bool HasNamedChild(CUIObject* object, const CString& name) {
         return false;
     const auto& children = static_cast<Lumo::CUIObjectList*>(object)->GetChildren();
     return std::any_of(children.begin(), children.end(), [&](CUIObject* child) {
-        return child->GetShapeName().CompareNoCase(name) == 0 || HasNamedChild(child, name);
+        const CString& other = child->GetShapeName();
+        // Most names differ in length, which spares them the comparison without case.
+        return (other.GetLength() == name.GetLength() && other.CompareNoCase(name) == 0) ||
+               HasNamedChild(child, name);
     });
 }
 

@@ -110,6 +110,10 @@ public:
     /// Repaints a rectangle in page units.
     void InvalidatePage(const Gdiplus::RectF& rect);
 
+    /// While the selection is dragged (`lift`), of many objects only the outlines are painted: drawing them
+    /// all at every step would take seconds.
+    void LiftSelection(bool lift);
+
     /// Draws the selection band from `from` to `to` instead of the one that is there.
     void ShowBand(CPoint from, CPoint to);
     void HideBand();
@@ -151,7 +155,10 @@ private:
     void UpdateScrollBars();
     int ScrolledBy(int bar, UINT code, int now);
     void FollowPointer(CPoint at);
+    void PaintGround(PageBitmap& picture, const CRect& part) const;
     void PaintObjects(const CRect& part);
+    void PaintLifted(const CRect& part);
+    void FrameSelection();
     void EndGesture();
     void KeepTypedText(Lumo::CUIObject& object, HWND editor);
     void NameUniquely(Lumo::CUIObject& object);
@@ -172,6 +179,9 @@ private:
     bool m_barsRequested = false;
     bool m_updatingBars = false;
     PageBitmap m_picture;
+    std::unordered_set<Lumo::CUIObject*> m_lifted;
+    PageBitmap m_rest;  // what `m_restArea` shows without what is lifted
+    CRect m_restArea;
     bool m_band = false;
     CPoint m_bandFrom;
     CPoint m_bandTo;

@@ -14,6 +14,21 @@ const Lumo::CUIObjectList* AsGroup(const CUIObject& object) {
                                                    : nullptr;
 }
 
+// Names that differ only in case have the same key. Comparing them without one would ask the system's tables
+// for every letter.
+std::wstring KeyOf(const CString& name) {
+    std::wstring key(name.GetString(), static_cast<size_t>(name.GetLength()));
+    bool plain = true;
+    for (wchar_t& c : key) {
+        plain = plain && c < 0x80;
+        if (c >= L'A' && c <= L'Z')
+            c = static_cast<wchar_t>(c + (L'a' - L'A'));
+    }
+    if (!plain)
+        ::CharLowerBuff(key.data(), static_cast<DWORD>(key.size()));
+    return key;
+}
+
 CString WithoutNumber(const CString& name) {
     int length = name.GetLength();
     while (length > 0 && name[length - 1] >= L'0' && name[length - 1] <= L'9')
@@ -34,7 +49,7 @@ UniqueNames::UniqueNames(const StudioCanvas& page) {
 }
 
 void UniqueNames::Collect(const CUIObject& object) {
-    m_names.insert(object.GetShapeName());
+    m_names.insert(KeyOf(object.GetShapeName()));
     if (const auto* group = AsGroup(object)) {
         for (const CUIObject* child : group->GetChildren())
             Collect(*child);
@@ -42,21 +57,21 @@ void UniqueNames::Collect(const CUIObject& object) {
 }
 
 CString UniqueNames::FreeName(const CString& wanted) {
-    if (!wanted.IsEmpty() && !m_names.count(wanted))
+    if (!wanted.IsEmpty() && !m_names.count(KeyOf(wanted)))
         return wanted;
     const CString stem = WithoutNumber(wanted);
-    int& number = m_lastNumbers[stem];
+    int& number = m_lastNumbers[KeyOf(stem)];
     CString name;
     do
         name.Format(L"%s%d", stem.GetString(), ++number);
-    while (m_names.count(name));
+    while (m_names.count(KeyOf(name)));
     return name;
 }
 
 void UniqueNames::Adopt(CUIObject& object) {
     const CString name = FreeName(object.GetShapeName());
     object.SetShapeName(name);
-    m_names.insert(name);
+    m_names.insert(KeyOf(name));
     if (const auto* group = AsGroup(object)) {
         for (CUIObject* child : group->GetChildren())
             Adopt(*child);

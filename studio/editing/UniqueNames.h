@@ -3,8 +3,9 @@
 
 #include "studio/editing/StudioCanvas.h"
 
-#include <map>
-#include <set>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
 
 namespace Studio {
 
@@ -19,15 +20,12 @@ public:
     void Adopt(Lumo::CUIObject& object);
 
 private:
-    struct IgnoringCase {
-        bool operator()(const CString& a, const CString& b) const { return a.CompareNoCase(b) < 0; }
-    };
-
     void Collect(const Lumo::CUIObject& object);
     CString FreeName(const CString& wanted);
 
-    std::set<CString, IgnoringCase> m_names;
-    std::map<CString, int, IgnoringCase> m_lastNumbers;  // by the name without its number
+    // By `KeyOf` the name.
+    std::unordered_set<std::wstring> m_names;
+    std::unordered_map<std::wstring, int> m_lastNumbers;  // by the name without its number
 };
 
 }  // namespace Studio
