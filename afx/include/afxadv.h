@@ -28,5 +28,5 @@ protected:
     void Free(BYTE* lpMem) override;
 
     UINT m_nAllocFlags;
-    HGLOBAL m_hGlobalMemory;
+    HGLOBAL m_hGlobalMemory = nullptr;
 };

@@ -41,7 +41,7 @@ public:
     HINSTANCE m_hInstance = nullptr;
     LPTSTR m_lpCmdLine = nullptr;  ///< command line without the program's name
     int m_nCmdShow = SW_SHOWNORMAL;
-    LPCTSTR m_pszAppName;  ///< given to the constructor, else the title resource or the file's name
+    LPCTSTR m_pszAppName = nullptr;  ///< given to the constructor, else the title resource or the file's name
     LPCTSTR m_pszExeName = nullptr;
 
     virtual BOOL InitApplication() { return TRUE; }
@@ -67,7 +67,7 @@ private:
     CString m_strExeName;
 
     void SetInstance(HINSTANCE hInstance, LPTSTR lpCmdLine, int nCmdShow);
-    friend BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
+    friend AFX_API_EXPORT BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
 
 protected:
     DECLARE_MESSAGE_MAP()

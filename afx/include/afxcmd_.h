@@ -10,7 +10,7 @@ class CMenu;
 class CWnd;
 
 /// The form in which a message map keeps every handler; the entry's signature tells what it really is.
-typedef void (CCmdTarget::*AFX_PMSG)();
+using AFX_PMSG = void (CCmdTarget::*)();
 
 /// Turns a type-checked handler into the form kept in a message map.
 template <class Handler>
@@ -146,14 +146,14 @@ public:
     CCmdUI();
     virtual ~CCmdUI() = default;
 
-    UINT m_nID;         ///< command identifier
-    UINT m_nIndex;      ///< position in the menu or pane number
-    CMenu* m_pMenu;     ///< menu that holds the item, or null
-    CMenu* m_pSubMenu;  ///< popup below the item, or null
-    CWnd* m_pOther;     ///< control or bar, when it is no menu
-    BOOL m_bEnableChanged;
-    BOOL m_bContinueRouting;
-    UINT m_nIndexMax;  ///< number of items or panes
+    UINT m_nID = 0;               ///< command identifier
+    UINT m_nIndex = 0;            ///< position in the menu or pane number
+    CMenu* m_pMenu = nullptr;     ///< menu that holds the item, or null
+    CMenu* m_pSubMenu = nullptr;  ///< popup below the item, or null
+    CWnd* m_pOther = nullptr;     ///< control or bar, when it is no menu
+    BOOL m_bEnableChanged = FALSE;
+    BOOL m_bContinueRouting = FALSE;
+    UINT m_nIndexMax = 0;  ///< number of items or panes
 
     virtual void Enable(BOOL bOn = TRUE);
     virtual void SetCheck(int nCheck = 1);  ///< 0 off, 1 on, 2 undetermined (shown as on in menus)

@@ -72,10 +72,10 @@ private:
     void FreeNode(CNode* node);
     POSITION Link(CNode* before, CNode* after, const CString& text);
 
-    CNode* m_pNodeHead;
-    CNode* m_pNodeTail;
-    INT_PTR m_nCount;
-    CNode* m_pNodeFree;
-    CBlock* m_pBlocks;
+    CNode* m_pNodeHead = nullptr;
+    CNode* m_pNodeTail = nullptr;
+    INT_PTR m_nCount = 0;
+    CNode* m_pNodeFree = nullptr;
+    CBlock* m_pBlocks = nullptr;
     INT_PTR m_nBlockSize;
 };

@@ -12,7 +12,7 @@ public:
     CMenu();
     ~CMenu() override;
 
-    HMENU m_hMenu;  ///< the handle, null when there is none
+    HMENU m_hMenu = nullptr;  ///< the handle, null when there is none
 
     operator HMENU() const { return m_hMenu; }
     HMENU GetSafeHmenu() const { return m_hMenu; }

@@ -48,8 +48,8 @@ private:
     OPENFILENAME m_openFileName{};
     CString m_strFilter;
     CString m_strDefExt;
-    TCHAR m_szFileName[4096];
-    TCHAR m_szFileTitle[MAX_PATH];
+    TCHAR m_szFileName[4096] = {};
+    TCHAR m_szFileTitle[MAX_PATH] = {};
 
     bool ShowItemDialog(INT_PTR& result);
     void Configure(IFileDialog* dialog);

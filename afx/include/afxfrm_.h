@@ -20,10 +20,10 @@ public:
                         CCreateContext* pContext = nullptr);
     /// Loads the accelerators that PreTranslateMessage translates; false when they are not found.
     BOOL LoadAccelTable(LPCTSTR lpszResourceName);
-    HACCEL m_hAccelTable;  ///< a table made otherwise may be put here; not destroyed with the frame
+    HACCEL m_hAccelTable = nullptr;  ///< a table made otherwise may be put here; not destroyed with the frame
 
-    BOOL m_bAutoMenuEnable;  ///< greys menu items that have no handler (the default)
-    BOOL m_bHelpMode;        ///< the frame waits for a click on what help is wanted for
+    BOOL m_bAutoMenuEnable = TRUE;  ///< greys menu items that have no handler (the default)
+    BOOL m_bHelpMode = FALSE;       ///< the frame waits for a click on what help is wanted for
 
     /// Disables the thread's other top-level windows until EndModalState; nests.
     virtual void BeginModalState();
@@ -49,7 +49,7 @@ protected:
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
-    UINT m_cModalStack;
+    UINT m_cModalStack = 0;
 
 private:
     struct ModalState;

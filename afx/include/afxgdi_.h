@@ -17,7 +17,7 @@ public:
     CGdiObject();
     ~CGdiObject() override;
 
-    HGDIOBJ m_hObject;  ///< the handle, null when there is none
+    HGDIOBJ m_hObject = nullptr;  ///< the handle, null when there is none
 
     operator HGDIOBJ() const { return m_hObject; }
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
@@ -154,9 +154,9 @@ public:
     CDC();
     ~CDC() override;
 
-    HDC m_hDC;
-    HDC m_hAttribDC;
-    BOOL m_bPrinting;
+    HDC m_hDC = nullptr;
+    HDC m_hAttribDC = nullptr;
+    BOOL m_bPrinting = FALSE;
 
     operator HDC() const { return m_hDC; }
     HDC GetSafeHdc() const { return m_hDC; }

@@ -65,6 +65,7 @@ public:                                           \
     DECLARE_DYNAMIC(class_name)       \
     static CObject* PASCAL CreateObject();
 
+// NOLINTBEGIN(bugprone-macro-parentheses): the arguments are names of classes
 // The base is asked for by a function, not by an address: the address of data in another DLL is no constant.
 #define IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, pfnNew)                            \
     CRuntimeClass* PASCAL class_name::_GetBaseClass() {                                                 \
@@ -91,6 +92,7 @@ public:                                           \
 /// `object` as a `class_name*` when it is of that class, else null.
 #define DYNAMIC_DOWNCAST(class_name, object) \
     (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+// NOLINTEND(bugprone-macro-parentheses)
 
 /// `pObject` when it is of the class `pClass`, else null; null stays null.
 AFX_API_EXPORT CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);

@@ -35,5 +35,5 @@ public:
     BOOL CreateItem(COleClientItem* pItem);
 
 protected:
-    TCHAR m_szFileName[MAX_PATH];
+    TCHAR m_szFileName[MAX_PATH] = {};
 };

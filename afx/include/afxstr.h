@@ -54,6 +54,7 @@ public:
     explicit CString(wchar_t ch, int nRepeat = 1);
     ~CString() { Drop(m_pszData); }
 
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): the text is shared before the old one is dropped
     CString& operator=(const CString& other) noexcept {
         wchar_t* old = m_pszData;
         m_pszData = Share(other.m_pszData);

@@ -307,7 +307,7 @@ protected:
 private:
     explicit CWnd(HWND hWnd);
 
-    friend LRESULT AFXAPI AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
+    friend AFX_API_EXPORT LRESULT AFXAPI AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
 };
 
 /// The procedure of every window that an object is attached to by creation or subclassing.

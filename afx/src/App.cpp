@@ -53,8 +53,7 @@ BEGIN_MESSAGE_MAP(CWinApp, CCmdTarget)
     ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
 END_MESSAGE_MAP()
 
-CWinApp::CWinApp(LPCTSTR lpszAppName)
-    : m_pszAppName(nullptr), m_strAppName(lpszAppName ? lpszAppName : _T("")) {
+CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName ? lpszAppName : _T("")) {
     if (lpszAppName)
         m_pszAppName = m_strAppName;
     m_nThreadID = ::GetCurrentThreadId();

@@ -255,7 +255,7 @@ CArchive& AFXAPI operator>>(CArchive& ar, CString& string) {
     if (ar.LoadBufferedText(string))
         return ar;
     const StoredLength length = ReadStringLength(ar);
-    const ULONGLONG buffered = ULONGLONG(ar.m_lpBufMax - ar.m_lpBufCur);
+    const auto buffered = ULONGLONG(ar.m_lpBufMax - ar.m_lpBufCur);
     // The file is only asked for what the buffer does not hold already.
     if (length.characters > buffered / length.characterSize &&
         length.characters > ar.BytesLeft() / length.characterSize)

@@ -1,14 +1,6 @@
 #include <afxwin.h>
 
-CCmdUI::CCmdUI()
-    : m_nID(0),
-      m_nIndex(0),
-      m_pMenu(nullptr),
-      m_pSubMenu(nullptr),
-      m_pOther(nullptr),
-      m_bEnableChanged(FALSE),
-      m_bContinueRouting(FALSE),
-      m_nIndexMax(0) {}
+CCmdUI::CCmdUI() = default;
 
 void CCmdUI::Enable(BOOL bOn) {
     m_bEnableChanged = TRUE;

@@ -72,9 +72,7 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
       m_bOpenFileDialog(bOpenFileDialog),
       m_bVistaStyle(bVistaStyle),
       m_strFilter(lpszFilter ? lpszFilter : _T("")),
-      m_strDefExt(lpszDefExt ? lpszDefExt : _T("")),
-      m_szFileName{},
-      m_szFileTitle{} {
+      m_strDefExt(lpszDefExt ? lpszDefExt : _T("")) {
     m_ofn.lStructSize = dwSize ? dwSize : static_cast<DWORD>(sizeof(m_openFileName));
     m_ofn.lpstrFile = m_szFileName;
     m_ofn.nMaxFile = ARRAYSIZE(m_szFileName);

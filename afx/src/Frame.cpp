@@ -20,8 +20,7 @@ END_MESSAGE_MAP()
 
 const RECT CFrameWnd::rectDefault = {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
 
-CFrameWnd::CFrameWnd()
-    : m_hAccelTable(nullptr), m_bAutoMenuEnable(TRUE), m_bHelpMode(FALSE), m_cModalStack(0) {}
+CFrameWnd::CFrameWnd() = default;
 
 CFrameWnd::~CFrameWnd() {
     delete m_pModalState;

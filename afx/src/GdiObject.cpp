@@ -32,7 +32,7 @@ IMPLEMENT_DYNAMIC(CFont, CGdiObject)
 IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
 IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
 
-CGdiObject::CGdiObject() : m_hObject(nullptr) {}
+CGdiObject::CGdiObject() = default;
 
 CGdiObject::~CGdiObject() {
     DeleteObject();

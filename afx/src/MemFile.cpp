@@ -135,7 +135,7 @@ void CMemFile::GrowFile(SIZE_T dwNewLen) {
 }
 
 CSharedFile::CSharedFile(UINT nAllocFlags, UINT nGrowBytes)
-    : CMemFile(nGrowBytes), m_nAllocFlags(nAllocFlags | GMEM_ZEROINIT), m_hGlobalMemory(nullptr) {}
+    : CMemFile(nGrowBytes), m_nAllocFlags(nAllocFlags | GMEM_ZEROINIT) {}
 
 CSharedFile::~CSharedFile() {
     CSharedFile::Close();

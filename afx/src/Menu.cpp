@@ -10,7 +10,7 @@ PermanentMap<CMenu> permanentMenus;
 
 IMPLEMENT_DYNCREATE(CMenu, CObject)
 
-CMenu::CMenu() : m_hMenu(nullptr) {}
+CMenu::CMenu() = default;
 
 CMenu::~CMenu() {
     DestroyMenu();

@@ -3,8 +3,7 @@
 IMPLEMENT_DYNAMIC(COleDialog, CCommonDialog)
 IMPLEMENT_DYNAMIC(COleInsertDialog, COleDialog)
 
-COleInsertDialog::COleInsertDialog(DWORD dwFlags, CWnd* pParentWnd)
-    : COleDialog(pParentWnd), m_io{}, m_szFileName{} {
+COleInsertDialog::COleInsertDialog(DWORD dwFlags, CWnd* pParentWnd) : COleDialog(pParentWnd), m_io{} {
     m_io.cbStruct = sizeof(m_io);
     m_io.dwFlags = dwFlags;
     m_io.lpszFile = m_szFileName;

@@ -12,13 +12,7 @@ struct CStringList::CBlock {
     std::unique_ptr<CNode[]> nodes;
 };
 
-CStringList::CStringList(INT_PTR nBlockSize)
-    : m_pNodeHead(nullptr),
-      m_pNodeTail(nullptr),
-      m_nCount(0),
-      m_pNodeFree(nullptr),
-      m_pBlocks(nullptr),
-      m_nBlockSize(std::max<INT_PTR>(nBlockSize, 1)) {}
+CStringList::CStringList(INT_PTR nBlockSize) : m_nBlockSize(std::max<INT_PTR>(nBlockSize, 1)) {}
 
 CStringList::~CStringList() {
     RemoveAll();
