@@ -3,6 +3,8 @@
 
 #include "appearance/UIShapeFormat.h"
 
+#include <utility>
+
 namespace Lumo {
 
 /// Held by value in every object, copied and archived as a whole. Setters store what they are given
@@ -62,19 +64,19 @@ public:
 
     /// Replaces the text record as a whole, kind, name and enabled flag included. The setters of the other
     /// records do the same.
-    void SetShapeFormatText(CUIShapeFormatText format) { m_text = format; }
+    void SetShapeFormatText(CUIShapeFormatText format) { m_text = std::move(format); }
     /// Replaces the fill record.
-    void SetShapeFormatFill(CUIShapeFormatFill format) { m_fill = format; }
+    void SetShapeFormatFill(CUIShapeFormatFill format) { m_fill = std::move(format); }
     /// Replaces the line colour record.
-    void SetShapeFormatLineColor(CUIShapeFormatLineColor format) { m_lineColor = format; }
+    void SetShapeFormatLineColor(CUIShapeFormatLineColor format) { m_lineColor = std::move(format); }
     /// Replaces the line style record.
-    void SetShapeFormatLineStyle(CUIShapeFormatLineStyle format) { m_lineStyle = format; }
+    void SetShapeFormatLineStyle(CUIShapeFormatLineStyle format) { m_lineStyle = std::move(format); }
     /// Replaces the scale record.
-    void SetShapeFormatScale(CUIShapeFormatScale format) { m_scale = format; }
+    void SetShapeFormatScale(CUIShapeFormatScale format) { m_scale = std::move(format); }
     /// Replaces the position record.
-    void SetShapeFormatPosition(CUIShapeFormatPosition format) { m_position = format; }
+    void SetShapeFormatPosition(CUIShapeFormatPosition format) { m_position = std::move(format); }
     /// Replaces the shadow record. Kept: the transposed letters belong to the exported name.
-    void SetShpaeFormatShadow(CUIShapeFormatShadow format) { m_shadow = format; }
+    void SetShpaeFormatShadow(CUIShapeFormatShadow format) { m_shadow = std::move(format); }
 
     /// Caption. An empty argument leaves the old text.
     CString GetText() const { return m_text.m_strText; }

@@ -99,7 +99,7 @@ public:
     void OnLButtonDblClk(CUICanvas* canvas, UINT flags, const CPoint& point) override;
 
     /// A `DragMode` value.
-    int m_nDragMode;
+    int m_nDragMode = kNone;
 
 private:
     bool GrabSelected(CUIObject* object);

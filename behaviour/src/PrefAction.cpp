@@ -30,6 +30,7 @@ void CPrefInput::Serialize(CArchive& ar) {
     pref::ArchiveFields(ar, *this, kInputFields);
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): a field copied onto itself stays as it is
 CPrefButton& CPrefButton::operator=(const CPrefButton& source) {
     pref::CopyFields(*this, source, kButtonFields);
     return *this;

@@ -18,6 +18,7 @@ void CPrefBase::Serialize(CArchive& ar) {
     Lumo::ArchiveFields(ar, m_strName);
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): a comparison copied onto itself stays as it is
 CPrefCondition& CPrefCondition::operator=(const CPrefCondition& source) {
     for (size_t i = 0; i < std::size(m_comparisons); ++i)
         m_comparisons[i] = source.m_comparisons[i];

@@ -31,7 +31,7 @@ void LoadLines(CArchive& ar, std::list<CPrefTrendLine*>& lines) {
         auto line = std::make_unique<CPrefTrendLine>();
         line->Serialize(ar);
         lines.push_back(line.get());
-        line.release();
+        static_cast<void>(line.release());
     }
 }
 
@@ -57,7 +57,7 @@ CPrefTrend& CPrefTrend::operator=(const CPrefTrend& source) {
             continue;
         auto copy = std::make_unique<CPrefTrendLine>(*line);
         m_lines.push_back(copy.get());
-        copy.release();
+        static_cast<void>(copy.release());
     }
     return *this;
 }

@@ -20,7 +20,8 @@ public:
     Gdiplus::Bitmap* Whole() { return &m_whole; }
     // The first pixel of a place on the page and the bytes from row to row, for a bitmap over a part of it.
     BYTE* At(const CPoint& pt) {
-        return reinterpret_cast<BYTE*>(m_memory.data()) + pt.y * Stride() + pt.x * kPixel;
+        return reinterpret_cast<BYTE*>(m_memory.data()) + ptrdiff_t{pt.y} * Stride() +
+               ptrdiff_t{pt.x} * kPixel;
     }
     int Stride() const { return m_size.cx * kPixel; }
 

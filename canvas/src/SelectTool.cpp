@@ -5,7 +5,7 @@
 
 namespace Lumo {
 
-CUISelectTool::CUISelectTool() : CUIToolBase(DS_SELECT), m_nDragMode(kNone) {}
+CUISelectTool::CUISelectTool() : CUIToolBase(DS_SELECT) {}
 
 void CUISelectTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point) {
     if (!IsCurrent(canvas))

@@ -79,9 +79,9 @@ void CUIDocument::LeaveObjects() {
 // Frees the lists that no copy of the document shares.
 void CUIDocument::FreeLists() {
     for (auto& [canvas, objects] : m_pages) {
-        const bool shared = std::any_of(Documents().begin(), Documents().end(), [&](CUIDocument* other) {
-            return other != this && other->HasList(objects);
-        });
+        const bool shared = std::any_of(
+            Documents().begin(), Documents().end(),
+            [this, list = objects](CUIDocument* other) { return other != this && other->HasList(list); });
         if (!shared)
             delete objects;
     }

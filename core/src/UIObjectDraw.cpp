@@ -51,7 +51,7 @@ void CUIObject::GetRoundRectPath(Gdiplus::GraphicsPath* path, Gdiplus::RectF rec
         diameter = TruncToInt(rect.Width);
     if (static_cast<float>(diameter) > rect.Height)
         diameter = TruncToInt(rect.Height);
-    const float d = static_cast<float>(diameter);
+    const auto d = static_cast<float>(diameter);
     path->Reset();
     path->AddArc(rect.X, rect.Y, d, d, 180.0f, 90.0f);
     float e = d;
