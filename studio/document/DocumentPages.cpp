@@ -90,8 +90,7 @@ bool StudioDocument::InsertPage(int index, CString name, std::vector<ObjectPtr> 
     if (!AttemptFile([&] { absent->page = {name, MakeCanvas()}; }, m_error))
         return false;
     for (ObjectPtr& object : objects) {
-        object->SetDocument(this);
-        object->SetCanvas(absent->page.canvas.get());
+        absent->page.canvas->Adopt(*object);
         absent->objects.push_back(object.release());
     }
     EditScope edit(*CurrentPage(), step);

@@ -114,8 +114,7 @@ void StudioDocument::Adopt(DocumentContents loaded) {
 
 void StudioDocument::FillPage(StudioCanvas& canvas, std::vector<ObjectPtr> objects) {
     for (ObjectPtr& object : objects) {
-        object->SetDocument(this);
-        object->SetCanvas(&canvas);
+        canvas.Adopt(*object);
         AppendObject(object.release(), &canvas);
     }
 }

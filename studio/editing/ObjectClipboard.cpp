@@ -202,8 +202,7 @@ void InsertObjects(StudioCanvas& page, std::vector<ObjectPtr> objects, const Poi
     for (ObjectPtr& object : objects) {
         names.Adopt(*object);
         ShiftObject(*object, offset);
-        object->SetDocument(&page.Document());
-        object->SetCanvas(&page);
+        page.Adopt(*object);
         inserted.push_back(object.get());
         page.Objects()->push_back(object.release());
     }

@@ -214,9 +214,17 @@ void StudioCanvas::KeepTypedText(CUIObject& object, HWND editor) {
     text = typed;
 }
 
+void StudioCanvas::Adopt(CUIObject& object) {
+    object.SetDocument(m_pDocument);
+    object.SetCanvas(this);
+    if (const auto* group = dynamic_cast<Lumo::CUIObjectList*>(&object)) {
+        for (CUIObject* child : group->GetChildren())
+            Adopt(*child);
+    }
+}
+
 void StudioCanvas::AddObject(CUIObject* object) {
-    object->SetDocument(m_pDocument);
-    object->SetCanvas(this);
+    Adopt(*object);
     m_pDocument->AppendObject(object, this);
     NameUniquely(*object);
     // Selecting alone leaves points mode; a figure that begins must not.

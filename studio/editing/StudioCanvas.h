@@ -95,6 +95,8 @@ public:
     /// Stores the text of an open editor and closes it.
     void EndTextEdit();
 
+    /// Sets the back pointers of an object that comes to this page, and those of its children.
+    void Adopt(Lumo::CUIObject& object);
     /// Puts an object on this page, named, with its back pointers set, and selects it alone.
     void AddObject(Lumo::CUIObject* object);
     /// Selects exactly these objects; the last of them counts as selected last.
