@@ -6,6 +6,14 @@
 
 struct CFrameWnd::ModalState {
     std::vector<HWND> disabled;
+
+    static BOOL CALLBACK Disable(HWND window, LPARAM state) {
+        if (::IsWindowVisible(window) && ::IsWindowEnabled(window)) {
+            ::EnableWindow(window, FALSE);
+            reinterpret_cast<ModalState*>(state)->disabled.push_back(window);
+        }
+        return TRUE;
+    }
 };
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
@@ -149,14 +157,8 @@ void CFrameWnd::BeginModalState() {
         return;
     delete m_pModalState;
     m_pModalState = new ModalState;
-    auto disable = [](HWND window, LPARAM data) -> BOOL {
-        if (::IsWindowVisible(window) && ::IsWindowEnabled(window)) {
-            ::EnableWindow(window, FALSE);
-            reinterpret_cast<ModalState*>(data)->disabled.push_back(window);
-        }
-        return TRUE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(m_pModalState));
+    ::EnumThreadWindows(::GetCurrentThreadId(), &ModalState::Disable,
+                        reinterpret_cast<LPARAM>(m_pModalState));
 }
 
 void CFrameWnd::EndModalState() {

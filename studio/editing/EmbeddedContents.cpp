@@ -35,7 +35,7 @@ std::vector<BYTE> LoadBytes(CArchive& ar) {
     std::vector<BYTE> bytes;
     while (bytes.size() < size) {
         const size_t had = bytes.size();
-        const size_t piece = std::min(kPiece, size - had);
+        const size_t piece = std::min<size_t>(kPiece, size - had);
         bytes.resize(had + piece);
         Require(ar.Read(bytes.data() + had, static_cast<UINT>(piece)) == piece);
     }
