@@ -3,6 +3,7 @@
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
 #include "studio/controls/Plot.h"
+#include "studio/device/Names.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,12 +24,6 @@ constexpr int kMarks[] = {6, 0, -6, -12, -18, -24, -30, -40, -50, -60};
 
 DWORD ColorOf(double decibels) {
     return decibels >= kHot ? Ink::kRed : decibels >= kWarm ? Ink::kYellow : Ink::kGreen;
-}
-
-CString Numbered(LPCWSTR format, int number) {
-    CString text;
-    text.Format(format, number);
-    return text;
 }
 
 }  // namespace
@@ -123,7 +118,7 @@ void LevelChart::Render(Picture& picture) {
         }
     }
     const int pitch = m_meters.size() < 2 ? 1 : std::max(1, m_meters[1].left - m_meters[0].left);
-    const size_t every = static_cast<size_t>(1 + 14 / pitch);
+    const size_t every = size_t{1} + 14 / pitch;
     for (size_t i = 0; i < m_meters.size(); ++i) {
         const Meter& meter = m_meters[i];
         picture.Fill(static_cast<float>(meter.left), static_cast<float>(m_top),

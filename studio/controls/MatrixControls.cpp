@@ -1,6 +1,7 @@
 #include "studio/controls/MatrixControls.h"
 
 #include "core/UIDocument.h"
+#include "studio/device/Names.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,12 +12,6 @@ namespace {
 
 constexpr double kSilent = -40.0;
 constexpr DWORD kFaint = 0xFF5D6A7D;
-
-CString Numbered(LPCWSTR format, int a, int b = 0) {
-    CString text;
-    text.Format(format, a, b);
-    return text;
-}
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "studio/document/DemoProject.h"
 
+#include "studio/device/Names.h"
 #include "studio/document/ObjectExtras.h"
 #include "studio/document/Sketch.h"
 
@@ -23,12 +24,6 @@ void DrawHead(Sketch& s, Text title, Text note) {
     // A caption begins a little inside its box, the larger its type the more.
     s.Label(RectF(17, 14, 420, 36), GetText(title), 24, kTitle, Gdiplus::StringAlignmentNear);
     s.Label(RectF(19, 48, 525, 24), GetText(note), 13, kQuiet, Gdiplus::StringAlignmentNear);
-}
-
-CString Name(LPCWSTR format, int number) {
-    CString name;
-    name.Format(format, number);
-    return name;
 }
 
 ObjectExtras& Bind(CUIObject& object, LPCWSTR value, Behaviour behaviour) {
@@ -102,8 +97,8 @@ void DrawOverview(Sketch& s) {
     s.Control(Lumo::DS_STATECROSSOVER, RectF(412, 300, 356, 168), L"out1.xover");
     for (int channel = 1; channel <= 8; ++channel)
         s.Control(Lumo::DS_BUTTONDEVICE, RectF(40.0f + static_cast<float>(channel - 1) * 92.0f, 480, 84, 58),
-                  Name(L"out%d", channel))
-            .SetText(Name(L"OUT %d", channel));
+                  Numbered(L"out%d", channel))
+            .SetText(Numbered(L"OUT %d", channel));
     DrawTrend(s, RectF(40, 550, 356, 100));
     DrawMaster(s);
 }
@@ -116,9 +111,10 @@ void DrawBack(Sketch& s) {
 void DrawChannels(Sketch& s, LPCWSTR name, int columns, const RectF& first, float stepX, float stepY) {
     for (int i = 0; i < 16; ++i) {
         RectF rect = first;
+        const int row = i / columns;
         rect.X += static_cast<float>(i % columns) * stepX;
-        rect.Y += static_cast<float>(i / columns) * stepY;
-        s.Control(Lumo::DS_BUTTONLEVEL, rect, Name(name, i + 1));
+        rect.Y += static_cast<float>(row) * stepY;
+        s.Control(Lumo::DS_BUTTONLEVEL, rect, Numbered(name, i + 1));
     }
 }
 
@@ -136,7 +132,7 @@ void DrawEqualiser(Sketch& s) {
     s.Control(Lumo::DS_STATEPEQ, RectF(536, 84, 248, 280), L"out1.peq");
     for (int band = 1; band <= 6; ++band)
         s.Control(Lumo::DS_BUTTONBAND, RectF(24.0f + static_cast<float>(band - 1) * 84.4f, 376, 78, 60),
-                  Name(L"out1.peq.%d", band));
+                  Numbered(L"out1.peq.%d", band));
     s.Control(Lumo::DS_STATEGEQ, RectF(24, 448, 500, 216), L"out1.geq");
     s.Control(Lumo::DS_STATECROSSOVER, RectF(536, 376, 248, 288), L"out1.xover");
 }
