@@ -285,7 +285,9 @@ void RunSession::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& point)
     canvas->ClientToDoc(at);
     if (!m_grabbed)
         SetHover(RunAt(at), canvas);
-    Relay(m_grabbed ? m_grabbed : m_hover, canvas, WM_MOUSEMOVE, flags, at);
+    // A button that was pressed beside everything drags nothing that it comes across.
+    const UINT own = m_grabbed ? flags : flags & ~MK_LBUTTON;
+    Relay(m_grabbed ? m_grabbed : m_hover, canvas, WM_MOUSEMOVE, own, at);
     Update();
 }
 

@@ -191,6 +191,8 @@ TEST_F(RunTest, ControlsAnswerTheMouse) {
     const double before = m_device.Get(L"in1.gain");
     Drag({60, 220}, {60, 200}, MK_LBUTTON);
     EXPECT_EQ(m_device.Get(L"in1.gain"), before + 5.0);
+    Drag({600, 290}, {60, 205}, MK_LBUTTON);  // pressed beside every control
+    EXPECT_EQ(m_device.Get(L"in1.gain"), before + 5.0);
     EXPECT_EQ(m_device.Get(L"in1.mute"), 0.0);
     Click({160, 220});  // in a group
     EXPECT_EQ(m_device.Get(L"in1.mute"), 1.0);
@@ -299,7 +301,8 @@ TEST_F(RunTest, TwoHundredLiveObjectsLeaveTimeToSpare) {
     const Lumo::DrawShape kinds[] = {Lumo::DS_CHARTLEVEL, Lumo::DS_BUTTONLEVEL, Lumo::DS_RECTANGLE,
                                      Lumo::DS_ELLIPSE, Lumo::DS_BUTTONDEVICE};
     for (int i = 0; i < 200; ++i) {
-        CUIObject* object = Add(kinds[i % 5], 49.0f * (i % 20), 68.0f * (i / 20), 45, 62);
+        const int row = i / 20;
+        CUIObject* object = Add(kinds[i % 5], 49.0f * (i % 20), 68.0f * static_cast<float>(row), 45, 62);
         object->SetText(L"x");
         CString name;
         name.Format(L"in%d", i % 16 + 1);
