@@ -134,7 +134,7 @@ public:
     /// Whether the user is dragging a tab.
     bool IsDragging() const { return m_dragging; }
 
-    /// Gives an open editor its keys before the host's accelerators get them.
+    /// Ends a drag with Escape before the host's accelerators get the key.
     BOOL PreTranslateMessage(MSG* msg) override;
 
 protected:
