@@ -43,7 +43,10 @@ install(DIRECTORY docs DESTINATION . FILES_MATCHING PATTERN "*.md" PATTERN "*.pn
 install(DIRECTORY "${CMAKE_BINARY_DIR}/api/html/" DESTINATION docs/api OPTIONAL)  # the target api_reference makes it
 install(DIRECTORY examples DESTINATION .)
 
+math(EXPR bits "8 * ${CMAKE_SIZEOF_VOID_P}")
+set(TESSEL_PACKAGE "${PROJECT_NAME}-${PROJECT_VERSION}-win${bits}")
 set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_FILE_NAME "${TESSEL_PACKAGE}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Drawing objects on canvas pages that become live controls")
 set(CPACK_STRIP_FILES ON)
 include(CPack)
