@@ -7,6 +7,8 @@
 
 #include <afxdlgs.h>
 
+#include <utility>
+
 using namespace Lumo;
 
 namespace {
@@ -139,8 +141,7 @@ public:
         Drag({500, 300}, {500, 300});  // draws nothing
         Choose(kRun);
         Drag({80, 80}, {80, 80});
-        if (!m_document->Save(file) || !m_document->Load(file) ||
-            m_document->GetCanvasObjectList()->size() != 3 ||
+        if (!m_document->Save(file) || !Open(file) || m_document->GetCanvasObjectList()->size() != 3 ||
             m_document->GetCanvasObjectList()->front()->GetFillColor() != kLit)
             return false;
         Gdiplus::Bitmap bitmap(640, 440);
@@ -169,11 +170,21 @@ private:
         if (dialog.DoModal() != IDOK)
             return;
         CString path = dialog.GetPathName();
-        if (!(open ? m_document->Load(path) : m_document->Save(path)))
+        if (!(open ? Open(path) : m_document->Save(path)))
             AfxMessageBox(path + (open ? L" cannot be opened." : L" cannot be saved."));
-        if (!m_document->GetCurrentCanvas())
-            m_document->AppendCanvas(m_page);  // nothing was in the file
-        m_page->Invalidate(FALSE);
+    }
+    // Into a new document, since the old one would be empty after a file that cannot be read.
+    bool Open(CString path) {
+        auto* document = new Document;
+        document->m_page = m_page;
+        const bool loaded = document->Load(path) && document->GetCurrentCanvas();
+        if (loaded) {
+            std::swap(m_document, document);
+            m_page->SetDocument(m_document);
+            m_page->Invalidate(FALSE);
+        }
+        document->Release();
+        return loaded;
     }
     void Drag(CPoint from, CPoint to) {
         m_page->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
