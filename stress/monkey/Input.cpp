@@ -75,7 +75,7 @@ Stroke NextStroke(Random& random) {
 
 }  // namespace
 
-void Pump(bool timers) {
+void Pump(bool idle) {
     constexpr int kMostTicks = 8;  // of timers that come faster than they are served
     const auto handle = [](UINT first, UINT last) {
         MSG message;
@@ -88,11 +88,12 @@ void Pump(bool timers) {
         return true;
     };
     const auto handleAll = [&] {
-        while (handle(0, WM_TIMER - 1) || handle(WM_TIMER + 1, 0xFFFF)) {
+        while (handle(0, WM_PAINT - 1) || handle(WM_PAINT + 1, WM_TIMER - 1) ||
+               handle(WM_TIMER + 1, 0xFFFF) || (idle && handle(WM_PAINT, WM_PAINT))) {
         }
     };
     handleAll();
-    for (int ticks = 0; timers && ticks < kMostTicks && handle(WM_TIMER, WM_TIMER); ++ticks)
+    for (int ticks = 0; idle && ticks < kMostTicks && handle(WM_TIMER, WM_TIMER); ++ticks)
         handleAll();
 }
 

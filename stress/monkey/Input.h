@@ -7,9 +7,9 @@
 
 namespace monkey {
 
-/// Handles everything that waits in the queue, timers excepted unless asked for: those come when the clock
-/// says so, and the same seed has to do the same.
-void Pump(bool timers = false);
+/// Handles what waits in the queue. What comes when there is time for it, paints and timers, is left for when `idle` is
+/// set.
+void Pump(bool idle = false);
 
 /// Sends a mouse message to a window through the queue, straight to it, or, where this program's windows are
 /// in front, as input of the system; buttons and modifiers as they were left by the messages before. The

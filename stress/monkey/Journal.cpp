@@ -14,7 +14,7 @@ namespace {
 
 constexpr DWORD kPatience = 60'000;  // milliseconds
 constexpr int kHung = 2;
-constexpr size_t kKept = 30;
+constexpr size_t kKept = 60;
 
 const char* g_subject = "";
 std::uint64_t g_seed = 0;

@@ -17,7 +17,7 @@ namespace monkey {
 
 namespace {
 
-constexpr int kThoroughEvery = 25;  // bursts
+constexpr int kThoroughEvery = 10;  // bursts
 
 class MonkeyApp : public CWinApp {
 public:

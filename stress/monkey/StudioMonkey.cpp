@@ -43,6 +43,12 @@ constexpr struct {
     {ID_APP_ABOUT, ID_APP_EXIT, 1},
 };
 
+std::string Utf8(const CString& text) {
+    char bytes[100] = "";
+    ::WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes, sizeof bytes - 1, nullptr, nullptr);
+    return bytes;
+}
+
 // Nobody who wants to hear of the pages of a document that is only loaded.
 class Silence : public CanvasListener {
     void OnCanvasState(StudioCanvas&) override {}
@@ -104,7 +110,6 @@ private:
     std::vector<BYTE> Bytes() {
         return StoredBytes([this](CArchive& ar) { Document().Serialize(ar); });
     }
-    std::vector<BYTE> BytesAfter(bool (History::*travel)());
     void CheckHistory();
     void CheckSaving();
 
@@ -283,21 +288,25 @@ void StudioMonkey::Check() {
     Require(::GetCapture() == nullptr, "moving the mouse captures it");
 }
 
-// The page that is shown is stored, too, and steps of the history show theirs.
-std::vector<BYTE> StudioMonkey::BytesAfter(bool (History::*travel)()) {
-    while ((Document().Edits().*travel)()) {
-    }
-    Document().ShowPage(0);
-    return Bytes();
-}
-
+// Every step that is undone and made again leads back to where it started. The page that is shown is stored,
+// too, and steps of the history show theirs.
 void StudioMonkey::CheckHistory() {
-    BytesAfter(&History::Redo);
-    const std::vector<BYTE> last = BytesAfter(&History::Redo);
-    const std::vector<BYTE> first = BytesAfter(&History::Undo);
-    Require(last == BytesAfter(&History::Redo), "undoing and redoing everything does not lead back");
-    Require(first == BytesAfter(&History::Undo), "undoing everything a second time leads elsewhere");
-    BytesAfter(&History::Redo);
+    History& edits = Document().Edits();
+    const auto state = [this] {
+        Document().ShowPage(0);
+        return Bytes();
+    };
+    while (edits.Redo()) {
+    }
+    std::vector<std::vector<BYTE>> states(1, state());
+    while (edits.Undo())
+        states.push_back(state());
+    for (size_t left = states.size() - 1; left > 0; --left) {
+        const CString name = edits.RedoName();
+        edits.Redo();
+        if (states[left - 1] != state())
+            throw Broken{"undoing and redoing a step does not lead back: " + Utf8(name)};
+    }
 }
 
 void StudioMonkey::CheckSaving() {
