@@ -43,4 +43,10 @@ pixel 260 120 58A6FF "the cap of the third fader"
 pixel 475 320 0000FF "the line"
 has 20x20+370+215 0000FF "the polyline"
 has 60x24+46+84 E6EDF3 "the name of the first fader"
+
+# The picture in the guide shows the window, of which the page is a part. Letters may differ a little.
+convert "${guide%.md}.png" -crop 620x360+4+76 +repage promised.png
+convert demo.png -crop 620x360+0+0 +repage shown.png
+apart=$(compare -metric AE -fuzz 10% promised.png shown.png null: 2>&1) || true
+[ "$apart" -le 300 ] || fail "The guide's picture shows another page: $apart pixels differ."
 [ "$failed" = no ]
