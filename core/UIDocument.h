@@ -34,7 +34,8 @@ public:
     /// Clears the document and reads `path` through `Serialize`. 1 on success, 0 on failure; a file that
     /// cannot be opened leaves the document as it was.
     virtual int Load(CString& path);
-    /// Writes the document to `path` through `Serialize`. 1 on success, 0 on failure.
+    /// Writes the document to `path` through `Serialize`, whole or not at all. 1 on success, 0 on failure; an
+    /// older file is as it was then. Only where the folder takes no new file is the old one written over.
     virtual int Save(CString& path);
     /// Frees the lists but not the objects in them; see `Release`.
     virtual ~CUIDocument();
@@ -141,7 +142,7 @@ protected:
     /// Walked by `UpdateAllCanvas` with hint 2; nothing in the library fills it.
     std::deque<CUICanvas*> m_auxiliary;
     CUIPageMap m_pages;               ///< the pages; the lists and their objects are owned
-    ATOM m_atomCanvas = 0;            ///< the canvases' window class, 0 until the first is created
+    ATOM m_atomCanvas = 0;            ///< the canvases' window class, 0 unless this document registered it
     int m_bModified = 0;              ///< 1 when changed since saved, loaded or cleared
     CUICanvas* m_pCurrent = nullptr;  ///< the current page's canvas, or null
 

@@ -1,6 +1,7 @@
 // The archive file: dialogs, file and archive set-up, the order of the records, errors.
 #include "core/UIDocument.h"
 
+#include "core/WholeFile.h"
 #include "core/src/ForEachObject.h"
 
 #include <afxdlgs.h>
@@ -34,19 +35,32 @@ void ReportError(LPCTSTR format, const CString& path, CException* error) {
     AfxMessageBox(message);
 }
 
-// Runs `transfer` on an archive over `file`; a class-library exception aborts the file and is reported.
-template <class Transfer>
-int Archive(CFile& file, UINT mode, const CString& path, LPCTSTR errorFormat, Transfer transfer) {
+// Runs `transfer` on an archive over `file`, then `finish`; a class-library exception aborts the file and is
+// reported.
+template <class Transfer, class Finish>
+int Archive(CFile& file, UINT mode, const CString& path, LPCTSTR errorFormat, Transfer transfer,
+            Finish finish) {
     try {
         CArchive ar(&file, mode | CArchive::bNoFlushOnDelete, kArchiveBuffer);
         transfer(ar);
         ar.Close();
-        file.Close();
+        finish();
         return 1;
     } catch (CException* error) {
         file.Abort();
         ReportError(errorFormat, path, error);
         return 0;
+    }
+}
+
+// The new file beside the old one; null, with the cause, when it cannot be made.
+std::unique_ptr<WholeFile> OpenBeside(const CString& path, int& cause) {
+    try {
+        return std::make_unique<WholeFile>(path);
+    } catch (CFileException* error) {
+        cause = error->m_cause;
+        error->Delete();
+        return nullptr;
     }
 }
 
@@ -60,11 +74,32 @@ void CUIDocument::Serialize(CArchive& ar) {
 }
 
 int CUIDocument::Save(CString& path) {
-    CFile file;
-    if (!file.Open(path, CFile::modeCreate | CFile::shareExclusive | CFile::modeReadWrite))
+    const auto store = [this](CArchive& ar) { Serialize(ar); };
+    const LPCTSTR errorFormat = L"파일(%s) 쓰기중 오류가 발생하였습니다.\n\n%s";
+    // The old file is held meanwhile: nobody else opens it.
+    CFile old;
+    CFileException reason;
+    if (WholeFile::IsReadOnly(path))
         return 0;
-    return Archive(file, CArchive::store, path, L"파일(%s) 쓰기중 오류가 발생하였습니다.\n\n%s",
-                   [this](CArchive& ar) { Serialize(ar); });
+    const bool exists = old.Open(path, CFile::shareExclusive | CFile::modeReadWrite, &reason);
+    if (!exists && reason.m_cause != CFileException::fileNotFound)
+        return 0;
+    int cause = CFileException::none;
+    if (const auto whole = OpenBeside(path, cause)) {
+        return Archive(whole->File(), CArchive::store, path, errorFormat, store, [&] {
+            old.Abort();
+            whole->Commit();
+        });
+    }
+    if (!exists || cause != CFileException::accessDenied)
+        return 0;
+    return Archive(
+        old, CArchive::store, path, errorFormat,
+        [&](CArchive& ar) {
+            old.SetLength(0);
+            store(ar);
+        },
+        [&] { old.Close(); });
 }
 
 int CUIDocument::Load(CString& path) {
@@ -73,10 +108,12 @@ int CUIDocument::Load(CString& path) {
         return 0;
     // kept: with the pages go the objects that could read themselves; a host makes its own before it reads.
     ClearCanvas();
-    return Archive(file, CArchive::load, path, L"파일(%s) 형식을 알수 없습니다.\n\n%s", [&](CArchive& ar) {
+    const auto read = [&](CArchive& ar) {
         if (file.GetLength() != 0)
             Serialize(ar);
-    });
+    };
+    return Archive(file, CArchive::load, path, L"파일(%s) 형식을 알수 없습니다.\n\n%s", read,
+                   [&] { file.Close(); });
 }
 
 void CUIDocument::SaveDocument() {

@@ -1,5 +1,6 @@
 #include "studio/document/PageFile.h"
 
+#include "core/WholeFile.h"
 #include "studio/document/Checksum.h"
 
 #include <cstring>
@@ -19,36 +20,6 @@ static_assert(sizeof(FileHeader) == 24, "the header is written as it stands in m
 // The control characters show a file that went through a text conversion.
 constexpr char kMagic[8] = {'T', 'S', 'P', 'G', '\r', '\n', 0x1A, '\n'};
 constexpr int kBuffer = 16 * 1024;
-
-// A file beside the real one, deleted unless it takes its place.
-class NewFile {
-public:
-    explicit NewFile(const CString& path) : m_path(path) {
-        const int slash = path.ReverseFind(L'\\');
-        const CString folder = path.Left(slash + 1);
-        if (!::GetTempFileName(folder, L"stu", 0, m_temporary))
-            CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), path);
-    }
-    ~NewFile() {
-        if (!m_replaced)
-            ::DeleteFile(m_temporary);
-    }
-    NewFile(const NewFile&) = delete;
-    NewFile& operator=(const NewFile&) = delete;
-
-    LPCWSTR Name() const { return m_temporary; }
-
-    void Replace() {
-        if (!::MoveFileEx(m_temporary, m_path, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), m_path);
-        m_replaced = true;
-    }
-
-private:
-    const CString m_path;
-    WCHAR m_temporary[MAX_PATH];
-    bool m_replaced = false;
-};
 
 // Checks the header, and returns the version in it.
 DWORD CheckHeader(CFile& file) {
@@ -80,22 +51,20 @@ void WriteHeader(CFile& file) {
 
 }  // namespace
 
-void WriteWholeFile(const CString& path, const std::function<void(LPCWSTR temporary)>& write) {
-    NewFile target(FullPath(path));
-    write(target.Name());
-    target.Replace();
+void WriteWholeFile(const CString& path, const std::function<void(CFile& file)>& write) {
+    Lumo::WholeFile target(FullPath(path));
+    write(target.File());
+    target.File().Flush();
+    target.Commit();
 }
 
 void WritePageFile(const CString& path, const std::function<void(CArchive&)>& store) {
-    WriteWholeFile(path, [&](LPCWSTR temporary) {
-        CFile file(temporary, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive);
+    WriteWholeFile(path, [&](CFile& file) {
         file.Seek(sizeof(FileHeader), CFile::begin);
         CArchive ar(&file, CArchive::store | CArchive::bNoFlushOnDelete, kBuffer);
         store(ar);
         ar.Close();
         WriteHeader(file);
-        file.Flush();
-        file.Close();
     });
 }
 

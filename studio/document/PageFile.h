@@ -16,9 +16,9 @@ void WritePageFile(const CString& path, const std::function<void(CArchive&)>& st
 /// `version` (1 to `kArchiveVersion`). Raises the exceptions of file and archive and `FileFault`.
 void ReadPageFile(const CString& path, const std::function<void(CArchive& ar, DWORD version)>& load);
 
-/// Writes any file whole or not at all: `write` fills the file it is given, which then replaces an old one.
-/// Raises what `write` raises, and the exceptions of files.
-void WriteWholeFile(const CString& path, const std::function<void(LPCWSTR temporary)>& write);
+/// Writes any file whole or not at all: `write` fills the file it is given, which replaces an old one when it
+/// is on the disk. Raises what `write` raises, and the exceptions of files.
+void WriteWholeFile(const CString& path, const std::function<void(CFile& file)>& write);
 
 /// The full path of a file name, against the current folder.
 CString FullPath(const CString& path);

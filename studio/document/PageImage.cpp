@@ -2,6 +2,7 @@
 
 #include "core/Geometry.h"
 #include "studio/document/PageFile.h"
+#include "studio/editing/ComPtr.h"
 #include "studio/editing/Geometry.h"
 
 #include <algorithm>
@@ -47,6 +48,24 @@ CLSID PngEncoder() {
             return encoders[i].Clsid;
     }
     throw FileFault{Text::kFaultPicture};
+}
+
+std::vector<BYTE> EncodePng(Bitmap& bitmap) {
+    IStream* made = nullptr;
+    if (FAILED(::CreateStreamOnHGlobal(nullptr, TRUE, &made)))
+        return {};
+    const ComPtr<IStream> stream(made);
+    const CLSID encoder = PngEncoder();
+    HGLOBAL memory = nullptr;
+    STATSTG state = {};
+    if (bitmap.Save(stream.get(), &encoder, nullptr) != Gdiplus::Ok ||
+        FAILED(::GetHGlobalFromStream(stream.get(), &memory)) ||
+        FAILED(stream->Stat(&state, STATFLAG_NONAME)))
+        return {};
+    const auto* data = static_cast<const BYTE*>(::GlobalLock(memory));
+    std::vector<BYTE> png(data, data + static_cast<size_t>(state.cbSize.QuadPart));
+    ::GlobalUnlock(memory);
+    return png;
 }
 
 void DrawObjects(Graphics& g, const CUIObjectDeque& objects) {
@@ -96,12 +115,10 @@ void DrawFitted(Graphics& g, const CUIObjectDeque& objects, CSize size) {
 }
 
 void WritePagePicture(const CUIObjectDeque& objects, const CString& path) {
-    const auto bitmap = DrawPage(objects);
-    const CLSID encoder = PngEncoder();
-    WriteWholeFile(path, [&](LPCWSTR temporary) {
-        if (bitmap->Save(temporary, &encoder, nullptr) != Gdiplus::Ok)
-            throw FileFault{Text::kFaultPicture};
-    });
+    const std::vector<BYTE> png = EncodePng(*DrawPage(objects));
+    if (png.empty())
+        throw FileFault{Text::kFaultPicture};
+    WriteWholeFile(path, [&](CFile& file) { file.Write(png.data(), static_cast<UINT>(png.size())); });
 }
 
 }  // namespace Studio

@@ -25,4 +25,7 @@ void WritePagePicture(const Lumo::CUIObjectDeque& objects, const CString& path);
 /// The encoder of PNG pictures. Raises `FileFault` when the system has none.
 CLSID PngEncoder();
 
+/// A picture as the bytes of a PNG file; empty when it cannot be made. Raises `FileFault` as above.
+std::vector<BYTE> EncodePng(Gdiplus::Bitmap& bitmap);
+
 }  // namespace Studio

@@ -40,24 +40,6 @@ std::vector<BYTE> BytesOf(ILockBytes& bytes) {
     return copy;
 }
 
-std::vector<BYTE> EncodePng(Gdiplus::Bitmap& bitmap) {
-    IStream* made = nullptr;
-    if (FAILED(::CreateStreamOnHGlobal(nullptr, TRUE, &made)))
-        return {};
-    const ComPtr<IStream> stream(made);
-    const CLSID encoder = PngEncoder();
-    HGLOBAL memory = nullptr;
-    STATSTG state = {};
-    if (bitmap.Save(stream.get(), &encoder, nullptr) != Gdiplus::Ok ||
-        FAILED(::GetHGlobalFromStream(stream.get(), &memory)) ||
-        FAILED(stream->Stat(&state, STATFLAG_NONAME)))
-        return {};
-    const auto* data = static_cast<const BYTE*>(::GlobalLock(memory));
-    std::vector<BYTE> png(data, data + static_cast<size_t>(state.cbSize.QuadPart));
-    ::GlobalUnlock(memory);
-    return png;
-}
-
 // A bitmap that is drawn on as on a screen, white at first.
 class Sheet {
 public:
@@ -216,7 +198,7 @@ CString EmbeddedItem::ClassName() {
     LPOLESTR text = nullptr;
     if (!m_lpObject || FAILED(m_lpObject->GetUserType(USERCLASSTYPE_FULL, &text)) || !text)
         return GetText(Text::kEmbeddedObject);
-    const CString name = text;
+    CString name = text;
     ::CoTaskMemFree(text);
     return name;
 }

@@ -106,6 +106,65 @@ TEST_F(DocumentFileTest, ATruncatedFileIsReportedAndLeavesWhatWasRead) {
     loaded->Release();
 }
 
+// Stores more than a buffer, then fails.
+class Breaking : public CUIDocument {
+public:
+    void Serialize(CArchive& ar) override {
+        for (int i = 0; i < 10000; ++i)
+            ar << i;
+        AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, ar.GetFile()->GetFilePath());
+    }
+};
+
+TEST_F(DocumentFileTest, AFailedSaveIsReportedAndLeavesTheOldFile) {
+    m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
+    ASSERT_EQ(m_document->Save(m_path), 1);
+    const std::vector<uint8_t> before = Bytes();
+    const CString beside = m_path + L".saving";
+    auto* breaking = new Breaking;
+    MessageBoxAnswerer boxes;
+    EXPECT_EQ(breaking->Save(m_path), 0);
+    ASSERT_EQ(boxes.texts.size(), 1u);
+    CString text;
+    text.Format(
+        L"파일(%s) 쓰기중 오류가 발생하였습니다.\n\n\"%s\" could not be written because the disk is full.",
+        m_path.GetString(), m_path.GetString());
+    EXPECT_STREQ(boxes.texts[0], text);
+    EXPECT_EQ(Bytes(), before);
+    EXPECT_EQ(::GetFileAttributes(beside), INVALID_FILE_ATTRIBUTES);
+
+    CString fresh = m_path + L".new";
+    EXPECT_EQ(breaking->Save(fresh), 0);
+    EXPECT_EQ(::GetFileAttributes(fresh), INVALID_FILE_ATTRIBUTES);
+    breaking->Release();
+}
+
+TEST_F(DocumentFileTest, TargetsThatCannotBeWrittenAreRefusedQuietly) {
+    m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
+    ASSERT_EQ(m_document->Save(m_path), 1);
+    const std::vector<uint8_t> before = Bytes();
+    MessageBoxAnswerer boxes;
+    ::SetFileAttributes(m_path, FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(m_document->Save(m_path), 0);
+    ::SetFileAttributes(m_path, FILE_ATTRIBUTE_NORMAL);
+    EXPECT_EQ(Bytes(), before);
+    CString folder = m_path + L".folder";
+    ::CreateDirectory(folder, nullptr);
+    for (CString target :
+         {folder, folder + L"\\no\\page.cbf", folder + L"\\" + CString(L'n', 300), CString()}) {
+        EXPECT_EQ(m_document->Save(target), 0);
+        EXPECT_EQ(m_document->Load(target), 0);
+    }
+    EXPECT_TRUE(::RemoveDirectory(folder)) << "something was left in it";
+    EXPECT_TRUE(boxes.texts.empty());
+    EXPECT_EQ(m_document->GetCanvasObjectList()->size(), 1u);
+    // What an interrupted save left beside is longer than the new file.
+    CFile(m_path + L".saving", CFile::modeCreate | CFile::modeWrite).SetLength(100000);
+    EXPECT_EQ(m_document->Save(m_path), 1);
+    EXPECT_EQ(Bytes(), before);
+    EXPECT_EQ(::GetFileAttributes(m_path + L".saving"), INVALID_FILE_ATTRIBUTES);
+}
+
 TEST_F(DocumentFileTest, AFileHeldByAnotherIsNotTouched) {
     ASSERT_EQ(m_document->Save(m_path), 1);
     CFile held(m_path, CFile::modeReadWrite | CFile::shareExclusive);

@@ -184,10 +184,7 @@ TEST_F(Pages, AutosaveOfADocumentWithoutFile) {
 
 TEST_F(Pages, ADamagedCopyChangesNothing) {
     const CString copy = FileName(L"damaged.autosave");
-    WriteWholeFile(copy, [](LPCWSTR temporary) {
-        CFile file(temporary, CFile::modeCreate | CFile::modeWrite);
-        file.Write("no copy", 7);
-    });
+    WriteWholeFile(copy, [](CFile& file) { file.Write("no copy", 7); });
     Add(Lumo::DS_ELLIPSE, 10, 10, 50, 40);
     EXPECT_FALSE(m_document->Recover(copy, L""));
     EXPECT_EQ(1u, Objects().size());
