@@ -243,6 +243,7 @@ private:
     template <class Restack>
     void RestackFront(Restack restack);
     void CopySelection();
+    bool TryCopySelection();
 
     static std::vector<CUICanvas*>& Canvases();
 

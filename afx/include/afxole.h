@@ -1,7 +1,7 @@
 // OLE: start-up, the clipboard's data source and data object, and embedded client items.
 #pragma once
 
-#include <afxwin.h>
+#include <afxdisp.h>
 
 #include <ole2.h>
 
@@ -25,7 +25,8 @@ public:
     /// Offers a medium, which the object owns from now on.
     void CacheData(CLIPFORMAT cfFormat, LPSTGMEDIUM lpStgMedium, LPFORMATETC lpFormatEtc = nullptr);
 
-    /// Puts the object on the clipboard and gives up the maker's ownership.
+    /// Puts the object on the clipboard and gives up the maker's ownership. Raises a COleException when the
+    /// clipboard cannot be had; the maker still owns the object then.
     void SetClipboard();
     /// Leaves the data on the clipboard for when the object or the program is gone.
     static void PASCAL FlushClipboard();

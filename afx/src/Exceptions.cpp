@@ -1,4 +1,4 @@
-#include <afx.h>
+#include <afxdisp.h>
 
 #include <algorithm>
 #include <cwchar>
@@ -11,6 +11,7 @@ IMPLEMENT_DYNAMIC(CNotSupportedException, CSimpleException)
 IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
 IMPLEMENT_DYNAMIC(CFileException, CException)
 IMPLEMENT_DYNAMIC(CArchiveException, CException)
+IMPLEMENT_DYNAMIC(COleException, CException)
 
 CException::CException() : CException(TRUE) {}
 
@@ -185,6 +186,10 @@ BOOL CArchiveException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, PUINT 
                             pnHelpContext);
 }
 
+BOOL COleException::GetErrorMessage(LPWSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const {
+    return CopyErrorMessage(SystemText(m_sc), lpszError, nMaxError, pnHelpContext);
+}
+
 void AFXAPI AfxThrowMemoryException() {
     // Made beforehand: there may be no memory for it now.
     static CMemoryException exception(FALSE);
@@ -205,4 +210,10 @@ void AFXAPI AfxThrowFileException(int cause, LONG lOsError, LPCWSTR lpszFileName
 
 void AFXAPI AfxThrowArchiveException(int cause, LPCWSTR lpszArchiveName) {
     throw new CArchiveException(cause, lpszArchiveName);
+}
+
+void AFXAPI AfxThrowOleException(SCODE sc) {
+    auto* exception = new COleException;
+    exception->m_sc = sc;
+    throw exception;
 }

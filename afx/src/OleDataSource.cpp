@@ -180,10 +180,11 @@ LPDATAOBJECT COleDataSource::GetDataObject() {
 }
 
 void COleDataSource::SetClipboard() {
-    HRESULT result = ::OleSetClipboard(m_pDataObject);
-    if (SUCCEEDED(result))
-        clipboardSource = this;
-    // The clipboard counts on its own; what it did not take ends here.
+    const HRESULT result = ::OleSetClipboard(m_pDataObject);
+    if (result != S_OK)
+        AfxThrowOleException(result);
+    clipboardSource = this;
+    // The clipboard counts on its own.
     InternalRelease();
 }
 

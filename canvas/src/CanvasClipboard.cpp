@@ -72,21 +72,29 @@ void CUICanvas::CopySelection() {
     if (m_selection.size() == 1)
         source->CacheGlobalData(CF_UNICODETEXT, TextBlock(m_selection.front()->GetText()));
     source->SetClipboard();
-    source.release();  // the clipboard's from here on
+    static_cast<void>(source.release());  // the clipboard's from here on
 }
 
-void CUICanvas::OnEditObjectCopy() {
+// False, with a line in the log, when the selection could not be copied.
+bool CUICanvas::TryCopySelection() {
     try {
         CopySelection();
+        return true;
     } catch (CException* exception) {
         LogCopyException(exception);
         exception->Delete();
+        return false;
     }
 }
 
+void CUICanvas::OnEditObjectCopy() {
+    TryCopySelection();
+}
+
 void CUICanvas::OnEditObjectCut() {
-    OnEditObjectCopy();
-    OnEditObjectDelete();
+    // What could not be copied stays.
+    if (TryCopySelection())
+        OnEditObjectDelete();
 }
 
 void CUICanvas::OnEditObjectDelete() {

@@ -49,6 +49,8 @@
                            L"데이터를 저장할 수 없는 개체여서 그림만 남아 있습니다.") \
     X(kFaultStatus,        L"The system reports the error 0x%08X.", L"시스템 오류가 발생했습니다(0x%08X).") \
     X(kFaultOleDialog,     L"The list of objects could not be shown.", L"개체 목록을 표시할 수 없습니다.") \
+    X(kErrorClipboard,     L"The clipboard is in use by another program. Nothing was changed; try again.", \
+                           L"다른 프로그램에서 클립보드를 사용하고 있습니다. 바뀐 것은 없으니 다시 시도하세요.") \
     X(kErrorPicture,       L"The file \"%s\" holds no picture that can be shown.", \
                            L"파일 \"%s\"에는 표시할 수 있는 그림이 없습니다.")
 // clang-format on

@@ -106,6 +106,12 @@ void ShowGrid(StudioCanvas& page) {
     page.Invalidate(FALSE);
 }
 
+template <bool (*Use)(StudioCanvas& page)>
+void UseClipboard(StudioCanvas& page) {
+    if (!Use(page))
+        AfxMessageBox(GetText(Text::kErrorClipboard), MB_OK | MB_ICONWARNING);
+}
+
 // Commands that need nothing but the page.
 constexpr struct {
     UINT command;
@@ -113,9 +119,9 @@ constexpr struct {
 } kEdits[] = {
     {ID_OBJECT_UNDO, [](StudioCanvas& page) { page.Edits().Undo(); }},
     {ID_OBJECT_REDO, [](StudioCanvas& page) { page.Edits().Redo(); }},
-    {ID_OBJECT_CUT, CutSelection},
-    {ID_OBJECT_COPY, [](StudioCanvas& page) { CopySelection(page); }},
-    {ID_OBJECT_PASTE, PasteObjects},
+    {ID_OBJECT_CUT, UseClipboard<CutSelection>},
+    {ID_OBJECT_COPY, UseClipboard<CopySelection>},
+    {ID_OBJECT_PASTE, UseClipboard<PasteObjects>},
     {ID_PAGE_DUPLICATE_OBJECTS, DuplicateSelection},
     {ID_PAGE_DISTRIBUTE_H, [](StudioCanvas& page) { DistributeSelection(page, true); }},
     {ID_PAGE_DISTRIBUTE_V, [](StudioCanvas& page) { DistributeSelection(page, false); }},

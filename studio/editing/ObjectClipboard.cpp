@@ -29,10 +29,10 @@ UINT ObjectFormat() {
     return format;
 }
 
-// The clipboard, opened; another program may be having it.
+// The clipboard, opened. Another program may have it; most give it back within a moment.
 class OpenedClipboard {
 public:
-    explicit OpenedClipboard(HWND owner) : m_opened(::OpenClipboard(owner) != FALSE) {}
+    explicit OpenedClipboard(HWND owner) : m_opened(Open(owner)) {}
     ~OpenedClipboard() {
         if (m_opened)
             ::CloseClipboard();
@@ -64,6 +64,17 @@ public:
     }
 
 private:
+    static bool Open(HWND owner) {
+        constexpr int kTries = 5;
+        constexpr DWORD kPause = 20;
+        for (int i = 0; i < kTries; ++i) {
+            if (::OpenClipboard(owner))
+                return true;
+            ::Sleep(kPause);
+        }
+        return false;
+    }
+
     const bool m_opened;
 };
 
@@ -160,22 +171,24 @@ bool CopySelection(StudioCanvas& page) {
     return clipboard.Put(ObjectFormat(), bytes.data(), bytes.size());
 }
 
-void CutSelection(StudioCanvas& page) {
-    if (CopySelection(page))
-        RemoveObjects(page, CUIObjectDeque(page.m_selection), Text::kStepCut);
+bool CutSelection(StudioCanvas& page) {
+    if (!CopySelection(page))
+        return false;
+    RemoveObjects(page, CUIObjectDeque(page.m_selection), Text::kStepCut);
+    return true;
 }
 
 bool CanPaste() {
     return ::IsClipboardFormatAvailable(ObjectFormat()) || ::IsClipboardFormatAvailable(CF_UNICODETEXT);
 }
 
-void PasteObjects(StudioCanvas& page) {
+bool PasteObjects(StudioCanvas& page) {
     std::vector<ObjectPtr> objects;
     CString text;
     {
         const OpenedClipboard clipboard(page.m_hWnd);
         if (!clipboard)
-            return;
+            return false;
         if (::IsClipboardFormatAvailable(ObjectFormat()))
             objects = UnpackObjects(clipboard.Get(ObjectFormat()));
         else if (::IsClipboardFormatAvailable(CF_UNICODETEXT))
@@ -185,6 +198,7 @@ void PasteObjects(StudioCanvas& page) {
         objects = TextBoxes(text, VisibleArea(page));
     const float aside = NextOffset();
     InsertObjects(page, std::move(objects), PointF(aside, aside), Text::kStepPaste);
+    return true;
 }
 
 void DuplicateSelection(StudioCanvas& page) {

@@ -24,16 +24,16 @@ std::vector<ObjectPtr> UnpackObjects(std::span<const BYTE> bytes);
 /// nothing is selected or the clipboard cannot be had.
 bool CopySelection(StudioCanvas& page);
 
-/// Copies the selected objects and takes them off the page.
-void CutSelection(StudioCanvas& page);
+/// Copies the selected objects and takes them off the page. False, and they stay, when they cannot be copied.
+bool CutSelection(StudioCanvas& page);
 
 /// Whether the clipboard offers something that can be pasted.
 bool CanPaste();
 
 /// Puts what the clipboard holds on the page and selects it: copied objects a little aside from where they
 /// were, and further aside every time; or a text as a text box. Nothing happens when the clipboard holds
-/// neither.
-void PasteObjects(StudioCanvas& page);
+/// neither. False when the clipboard cannot be had.
+bool PasteObjects(StudioCanvas& page);
 
 /// Copies the selected objects on their page, a little aside, past the clipboard.
 void DuplicateSelection(StudioCanvas& page);

@@ -1,5 +1,6 @@
 #include "canvas/CanvasFixture.h"
 
+#include "support/ClipboardHolder.h"
 #include "support/TemporaryFile.h"
 
 #include <afxadv.h>
@@ -204,6 +205,25 @@ TEST_F(Clipboard, ACopyThatFailsLeavesTheClipboardAloneAndIsLogged) {
     EXPECT_NE(line.find("[5] [예외] Unknown CMemoryException exception in OnEditObjectCopy - "),
               std::string::npos)
         << line;
+}
+
+TEST_F(Clipboard, AClipboardThatIsHeldLosesNothing) {
+    CUIObject* a = AddRectangle(10, 20, 30, 40);
+    Pick({a});
+    m_canvas->OnEditObjectCopy();
+    const TemporaryFile log;
+    ::SetEnvironmentVariable(L"MARROWLOG_FILE", log.Path());
+    {
+        const ClipboardHolder holder;
+        m_canvas->OnEditObjectCut();
+        EXPECT_EQ(a->GetRemoved(), 0) << "what could not be copied stays";
+        m_canvas->OnEditObjectPaste();
+        EXPECT_EQ(Objects(), (List{a}));
+    }
+    ::SetEnvironmentVariable(L"MARROWLOG_FILE", nullptr);
+    EXPECT_EQ(ReadClipboard(PrivateFormat()), Record(a));
+    EXPECT_NE(log.Read().find("[5] [예외] Unknown COleException exception in OnEditObjectCopy - "),
+              std::string::npos);
 }
 
 }  // namespace
