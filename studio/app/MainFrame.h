@@ -113,7 +113,8 @@ private:
     StatusBar m_status;
     PropertyPanel m_properties{*this};
     bool m_showProperties = true;
-    CString m_refusal;  // of a typed property
+    CString m_refusal;          // of a typed property, or of automatic saving
+    CString m_autosaveTrouble;  // empty when the last automatic saving went well
     StudioDocument* m_document = nullptr;
     PageTabs m_tabs;
     SymbolPanel m_symbols;

@@ -156,8 +156,15 @@ void MainFrame::StartAutosave() {
 // What is half drawn is left to the next time.
 void MainFrame::AutosaveNow() {
     StudioCanvas* page = Page();
-    if (page && !page->CurrentGesture() && !IsRunning())
-        m_autosave->Update();
+    if (!page || page->CurrentGesture() || IsRunning())
+        return;
+    CString trouble;
+    if (!m_autosave->Update())
+        trouble.Format(GetText(Text::kErrorAutosave), m_autosave->GetReason().GetString());
+    if (!trouble.IsEmpty() || m_refusal == m_autosaveTrouble)
+        m_refusal = trouble;
+    m_autosaveTrouble = trouble;
+    RefreshStatus();
 }
 
 // Offers the changes that an earlier run could not save; true when they are open now.
@@ -174,9 +181,10 @@ bool MainFrame::RecoverFor(const CString& path) {
 
 bool MainFrame::RecoverUntitled() {
     for (const CString& copy : m_autosave->FindLeftBehind()) {
-        if (AskRecover(GetText(Text::kUntitled)) && Recover(copy, L""))
+        if (!AskRecover(GetText(Text::kUntitled)))
+            ::DeleteFile(copy);
+        else if (Recover(copy, L""))
             return true;
-        ::DeleteFile(copy);
     }
     return false;
 }
@@ -189,7 +197,10 @@ bool MainFrame::AskRecover(const CString& name) {
 
 bool MainFrame::Recover(const CString& copy, const CString& path) {
     if (!m_document->Recover(copy, path)) {
-        AfxMessageBox(m_document->GetError(), MB_OK | MB_ICONERROR);
+        CString message;
+        message.Format(GetText(Text::kErrorRecover), Autosave::PutAside(copy).GetString(),
+                       m_document->GetReason().GetString());
+        AfxMessageBox(message, MB_OK | MB_ICONERROR);
         return false;
     }
     // The document has a copy of its own before the old one goes.

@@ -28,12 +28,17 @@
     X(kFaultPicture,       L"The picture could not be made.", L"그림을 만들 수 없습니다.") \
     X(kFaultNoPage,        L"There is no such page.",   L"그런 페이지가 없습니다.") \
     X(kFaultMissing,       L"The file or its folder was not found.", L"파일이나 폴더를 찾을 수 없습니다.") \
+    X(kFaultName,          L"Its name is too long, or has a character that no name may have.", \
+                           L"이름이 너무 길거나 사용할 수 없는 문자가 들어 있습니다.") \
     X(kFaultAccess,        L"Access to it was refused, or another program uses it.", \
                            L"접근이 거부되었거나 다른 프로그램에서 사용 중입니다.") \
     X(kFaultDisk,          L"The disk is full.",        L"디스크에 빈 공간이 없습니다.") \
     X(kFaultDevice,        L"It could not be read or written.", L"읽거나 쓸 수 없습니다.") \
     X(kAskRecover,         L"Studio ended before the changes to \"%s\" were saved.\n\nRecover them?", \
                            L"\"%s\"의 변경 내용을 저장하기 전에 Studio가 종료되었습니다.\n\n복구할까요?") \
+    X(kErrorRecover,       L"The changes could not be recovered. Their copy is kept as \"%s\".\n\n%s", \
+                           L"변경 내용을 복구하지 못했습니다. 사본은 \"%s\"(으)로 보관합니다.\n\n%s") \
+    X(kErrorAutosave,      L"The changes could not be backed up. %s", L"변경 내용을 백업하지 못했습니다. %s") \
     X(kDemoOverview,       L"Overview",                 L"개요") \
     X(kDemoOverviewNote,   L"F5 operates the screens, Esc edits them", \
                            L"F5: 화면 작동, Esc: 편집") \

@@ -9,6 +9,21 @@ namespace Studio {
 namespace {
 
 constexpr WCHAR kUntitledPattern[] = L"untitled-*.autosave";
+constexpr WCHAR kUnfinishedPattern[] = L"untitled-*.autosave.saving";
+
+std::vector<CString> FilesIn(const CString& folder, LPCWSTR pattern) {
+    std::vector<CString> found;
+    WIN32_FIND_DATA data;
+    const HANDLE search =
+        folder.IsEmpty() ? INVALID_HANDLE_VALUE : ::FindFirstFile(folder + L"\\" + pattern, &data);
+    if (search == INVALID_HANDLE_VALUE)
+        return found;
+    do
+        found.push_back(folder + L"\\" + data.cFileName);
+    while (::FindNextFile(search, &data));
+    ::FindClose(search);
+    return found;
+}
 
 }  // namespace
 
@@ -34,6 +49,7 @@ bool Autosave::Update() {
         return true;
     }
     const CString path = OwnPath();
+    m_reason = GetText(Text::kFaultAccess);
     if (path.IsEmpty())
         return false;
     if (m_document.GetPath().IsEmpty())
@@ -44,6 +60,7 @@ bool Autosave::Update() {
     // The open copy could not be replaced.
     Release();
     if (!m_document.SaveCopy(path)) {
+        m_reason = m_document.GetReason();
         Hold(m_path);
         return false;
     }
@@ -81,18 +98,16 @@ bool Autosave::IsLeftBehind(const CString& copy) {
     return true;
 }
 
+CString Autosave::PutAside(const CString& copy) {
+    const CString aside = copy + L".damaged";
+    return ::MoveFileEx(copy, aside, MOVEFILE_REPLACE_EXISTING) ? aside : copy;
+}
+
 std::vector<CString> Autosave::FindLeftBehind() const {
-    std::vector<CString> found;
-    WIN32_FIND_DATA data;
-    HANDLE search = ::FindFirstFile(m_folder + L"\\" + kUntitledPattern, &data);
-    if (m_folder.IsEmpty() || search == INVALID_HANDLE_VALUE)
-        return found;
-    do {
-        const CString path = m_folder + L"\\" + data.cFileName;
-        if (path != m_path && IsLeftBehind(path))
-            found.push_back(path);
-    } while (::FindNextFile(search, &data));
-    ::FindClose(search);
+    for (const CString& unfinished : FilesIn(m_folder, kUnfinishedPattern))
+        ::DeleteFile(unfinished);  // not one that is being written: that is held
+    std::vector<CString> found = FilesIn(m_folder, kUntitledPattern);
+    std::erase_if(found, [this](const CString& path) { return path == m_path || !IsLeftBehind(path); });
     return found;
 }
 

@@ -23,14 +23,20 @@ public:
     /// Writes the copy when the document is modified, removes it when it is not. False when it cannot be
     /// written; an older copy is as it was then.
     bool Update();
+    /// Why `Update` failed last, as a sentence.
+    const CString& GetReason() const { return m_reason; }
     /// Removes the copy: the document was saved, closed or replaced.
     void Discard();
 
+    /// Puts a copy that cannot be read aside, so that it is neither offered again nor written over. The name
+    /// it has then; its old one when it cannot be renamed.
+    static CString PutAside(const CString& copy);
     /// The name of the copy of a file.
     static CString PathFor(const CString& file) { return file + L".autosave"; }
     /// Whether a copy was left behind: it is there, and no running Studio holds it.
     static bool IsLeftBehind(const CString& copy);
-    /// Copies of documents without a file that were left behind in the folder.
+    /// Copies of documents without a file that were left behind in the folder. One that was not written to its
+    /// end is of no use, and removed.
     std::vector<CString> FindLeftBehind() const;
     /// The folder of the user's local data for Studio; empty when there is none.
     static CString DefaultFolder();
@@ -43,6 +49,7 @@ private:
     StudioDocument& m_document;
     const CString m_folder;
     CString m_path;  // of the copy that is there, else empty
+    CString m_reason;
     HANDLE m_held = INVALID_HANDLE_VALUE;
 };
 

@@ -37,11 +37,10 @@ StudioCanvas* StudioDocument::CurrentPage() {
 // Runs a file operation; whatever it raises becomes the error text and the result false.
 template <class Action>
 bool StudioDocument::Attempt(Text sentence, const CString& path, Action action) {
-    CString reason;
     m_error.Empty();
-    if (AttemptFile(action, reason))
+    if (AttemptFile(action, m_reason))
         return true;
-    m_error.Format(GetText(sentence), path.GetString(), reason.GetString());
+    m_error.Format(GetText(sentence), path.GetString(), m_reason.GetString());
     return false;
 }
 

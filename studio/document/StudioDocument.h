@@ -48,6 +48,8 @@ public:
 
     /// Why `Load` or `Save` failed last, as a sentence for the user.
     const CString& GetError() const { return m_error; }
+    /// The cause alone, as a sentence.
+    const CString& GetReason() const { return m_reason; }
     /// Path of the file last loaded or saved, empty for a new document.
     const CString& GetPath() const { return m_path; }
 
@@ -107,6 +109,7 @@ private:
     History m_edits{*this};
     CString m_path;
     CString m_error;
+    CString m_reason;
 };
 
 }  // namespace Studio
