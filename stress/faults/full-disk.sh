@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# full-disk.sh PROGRAMS: runs the tests of full and sealed disks on small file systems of their own, in a namespace
+# where nobody else sees them. Ends with 77 where the system does not let it mount any.
+set -euo pipefail
+
+root=$(cd "$(dirname "$0")/../.." && pwd)
+if [ "${2:-}" != inside ]; then
+    if ! reason=$(unshare -rm mount -t tmpfs -o size=256k none /mnt 2>&1); then
+        echo "Skipped: no file system can be mounted here ($reason)"
+        exit 77
+    fi
+    exec unshare -rm "$0" "$1" inside
+fi
+
+# Wine's server opens the files, so one has to run in here: its prefix shares all but the registry with the usual one.
+usual=${WINEPREFIX:-$HOME/.wine}
+work=$(mktemp -d)
+mkdir "$work/prefix" "$work/small" "$work/sealed"
+cp -a "$usual"/*.reg "$usual"/.update-timestamp "$usual"/dosdevices "$work/prefix"
+ln -s "$usual/drive_c" "$work/prefix/drive_c"
+export WINEPREFIX=$work/prefix
+finish() {
+    wineserver -k >/dev/null 2>&1 || true
+    wineserver -w >/dev/null 2>&1 || true
+    umount "$work/small" "$work/sealed" 2>/dev/null || true
+    rm -rf "$work"
+}
+trap finish EXIT
+wineserver -p
+
+mount -t tmpfs -o size=256k none "$work/small"
+mount -t tmpfs -o size=256k none "$work/sealed"
+export TESSEL_SMALL_DISK="Z:${work//\//\\}\\small" TESSEL_SEALED_DISK="Z:${work//\//\\}\\sealed"
+run="$root/cmake/wine-launcher.sh"
+"$run" "$1/Studio.exe" --make-symbols "$TESSEL_SEALED_DISK"
+mv "$work/sealed/Fader.cbf" "$work/sealed/page.cbf"
+mount -o remount,ro "$work/sealed"
+"$run" "$1/FullDisk.exe"
