@@ -9,6 +9,9 @@
 
 namespace Studio {
 
+/// A rectangle around every place that an object can be at.
+inline const Gdiplus::RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
+
 /// Place and size of one object in page units; children of a group are measured from the group's corner.
 struct Geometry {
     Gdiplus::RectF bounds;

@@ -16,8 +16,6 @@ using Lumo::CUIObject;
 
 namespace {
 
-const RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
-
 // The library moves the rectangle of a child; a line's points have to follow.
 void ShiftPointsOnly(CUIObject& object, float dx, float dy) {
     if (auto* poly = dynamic_cast<Lumo::CUIObjectPoly*>(&object)) {
@@ -51,6 +49,7 @@ void GroupObject::AdoptStored(CUIObject* child) {
 }
 
 void GroupObject::SetChildren(const std::deque<CUIObject*>& children) {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): they may be this group's own
     const std::deque<CUIObject*> kept = children;
     DetachChildren();
     for (CUIObject* child : kept)
@@ -58,7 +57,7 @@ void GroupObject::SetChildren(const std::deque<CUIObject*>& children) {
 }
 
 std::deque<CUIObject*> GroupObject::TakeApart() {
-    const std::deque<CUIObject*> children = GetChildren();
+    std::deque<CUIObject*> children = GetChildren();
     const RectF group = GetPosition();
     for (CUIObject* child : children)
         ShiftObject(*child, PointF(group.X, group.Y));

@@ -6,6 +6,7 @@
 #include "core/PaintScope.h"
 #include "behaviour/UIObjectTextEdit.h"
 #include "studio/controls/Control.h"
+#include "studio/editing/Geometry.h"
 #include "studio/editing/ObjectFactory.h"
 
 #include <algorithm>
@@ -20,7 +21,6 @@ using Lumo::CUIObject;
 
 namespace {
 
-const RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
 constexpr DWORD kPressedVeil = 0x30FFFFFF;
 constexpr DWORD kSliderFill = 0x704DA3FF;
 constexpr DWORD kSliderThumb = 0xFFF2F5FA;

@@ -3,6 +3,7 @@
 #include "behaviour/UIObjectList.h"
 #include "core/Geometry.h"
 #include "studio/document/StudioDocument.h"
+#include "studio/editing/Geometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +16,6 @@ using Lumo::CUIObject;
 
 namespace {
 
-const RectF kEverywhere(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f);
 // A kind that no drawing tool serves.
 constexpr Lumo::DrawShape kRunningKind = Lumo::DS_UNKNOWN;
 
