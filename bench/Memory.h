@@ -1,3 +1,4 @@
+// What this process holds of memory.
 #pragma once
 
 #include <windows.h>
