@@ -244,12 +244,14 @@ void CanvasMonkey::Act(Random& random) {
         UseMenu();
 }
 
-// A figure keeps the mouse between its clicks until a double click ends it.
+// A figure keeps the mouse between its clicks until a double click ends it, also when another tool was chosen
+// meanwhile.
 void CanvasMonkey::Settle() {
     LetGo(m_host.Current(), CPoint(5, 5));
-    const auto* tool = CUIToolBase::FindTool(CUIToolBase::run_drawshape);
-    if (::GetCapture() == m_host.Current().m_hWnd && dynamic_cast<const CUIMultiDownTool*>(tool))
-        m_host.Current().SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    for (const UINT message : {WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+        if (const HWND figure = ::GetCapture())
+            ::SendMessage(figure, message, 0, MAKELPARAM(5, 5));
+    }
     for (const auto& canvas : m_host.Canvases()) {
         canvas->SetInteractive(1);
         canvas->OnModeDraw();

@@ -11,7 +11,7 @@ namespace monkey {
 /// is.
 void StartJournal(const char* subject, std::uint64_t seed);
 /// A message is about to be sent; `format` is printf's.
-[[gnu::format(gnu_printf, 1, 2)]] void Note(const char* format, ...);
+[[gnu::format(__MINGW_PRINTF_FORMAT, 1, 2)]] void Note(const char* format, ...);
 /// A burst begins.
 void NoteBurst(std::uint64_t burst);
 /// Number of messages so far.

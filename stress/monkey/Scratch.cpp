@@ -24,7 +24,7 @@ void WriteBitmap(const std::filesystem::path& path) {
     info.biWidth = info.biHeight = kSide;
     info.biPlanes = 1;
     info.biBitCount = 32;
-    const std::vector<DWORD> pixels(kSide * kSide, 0xFF3080C0);
+    const std::vector<DWORD> pixels(size_t{kSide} * kSide, 0xFF3080C0);
     std::ofstream out(path, std::ios::binary);
     out.write(reinterpret_cast<const char*>(&file), sizeof file);
     out.write(reinterpret_cast<const char*>(&info), sizeof info);
@@ -47,7 +47,7 @@ Scratch::Scratch() {
     HKEY folders = nullptr;
     ::RegCreateKeyEx(HKEY_CURRENT_USER, m_key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &own, nullptr);
     ::RegCreateKeyEx(own, kShellFolders, 0, nullptr, 0, KEY_WRITE, nullptr, &folders, nullptr);
-    const DWORD size = static_cast<DWORD>((m_folder.GetLength() + 1) * sizeof(WCHAR));
+    const auto size = static_cast<DWORD>((m_folder.GetLength() + 1) * sizeof(WCHAR));
     ::RegSetValueEx(folders, L"Local AppData", 0, REG_SZ, reinterpret_cast<const BYTE*>(m_folder.GetString()),
                     size);
     const LSTATUS led = ::RegOverridePredefKey(HKEY_CURRENT_USER, own);
