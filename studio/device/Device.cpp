@@ -1,5 +1,7 @@
 #include "studio/device/Device.h"
 
+#include "studio/device/Names.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cwctype>
@@ -32,12 +34,6 @@ std::wstring KeyOf(const CString& name) {
     for (wchar_t& c : key)
         c = static_cast<wchar_t>(std::towlower(c));
     return key;
-}
-
-CString Numbered(LPCWSTR format, int a, int b = 0) {
-    CString text;
-    text.Format(format, a, b);
-    return text;
 }
 
 }  // namespace
