@@ -1,5 +1,7 @@
 #include "studio/controls/Picture.h"
 
+#include "studio/editing/Pixels.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -57,16 +59,8 @@ HDC DirectPaint::Target() {
 }
 
 Picture::Picture(int width, int height) : m_width(std::max(width, 1)), m_height(std::max(height, 1)) {
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = m_width;
-    info.bmiHeader.biHeight = -m_height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
     void* pixels = nullptr;
-    m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
-    if (!m_bitmap)
-        AfxThrowMemoryException();
+    m_bitmap = MakePixels(m_width, m_height, pixels);
     m_pixels = static_cast<DWORD*>(pixels);
     m_wrapper = std::make_unique<Bitmap>(m_width, m_height, m_width * 4, PixelFormat32bppPARGB,
                                          static_cast<BYTE*>(pixels));

@@ -2,6 +2,7 @@
 
 #include "studio/document/ObjectArchive.h"
 #include "studio/document/PageImage.h"
+#include "studio/editing/Pixels.h"
 
 #include <algorithm>
 #include <atomic>
@@ -44,8 +45,7 @@ std::vector<BYTE> BytesOf(ILockBytes& bytes) {
 class Sheet {
 public:
     explicit Sheet(SIZE size) {
-        BITMAPINFO info = {};
-        info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        const BITMAPINFO info = PixelInfo(size.cx, size.cy);
         void* bits = nullptr;
         m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
         m_dc.CreateCompatibleDC(nullptr);

@@ -1,5 +1,7 @@
 #include "studio/editing/PageBitmap.h"
 
+#include "studio/editing/Pixels.h"
+
 #include <algorithm>
 
 namespace Studio {
@@ -60,13 +62,7 @@ void PageBitmap::DottedFrame(const CRect& frame, DWORD first, DWORD second) {
 }
 
 void PageBitmap::Show(HDC dc, CPoint origin) const {
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = m_part.Width();
-    info.bmiHeader.biHeight = -m_part.Height();
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
+    const BITMAPINFO info = PixelInfo(m_part.Width(), m_part.Height());
     ::SetDIBitsToDevice(dc, m_part.left - origin.x, m_part.top - origin.y, m_part.Width(), m_part.Height(), 0,
                         0, 0, m_part.Height(), m_pixels.data(), &info, DIB_RGB_COLORS);
 }

@@ -3,6 +3,7 @@
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
 #include "studio/controls/Picture.h"
+#include "studio/editing/Pixels.h"
 
 namespace Studio {
 
@@ -28,16 +29,8 @@ bool BackBuffer::Fit(CSize size) {
     m_size = size;
     if (size.cx <= 0 || size.cy <= 0)
         return false;
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
     void* pixels = nullptr;
-    m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
-    if (!m_bitmap)
-        AfxThrowMemoryException();
+    m_bitmap = MakePixels(size.cx, size.cy, pixels);
     m_dc = ::CreateCompatibleDC(nullptr);
     m_before = ::SelectObject(m_dc, m_bitmap);
     m_wrapper = std::make_unique<Gdiplus::Bitmap>(size.cx, size.cy, size.cx * 4, PixelFormat32bppRGB,
