@@ -1,5 +1,6 @@
 #include "studio/editing/PictureFill.h"
 
+#include "appearance/PictureFile.h"
 #include "core/Geometry.h"
 #include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
@@ -23,6 +24,8 @@ constexpr ULONGLONG kLookAgain = 1000;  // milliseconds until a file is asked ag
 
 // A file's picture, copied so that the file is not kept open.
 std::unique_ptr<Bitmap> ReadPicture(const CString& path) {
+    if (Lumo::IsOversizedPicture(path))
+        return nullptr;
     Bitmap file(path);
     const auto width = static_cast<INT>(file.GetWidth());
     const auto height = static_cast<INT>(file.GetHeight());
