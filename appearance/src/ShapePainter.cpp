@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "appearance/PictureFile.h"
 #include "core/Geometry.h"
 #include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
@@ -98,6 +99,8 @@ private:
     }
 
     void FillTexture() {
+        if (IsOversizedPicture(m_fill.m_strImagePath))
+            return;
         Gdiplus::Image image(m_fill.m_strImagePath);
         if (image.GetLastStatus() != Gdiplus::Ok)
             return;
@@ -112,6 +115,8 @@ private:
 
     // Kept: into the whole rectangle for the ellipse, too.
     void DrawFadedPicture() {
+        if (IsOversizedPicture(m_fill.m_strImagePath))
+            return;
         Gdiplus::Bitmap bitmap(m_fill.m_strImagePath);
         if (bitmap.GetLastStatus() != Gdiplus::Ok)
             return;
