@@ -19,7 +19,11 @@ void Require(bool sound) {
 }
 
 Text ReasonOf(const CFileException& e) {
-    if (e.m_lOsError == ERROR_INVALID_NAME || e.m_lOsError == ERROR_FILENAME_EXCED_RANGE)
+    // The new file beside an old one has a few letters more; some systems report only that it is not there.
+    constexpr int kLongestName = 248;
+    const CString& path = e.m_strFileName;
+    if (e.m_lOsError == ERROR_INVALID_NAME || e.m_lOsError == ERROR_FILENAME_EXCED_RANGE ||
+        path.GetLength() - path.ReverseFind(L'\\') - 1 > kLongestName)
         return Text::kFaultName;
     switch (e.m_cause) {
         case CFileException::fileNotFound:

@@ -65,14 +65,15 @@ public:
 
 private:
     static bool Open(HWND owner) {
-        constexpr int kTries = 5;
-        constexpr DWORD kPause = 20;
-        for (int i = 0; i < kTries; ++i) {
-            if (::OpenClipboard(owner))
-                return true;
+        constexpr ULONGLONG kPatience = 100;
+        constexpr DWORD kPause = 10;
+        const ULONGLONG end = ::GetTickCount64() + kPatience;
+        while (!::OpenClipboard(owner)) {
+            if (::GetTickCount64() >= end)
+                return false;
             ::Sleep(kPause);
         }
-        return false;
+        return true;
     }
 
     const bool m_opened;
