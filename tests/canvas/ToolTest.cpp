@@ -3,6 +3,8 @@
 #include "canvas/src/ToolObjects.h"
 #include "core/UIObjectPoly.h"
 
+#include <functional>
+
 using namespace Lumo;
 
 namespace {
@@ -288,6 +290,28 @@ TEST_F(ToolTest, OnlyTheCurrentPageIsEdited) {
     EXPECT_EQ(Objects().size(), 1u);
     EXPECT_TRUE(m_canvas->m_selection.empty());
     EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(ToolTest, AReleaseUnderAnotherToolModeOrPageLetsTheMouseGo) {
+    CUICanvas* other = AddCanvas();
+    const std::function<void()> changes[] = {
+        [] { CUIToolBase::run_drawshape = DS_LINE; }, [] { CUIToolBase::run_drawshape = DS_BUTTON; },
+        [] { CUIToolBase::run_drawshape = DS_ARC; },  [this] { m_canvas->OnModeProperty(); },
+        [this] { m_canvas->SetInteractive(0); },      [&] { m_document->SetCurrentCanvas(other); },
+        [this] { m_document->ClearCanvas(); },
+    };
+    for (const auto& change : changes) {
+        m_document->AppendCanvas(m_canvas);
+        m_canvas->SetInteractive(1);
+        m_canvas->OnModeDraw();
+        CUIToolBase::run_drawshape = DS_RECTANGLE;
+        Press(60, 60);
+        ASSERT_EQ(::GetCapture(), m_canvas->m_hWnd);
+        change();
+        Release(90, 90);
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_EQ(CUIToolBase::run_handle, -1);
+    }
 }
 
 }  // namespace

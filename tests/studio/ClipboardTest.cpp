@@ -55,6 +55,21 @@ TEST_F(ClipboardTest, PastesNamedCopiesAsideAndSelectsThem) {
     EXPECT_EQ(4u, Objects().size());
 }
 
+TEST_F(ClipboardTest, ChildrenOfAPastedGroupKnowTheirPage) {
+    Add(Lumo::DS_RECTANGLE, 20, 30, 100, 60);
+    Add(Lumo::DS_ELLIPSE, 200, 30, 100, 60);
+    SelectAll(Page());
+    GroupSelection(Page());
+    ASSERT_TRUE(CopySelection(Page()));
+    PasteObjects(Page());
+    UngroupSelection(Page());
+    ASSERT_EQ(3u, Objects().size());
+    for (const Lumo::CUIObject* object : Objects()) {
+        EXPECT_EQ(&Page(), object->GetCanvas());
+        EXPECT_EQ(m_document, object->GetDocument());
+    }
+}
+
 TEST_F(ClipboardTest, OffersTheCaptionOfASingleObjectAndTakesForeignText) {
     Add(Lumo::DS_RECTANGLE, 20, 30, 100, 60)->SetText(L"Gain");
     ASSERT_TRUE(CopySelection(Page()));
