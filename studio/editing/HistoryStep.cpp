@@ -138,8 +138,7 @@ void HistoryStep::TouchList(StudioCanvas& page) {
 }
 
 void HistoryStep::TouchChildren(GroupObject& group) {
-    const auto isIt = [&](const Change& change) { return change.group == &group; };
-    if (std::any_of(m_changes.begin(), m_changes.end(), isIt))
+    if (!m_groups.insert(&group).second)
         return;
     Change change;
     change.group = &group;
@@ -196,6 +195,7 @@ void HistoryStep::SealStates() {
     m_states.shrink_to_fit();
     std::unordered_set<CUIObject*>().swap(m_placed);
     std::unordered_set<CUIObject*>().swap(m_whole);
+    std::unordered_set<GroupObject*>().swap(m_groups);
 }
 
 bool HistoryStep::Seal() {

@@ -85,6 +85,7 @@ private:
     std::vector<Lumo::CUIObject*> m_selectedBefore, m_selectedAfter;
     // While it is recorded: what is noted already.
     std::unordered_set<Lumo::CUIObject*> m_placed, m_whole;
+    std::unordered_set<GroupObject*> m_groups;
 };
 
 }  // namespace Studio

@@ -40,19 +40,6 @@ GroupObject* AsGroup(CUIObject* object) {
     return dynamic_cast<GroupObject*>(object);
 }
 
-// Puts the children of a group in its place on the page.
-void Dissolve(StudioCanvas& page, EditScope& edit, GroupObject& group, CUIObjectDeque& chosen) {
-    edit.TouchChildren(group);
-    edit.TouchPlace(group.GetChildren());
-    page.InvalidateObject(&group);
-    auto& objects = *page.Objects();
-    const auto place = std::find(objects.begin(), objects.end(), &group) - objects.begin();
-    objects.erase(objects.begin() + place);
-    const CUIObjectDeque children = group.TakeApart();
-    objects.insert(objects.begin() + place, children.begin(), children.end());
-    chosen.insert(chosen.end(), children.begin(), children.end());
-}
-
 }  // namespace
 
 CUIObjectDeque SelectionInOrder(const StudioCanvas& page) {
@@ -149,14 +136,25 @@ void UngroupSelection(StudioCanvas& page) {
         return;
     EditScope edit(page, Text::kStepUngroup);
     edit.TouchList(page);
-    CUIObjectDeque chosen;
-    for (CUIObject* object : SelectionInOrder(page)) {
-        GroupObject* group = AsGroup(object);
-        if (group && !group->GetChildren().empty())
-            Dissolve(page, edit, *group, chosen);
-        else
+    page.InvalidateAll(page.m_selection);
+    const ObjectSet selected = SetOf(page.m_selection);
+    CUIObjectDeque objects, chosen;
+    for (CUIObject* object : *page.Objects()) {
+        const bool isSelected = selected.count(object) != 0;
+        GroupObject* group = isSelected ? AsGroup(object) : nullptr;
+        if (group && !group->GetChildren().empty()) {
+            edit.TouchChildren(*group);
+            edit.TouchPlace(group->GetChildren());
+            const CUIObjectDeque children = group->TakeApart();
+            objects.insert(objects.end(), children.begin(), children.end());
+            chosen.insert(chosen.end(), children.begin(), children.end());
+            continue;
+        }
+        objects.push_back(object);
+        if (isSelected)
             chosen.push_back(object);
     }
+    page.Objects()->swap(objects);
     page.SelectOnly(chosen);
 }
 

@@ -189,6 +189,14 @@ void StudioCanvas::NameUniquely(CUIObject& object) {
     object.SetShapeName(name);
 }
 
+void StudioCanvas::Select(CUIObject* object, int add) {
+    if (!add) {
+        InvalidateAll(m_selection);
+        m_selection.clear();
+    }
+    CUICanvas::Select(object, add);
+}
+
 void StudioCanvas::SelectOnly(const Lumo::CUIObjectDeque& objects) {
     InvalidateAll(m_selection);
     m_selection.assign(objects.rbegin(), objects.rend());

@@ -99,6 +99,8 @@ public:
     void Adopt(Lumo::CUIObject& object);
     /// Puts an object on this page, named, with its back pointers set, and selects it alone.
     void AddObject(Lumo::CUIObject* object);
+    /// As the library's; a selection that it ends is repainted at once, however large it is.
+    void Select(Lumo::CUIObject* object, int add);
     /// Selects exactly these objects; the last of them counts as selected last.
     void SelectOnly(const Lumo::CUIObjectDeque& objects);
 

@@ -192,6 +192,7 @@ TEST_F(PropertyTest, EachFieldOfARecordIsItsOwn) {
             if (field.applies && !field.applies(*object))
                 continue;
             std::vector<PropertyValue> before;
+            before.reserve(fields.size());
             for (const Property& other : fields)
                 before.push_back(other.get(*object));
             PropertyValue value = field.get(*object);
@@ -200,13 +201,15 @@ TEST_F(PropertyTest, EachFieldOfARecordIsItsOwn) {
             else if (auto* code = std::get_if<int>(&value))
                 *code = *code == 1 ? 0 : 1;
             else if (auto* text = std::get_if<CString>(&value))
-                *text = L"in1.level";
+                *text = field.label == Text::kPropLineColors ? L"3E7BFA" : L"in1.level";
             else
                 value = PartsOf(0x12345678);
             field.set(*object, value);
             for (size_t k = 0; k < fields.size(); ++k) {
-                const bool isLineWidth = fields[k].label == Text::kPropLineWidth;
-                if (&fields[k] != &field && !isLineWidth) {
+                // A trend's lines bring their width and colour.
+                const bool isOfLines =
+                    fields[k].label == Text::kPropLineWidth || fields[k].label == Text::kPropLineColors;
+                if (&fields[k] != &field && !isOfLines) {
                     EXPECT_EQ(before[k], fields[k].get(*object)) << "record " << i << ", field " << k;
                 }
             }
@@ -224,6 +227,11 @@ TEST_F(PropertyTest, ListsInOneTextKeepWhatTheyDoNotName) {
     EXPECT_TRUE(Write(lines, CString(L"in3.level ,in2.level,out1.level")).IsEmpty());
     EXPECT_EQ(PropertyValue(CString(L"in3.level, in2.level, out1.level")), Read(lines).value);
     EXPECT_EQ(0x123456, EditExtras(*object)->prefs.m_trend.m_lines.front()->m_nColor);
+    const Property& colors = FindField(Behaviour::kTrend, Text::kPropLineColors);
+    EXPECT_EQ(PropertyValue(CString(L"123456, auto, auto")), Read(colors).value);
+    EXPECT_TRUE(Write(colors, CString(L"auto, ffffff")).IsEmpty());
+    EXPECT_EQ(PropertyValue(CString(L"auto, FFFFFF, auto")), Read(colors).value);
+    EXPECT_FALSE(Write(colors, CString(L"red")).IsEmpty());
     const Property& arguments = FindField(Behaviour::kButton, Text::kPropArguments);
     EXPECT_TRUE(Write(arguments, CString(L"1, , 3")).IsEmpty());
     EXPECT_EQ(L"3", FindExtras(*object)->prefs.m_button.m_strArguments[2]);
