@@ -87,6 +87,8 @@ void Toolbox::AddTooltips() {
         text = GetPlainText(tool.name);
         if (tool.key)
             text.AppendFormat(L" (%c)", tool.key);
+        // Some systems make the tip a few pixels too narrow for a long text.
+        text += L"  ";
         TTTOOLINFO info = {};
         info.cbSize = TTTOOLINFO_V1_SIZE;
         info.uFlags = TTF_SUBCLASS;

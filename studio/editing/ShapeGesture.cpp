@@ -41,13 +41,14 @@ bool ShapeGesture::Release(CPoint at, UINT flags) {
     return true;
 }
 
-// A shape that is too small to be seen vanishes.
+// A shape that is too small to be seen vanishes: it was a click, which selects.
 void ShapeGesture::Finish() {
     const Gdiplus::SizeF size = m_object->GetSize();
     if (size.Width < kTooSmall || size.Height < kTooSmall) {
         Cancel();
-        m_page.Select(nullptr, 0);
         ChooseTool(m_page, Lumo::DS_SELECT);
+        CPoint at = m_down;
+        m_page.Select(m_page.Document().ObjectAt(at), 0);
     }
 }
 

@@ -1,7 +1,9 @@
-// Shapes and lines whose outline has the dashes and caps of their record.
+// Shapes and lines whose outline has the dashes and caps of their record, and whose caption can be read.
 #pragma once
 
 #include "core/UIObjectPoly.h"
+
+#include <utility>
 
 namespace Studio {
 
@@ -15,7 +17,8 @@ bool DrawDashedOutline(Gdiplus::Graphics& g, const Lumo::CUICoordinate& coordina
 /// `widthFactor`.
 void DrawStyledFigure(Gdiplus::Graphics& g, Lumo::CUIObjectPoly& figure, float widthFactor);
 
-/// The library outlines its shapes with a solid pen. This one uses the dash style of the record.
+/// The library outlines its shapes with a solid pen and draws the caption below the fill, which hides it when
+/// it is opaque. This one uses the dash style of the record, and its caption is on top.
 template <class Base, OutlineKind kKind>
 class StyledShape : public Base {
 public:
@@ -24,12 +27,16 @@ public:
     void Draw(Gdiplus::Graphics* g) override {
         auto& coordinate = this->GetCoordinate();
         auto& line = coordinate.template Format<Lumo::CUIShapeFormatLineColor>();
+        auto& text = coordinate.template Format<Lumo::CUIShapeFormatText>();
         const int mode = line.m_nShapeMode;
+        const auto captioned = std::exchange(text.m_bEnabled, 0);
         // The fill covers the inner half of an outline: it comes after the dashed one, too.
         if (g && DrawDashedOutline(*g, coordinate, kKind))
             line.m_nShapeMode = 0;
         Base::Draw(g);
         line.m_nShapeMode = mode;
+        text.m_bEnabled = captioned;
+        Lumo::CUIObject::Draw(g);
     }
 };
 
