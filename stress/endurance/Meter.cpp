@@ -2,6 +2,7 @@
 
 #include <psapi.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace endurance {
@@ -9,7 +10,7 @@ namespace endurance {
 namespace {
 
 // What the platform itself moves by: a process that only fills a window moves by less.
-constexpr size_t kBytes = 512 * 1024;
+constexpr size_t kBytes = size_t{512} * 1024;
 constexpr int kObjects = 4;
 
 BOOL CALLBACK CountChild(HWND, LPARAM count) {
@@ -53,17 +54,11 @@ int Handles() {
     return count;
 }
 
-}  // namespace
+struct Change {
+    Holdings before, after;
+};
 
-Holdings Holdings::Now() {
-    PROCESS_MEMORY_COUNTERS counters = {};
-    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
-    int windows = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), &CountWindow, reinterpret_cast<LPARAM>(&windows));
-    return {counters.PagefileUsage, GraphicsObjects(), windows, Handles()};
-}
-
-bool Endure(const char* what, int rounds, const std::function<void(int round)>& action) {
+Change Repeat(int rounds, const std::function<void(int round)>& action) {
     const auto repeat = [&](int count) {
         for (int round = 0; round < count; ++round) {
             action(round);
@@ -75,15 +70,41 @@ bool Endure(const char* what, int rounds, const std::function<void(int round)>& 
         return Holdings::Now();
     };
     const Holdings before = repeat(rounds / 5);
-    const Holdings after = repeat(rounds);
-    const bool flat = after.bytes <= before.bytes + kBytes && after.graphics <= before.graphics + kObjects &&
-                      after.windows <= before.windows && after.handles <= before.handles + kObjects;
-    std::printf(
-        "%-44s %6d x  %7zu -> %7zu KB  graphics %4d -> %4d  windows %3d -> %3d  handles %3d -> %3d  %s\n",
-        what, rounds, before.bytes / 1024, after.bytes / 1024, before.graphics, after.graphics,
-        before.windows, after.windows, before.handles, after.handles, flat ? "flat" : "GROWS");
+    return {before, repeat(rounds)};
+}
+
+void Print(const char* what, int rounds, const Change& held, const char* verdict) {
+    std::printf("%-44s %6d x  %6zu -> %6zu KB  graphics %3d -> %3d  windows %d -> %d  handles %d -> %d  %s\n",
+                what, rounds, held.before.bytes / 1024, held.after.bytes / 1024, held.before.graphics,
+                held.after.graphics, held.before.windows, held.after.windows, held.before.handles,
+                held.after.handles, verdict);
     std::fflush(stdout);
+}
+
+}  // namespace
+
+Holdings Holdings::Now() {
+    PROCESS_MEMORY_COUNTERS counters = {};
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
+    int windows = 0;
+    ::EnumThreadWindows(::GetCurrentThreadId(), &CountWindow, reinterpret_cast<LPARAM>(&windows));
+    return {counters.PagefileUsage, GraphicsObjects(), windows, Handles()};
+}
+
+bool Endure(const char* what, int rounds, const std::function<void(int round)>& action, size_t platform) {
+    const Change held = Repeat(rounds, action);
+    const bool flat = held.after.bytes <= held.before.bytes + kBytes + platform &&
+                      held.after.graphics <= held.before.graphics + kObjects &&
+                      held.after.windows <= held.before.windows &&
+                      held.after.handles <= held.before.handles + kObjects;
+    Print(what, rounds, held, flat ? "flat" : "GROWS");
     return flat;
+}
+
+size_t GrowthOfPlatform(const char* what, int rounds, const std::function<void(int round)>& action) {
+    const Change held = Repeat(rounds, action);
+    Print(what, rounds, held, "(the platform alone)");
+    return held.after.bytes - std::min(held.before.bytes, held.after.bytes);
 }
 
 }  // namespace endurance

@@ -17,7 +17,11 @@ struct Holdings {
 };
 
 /// Does something `rounds` times after a fifth of that to warm up, and prints what was held before and after.
-/// False when more is held afterwards than the tolerances allow.
-bool Endure(const char* what, int rounds, const std::function<void(int round)>& action);
+/// False when more is held afterwards than the tolerances allow; `platform` is how many bytes the system
+/// alone grows by.
+bool Endure(const char* what, int rounds, const std::function<void(int round)>& action, size_t platform = 0);
+
+/// The same for what only the system does: prints and returns by how many bytes it grows.
+size_t GrowthOfPlatform(const char* what, int rounds, const std::function<void(int round)>& action);
 
 }  // namespace endurance

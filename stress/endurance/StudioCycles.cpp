@@ -46,6 +46,19 @@ void EditAndUndo(Host& host) {
     }
 }
 
+void UseClipboard(CWnd& owner) {
+    static const UINT format = ::RegisterClipboardFormat(L"Endurance");
+    if (!::OpenClipboard(owner.m_hWnd))
+        return;
+    ::EmptyClipboard();
+    ::SetClipboardData(format, ::GlobalAlloc(GMEM_MOVEABLE, 70000));
+    ::CloseClipboard();
+    if (::OpenClipboard(owner.m_hWnd)) {
+        ::GetClipboardData(format);
+        ::CloseClipboard();
+    }
+}
+
 }  // namespace
 
 bool EndureStudio(int cycles) {
@@ -67,14 +80,17 @@ bool EndureStudio(int cycles) {
             while (host.document->Edits().Undo()) {
             }
         });
-        flat &= Endure("Studio: copies pasted and undone", cycles, [&](int) {
+        const size_t platform =
+            GrowthOfPlatform("blocks put on the clipboard and taken", cycles, [&](int) { UseClipboard(host); });
+        const auto paste = [&](int) {
             SelectAll(host.Page());
             done = CopySelection(host.Page()) && done;
             PasteObjects(host.Page());
             host.Page().UpdateWindow();
             while (host.document->Edits().Undo()) {
             }
-        });
+        };
+        flat &= Endure("Studio: copies pasted and undone", cycles, paste, platform);
     }
     flat &= Endure("Studio: main windows opened, run and closed", cycles / 20, [&](int) {
         auto* frame = new MainFrame;

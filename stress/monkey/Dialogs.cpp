@@ -54,6 +54,18 @@ int AnswerOf(HWND dialog) {
     return IDOK;
 }
 
+// A menu takes keys whatever window they are for; the one it belongs to may go while it is open.
+void UseMenu() {
+    const HWND window = AfxGetMainWnd()->m_hWnd;
+    ++g_all;
+    for (int steps = g_random.Below(12); steps > 0; --steps)
+        ::PostMessage(window, WM_KEYDOWN, VK_DOWN, 0);
+    if (g_random.Chance(60))
+        ::PostMessage(window, WM_KEYDOWN, VK_RETURN, 0);
+    for (int level = 0; level < 3; ++level)
+        ::PostMessage(window, WM_KEYDOWN, VK_ESCAPE, 0);
+}
+
 LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
     WCHAR name[16] = L"";
     const HWND window = reinterpret_cast<HWND>(wParam);
@@ -67,17 +79,8 @@ LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CALLBACK OnMenu(int code, WPARAM wParam, LPARAM lParam) {
     const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-    if (code == HC_ACTION && message.message == WM_ENTERMENULOOP) {
-        ++g_all;
-        // The menu takes keys whatever window they are for; the one it belongs to may go while it is open.
-        const HWND window = AfxGetMainWnd()->m_hWnd;
-        for (int steps = g_random.Below(12); steps > 0; --steps)
-            ::PostMessage(window, WM_KEYDOWN, VK_DOWN, 0);
-        if (g_random.Chance(60))
-            ::PostMessage(window, WM_KEYDOWN, VK_RETURN, 0);
-        for (int level = 0; level < 3; ++level)
-            ::PostMessage(window, WM_KEYDOWN, VK_ESCAPE, 0);
-    }
+    if (code == HC_ACTION && message.message == WM_ENTERMENULOOP)
+        UseMenu();
     // A press on a scroll bar or a frame is followed until the button goes up.
     if (code == HC_ACTION && message.message == WM_NCLBUTTONDOWN)
         ::PostMessage(message.hwnd, WM_LBUTTONUP, 0, message.lParam);

@@ -12,7 +12,8 @@ namespace monkey {
 
 namespace {
 
-constexpr DWORD kPatience = 60'000;  // milliseconds
+constexpr DWORD kPause = 5000;  // milliseconds
+constexpr int kPauses = 12;     // after which nothing is expected any more
 constexpr int kHung = 2;
 constexpr size_t kKept = 60;
 
@@ -35,13 +36,23 @@ void OnAbort(int) {
     Report("the program aborted itself: a failed assertion or an exception that nobody caught");
 }
 
-DWORD WINAPI Watch(void*) {
+BOOL CALLBACK PressEscape(HWND window, LPARAM) {
+    ::PostMessage(window, WM_KEYDOWN, VK_ESCAPE, 0);
+    return TRUE;
+}
+
+// A menu or a drag of the system may wait for the user, who would leave it with Escape.
+DWORD WINAPI Watch(void* thread) {
+    int pauses = 0;
     for (std::uint64_t seen = g_sent;; seen = g_sent) {
-        ::Sleep(kPatience);
-        if (seen != g_sent)
-            continue;
-        Report("a message is not answered");
-        ::TerminateProcess(::GetCurrentProcess(), kHung);
+        ::Sleep(kPause);
+        pauses = seen == g_sent ? pauses + 1 : 0;
+        if (pauses > kPauses) {
+            Report("a message is not answered");
+            ::TerminateProcess(::GetCurrentProcess(), kHung);
+        }
+        if (pauses > 0)
+            ::EnumThreadWindows(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(thread)), &PressEscape, 0);
     }
 }
 
@@ -52,7 +63,8 @@ void StartJournal(const char* subject, std::uint64_t seed) {
     g_seed = seed;
     ::SetUnhandledExceptionFilter(&OnCrash);
     std::signal(SIGABRT, &OnAbort);
-    ::CloseHandle(::CreateThread(nullptr, 0, &Watch, nullptr, 0, nullptr));
+    ::CloseHandle(::CreateThread(nullptr, 0, &Watch,
+                                 reinterpret_cast<void*>(ULONG_PTR{::GetCurrentThreadId()}), 0, nullptr));
 }
 
 void Note(const char* format, ...) {
