@@ -1,6 +1,7 @@
 #include "studio/editing/History.h"
 
 #include "studio/editing/HistoryStep.h"
+#include "studio/editing/ObjectFactory.h"
 
 #include <algorithm>
 #include <utility>
@@ -122,7 +123,7 @@ void History::DropSteps(size_t kept) {
     CUIObjectDeque orphans;
     for (size_t i = kept; i < m_steps.size(); ++i)
         m_steps[i]->TakeOrphans(orphans);
-    m_document.ClearObject(&orphans);
+    ReleaseObjects(orphans);
     while (m_steps.size() > kept)
         m_steps.pop_back();
 }

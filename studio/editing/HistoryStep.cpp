@@ -4,7 +4,6 @@
 #include "studio/editing/GroupObject.h"
 
 #include <algorithm>
-#include <unordered_map>
 #include <utility>
 
 namespace Studio {
@@ -91,7 +90,7 @@ HistoryStep::HistoryStep(Lumo::CUIDocument& document, StudioCanvas& page, Text n
 HistoryStep::~HistoryStep() {
     CUIObjectDeque orphans = Orphans();
     if (!orphans.empty())
-        m_document.ClearObject(&orphans);
+        ReleaseObjects(orphans);
 }
 
 void HistoryStep::TakeOrphans(CUIObjectDeque& to) {

@@ -101,6 +101,14 @@ void ReleaseObject(CUIObject* object) {
 }
 
 void ReleaseObjects(Lumo::CUIObjectDeque& objects) {
+    // A group would look for its own children on every page: they go with the others instead.
+    for (size_t i = 0; i < objects.size(); ++i) {
+        const bool isGroup = objects[i] && objects[i]->GetDrawShape() == Lumo::DS_GROUP;
+        if (auto* group = isGroup ? dynamic_cast<GroupObject*>(objects[i]) : nullptr) {
+            const Lumo::CUIObjectDeque children = group->TakeApart();
+            objects.insert(objects.end(), children.begin(), children.end());
+        }
+    }
     // A group's Release keeps the group itself; the document's own way of clearing a list ends both kinds.
     Lumo::CUIDocument loose;
     loose.ClearObject(&objects);
