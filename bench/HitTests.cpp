@@ -21,9 +21,9 @@ CUIObjectPoly* AddPolyline(Page& page, int points, float x, float y) {
 
 double SecondsPerMiss(Page& page, int objects) {
     CPoint nowhere(-500, -500);
-    std::vector<double> seconds;
-    for (int round = 0; round < 51; ++round)
-        seconds.push_back(Seconds([&] { page.document->ObjectAt(nowhere); }));
+    std::vector<double> seconds(51);
+    for (double& second : seconds)
+        second = Seconds([&] { page.document->ObjectAt(nowhere); });
     return Median(seconds) / objects;
 }
 

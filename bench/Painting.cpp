@@ -22,7 +22,8 @@ DrawShape KindOf(int i) {
 }
 
 Gdiplus::RectF PlaceOf(int i) {
-    return {static_cast<float>(i % 40) * 48.0f, static_cast<float>(i / 40) * 43.0f, 44.0f, 39.0f};
+    const int row = i / 40;
+    return {static_cast<float>(i % 40) * 48.0f, static_cast<float>(row) * 43.0f, 44.0f, 39.0f};
 }
 
 CString CaptionOf(int i) {
@@ -129,9 +130,10 @@ public:
     // Ten objects where the pointer is; the others lie above it.
     explicit Drag(int objects) : m_page(1280, 800, true) {
         for (int i = 0; i < objects; ++i) {
-            const float x = static_cast<float>(i < kUnderPointer ? 596 + i % 4 * 10 : i % 125 * 10);
-            const float y = i < kUnderPointer ? 396.0f + static_cast<float>(i / 4) * 9.0f
-                                              : static_cast<float>(i / 125) * 4.5f;
+            const int row = i < kUnderPointer ? i / 4 : i / 125;
+            const auto x = static_cast<float>(i < kUnderPointer ? 596 + i % 4 * 10 : i % 125 * 10);
+            const float y =
+                i < kUnderPointer ? 396.0f + static_cast<float>(row) * 9.0f : static_cast<float>(row) * 4.5f;
             m_page.Add(DS_RECTANGLE, x, y, 8.0f, 4.0f)->SetText(CString(L"1"));
         }
         CUIObject* top = m_page.Add(DS_RECTANGLE, 600, 400, 20, 20);
@@ -188,9 +190,9 @@ void MeasureSkipping(std::vector<Line>& lines) {
     Gdiplus::Graphics g(&bitmap);
     const Gdiplus::RectF update(0, 0, 10, 10);
     const PaintScope scope(update);
-    std::vector<double> seconds;
-    for (int round = 0; round < 21; ++round)
-        seconds.push_back(Seconds([&] { page.document->DrawCanvas(&g, page.canvas.get()); }));
+    std::vector<double> seconds(21);
+    for (double& second : seconds)
+        second = Seconds([&] { page.document->DrawCanvas(&g, page.canvas.get()); });
     lines.push_back({"skipping one object outside the update rectangle", Median(seconds) / kObjects * 1e9,
                      "ns", 60, false, ""});
 }

@@ -76,8 +76,10 @@ Times TimesOf(int objects) {
     Times best(std::size(kOperations), std::numeric_limits<double>::max());
     for (int round = 0; round < 5; ++round) {
         Page page(1280, 800);
-        for (int i = 0; i < objects; ++i)
-            page.Add(DS_RECTANGLE, static_cast<float>(i % 1000), static_cast<float>(i / 100), 8, 4);
+        for (int i = 0; i < objects; ++i) {
+            const int row = i / 100;
+            page.Add(DS_RECTANGLE, static_cast<float>(i % 1000), static_cast<float>(row), 8, 4);
+        }
         for (size_t i = 0; i < best.size(); ++i)
             best[i] = std::min(best[i], Seconds([&] { kOperations[i].run(page); }));
     }

@@ -56,9 +56,10 @@ public:
 
 void MeasureUndo(std::vector<Line>& lines) {
     StudioPage page;
-    for (int i = 0; i < 10000; ++i)
-        page.Add(DS_RECTANGLE,
-                 {static_cast<float>(i % 125) * 10.0f, static_cast<float>(i / 125) * 9.0f, 8, 7});
+    for (int i = 0; i < 10000; ++i) {
+        const int row = i / 125;
+        page.Add(DS_RECTANGLE, {static_cast<float>(i % 125) * 10.0f, static_cast<float>(row) * 9.0f, 8, 7});
+    }
     page.Canvas().SelectOnly({(*page.Canvas().Objects())[5000]});
     constexpr int kSteps = 20000;
     const size_t before = PrivateBytes();
@@ -67,9 +68,9 @@ void MeasureUndo(std::vector<Line>& lines) {
         NudgeSelection(page.Canvas(), i % 2 ? 1.0f : -1.0f, 0);
     }
     const double kept = static_cast<double>(PrivateBytes() - before) / kSteps;
-    std::vector<double> seconds;
-    for (int i = 0; i < 100; ++i)
-        seconds.push_back(Seconds([&] { page.Canvas().Edits().Undo(); }));
+    std::vector<double> seconds(100);
+    for (double& second : seconds)
+        second = Seconds([&] { page.Canvas().Edits().Undo(); });
     lines.push_back({"undo of one move on a page of 10,000 objects in Studio", Median(seconds) * 1e3, "ms",
                      10, false, std::to_string(static_cast<int>(kept)) + " bytes kept per step"});
 }
@@ -88,7 +89,8 @@ double ProcessorSeconds() {
 // Shapes whose fill or text follows a level, and level meters.
 void FillLive(StudioPage& page) {
     for (int i = 0; i < 200; ++i) {
-        const Gdiplus::RectF place(static_cast<float>(i % 20) * 62.0f, static_cast<float>(i / 20) * 70.0f, 56,
+        const int row = i / 20;
+        const Gdiplus::RectF place(static_cast<float>(i % 20) * 62.0f, static_cast<float>(row) * 70.0f, 56,
                                    60);
         CString value;
         value.Format(L"in%d.level", i % 16 + 1);
