@@ -35,8 +35,8 @@ public:
     static CString PathFor(const CString& file) { return file + L".autosave"; }
     /// Whether a copy was left behind: it is there, and no running Studio holds it.
     static bool IsLeftBehind(const CString& copy);
-    /// Copies of documents without a file that were left behind in the folder. One that was not written to its
-    /// end is of no use, and removed.
+    /// Copies of documents without a file that were left behind in the folder. One that was not written to
+    /// its end is of no use, and removed.
     std::vector<CString> FindLeftBehind() const;
     /// The folder of the user's local data for Studio; empty when there is none.
     static CString DefaultFolder();
