@@ -116,15 +116,15 @@ std::vector<Bytes> SettingSeeds() {
 }  // namespace
 
 void AddFileLoaders(std::vector<Loader>& loaders) {
-    loaders.push_back({"studio-file", 15, FileSeeds(), LoadFile, Seal});
-    loaders.push_back({"studio-document", 10, FileSeeds(), LoadDocument, Seal});
+    loaders.push_back({"studio-file", 8, FileSeeds(), LoadFile, Seal});
+    loaders.push_back({"studio-document", 5, FileSeeds(), LoadDocument, Seal});
     std::vector<Bytes> seeds;
     for (const Loader& loader : loaders) {
         if (loader.name == "studio-clipboard")
             seeds = loader.seeds;
     }
-    loaders.push_back({"studio-paste", 3, seeds, PasteClipboard});
-    loaders.push_back({"settings-file", 15, SettingSeeds(), LoadSettings});
+    loaders.push_back({"studio-paste", 2, seeds, PasteClipboard});
+    loaders.push_back({"settings-file", 8, SettingSeeds(), LoadSettings});
 }
 
 const std::vector<Loader>& Loaders() {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr size_t kPage = 4096;
 constexpr size_t kRange = size_t(64) << 30;
-constexpr size_t kRecordStep = 64 * 1024;
+constexpr size_t kRecordStep = size_t{64} * 1024;
 // Nothing that is read here needs as much: a load that asks for more is out of hand.
 constexpr size_t kLargest = size_t(256) << 20;
 constexpr unsigned char kUnset = 0xCD;   // contents of a new block

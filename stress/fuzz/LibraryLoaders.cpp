@@ -84,16 +84,18 @@ Loader FormatLoader(const char* name) {
     if constexpr (requires { format.LoadDefault(); })
         format.LoadDefault();
     seeds.push_back(Stored([&](CArchive& ar) { format.Serialize(ar); }));
-    return {name, 10, seeds, load};
+    return {name, 20, seeds, load};
 }
 
 // A group as files hold it: with children, which are groups in part.
 Owner<CUIObjectList> MakeFullGroup(int depth) {
     auto group = Make<CUIObjectList>(DS_LIST);
+    if (depth > 0) {
+        group->MakeGroup(MakeFullGroup(depth - 1).release());
+        return group;
+    }
     for (DrawShape kind : {DS_RECTANGLE, DS_LINE, DS_TEXTEDIT, DS_SYMBOL})
         group->MakeGroup(CUIToolBase::CreateUIObject(kPlace, kind));
-    if (depth > 0)
-        group->MakeGroup(MakeFullGroup(depth - 1).release());
     return group;
 }
 
@@ -204,6 +206,6 @@ void AddLibraryLoaders(std::vector<Loader>& loaders) {
     const DocumentOwner document = MakeDocument();
     document->Rebuild();
     const std::vector<Bytes> seeds = {Stored([&](CArchive& ar) { document->Serialize(ar); })};
-    loaders.push_back({"document", 30, seeds, LoadDocumentArchive});
-    loaders.push_back({"document-file", 10, seeds, LoadDocumentFile});
+    loaders.push_back({"document", 20, seeds, LoadDocumentArchive});
+    loaders.push_back({"document-file", 6, seeds, LoadDocumentFile});
 }

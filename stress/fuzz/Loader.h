@@ -43,7 +43,7 @@ void AddFileLoaders(std::vector<Loader>& loaders);
 /// What `store` writes to an archive.
 template <class Store>
 Bytes Stored(Store store) {
-    CMemFile file;
+    CMemFile file(16 * 1024);
     CArchive ar(&file, CArchive::store);
     store(ar);
     ar.Close();

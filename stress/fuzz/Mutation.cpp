@@ -86,7 +86,7 @@ void MutateString(Bytes& bytes, Random& random) {
         return;
     const size_t at = places[random.Below(places.size())];
     const Bytes head = StringHead(random);
-    ReplaceAt(bytes, at, random.OneIn(3) ? 4 + std::min<size_t>(bytes[at + 3] * 2, bytes.size() - at - 4) : 4,
+    ReplaceAt(bytes, at, random.OneIn(3) ? 4 + std::min(size_t{bytes[at + 3]} * 2, bytes.size() - at - 4) : 4,
               head.data(), head.size());
 }
 
@@ -170,7 +170,10 @@ void Change(Bytes& bytes, const std::vector<Bytes>& seeds, Random& random) {
 }  // namespace
 
 Bytes Mutate(const std::vector<Bytes>& seeds, Random& random) {
-    Bytes bytes = seeds[random.Below(seeds.size())];
+    // Small seeds are tried more often: they are quick, and a change finds their few numbers.
+    const Bytes& one = seeds[random.Below(seeds.size())];
+    const Bytes& other = seeds[random.Below(seeds.size())];
+    Bytes bytes = one.size() < other.size() ? one : other;
     // Most inputs are wrong in one place only: those get furthest into a loader.
     const size_t changes = random.OneIn(64) ? 0 : random.OneIn(3) ? 2 + random.Below(6) : 1;
     for (size_t i = 0; i < changes; ++i)

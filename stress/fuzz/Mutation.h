@@ -26,7 +26,7 @@ private:
 };
 
 /// No input is longer.
-inline constexpr size_t kLongestInput = 256 * 1024;
+inline constexpr size_t kLongestInput = size_t{256} * 1024;
 
 /// One of the seeds, changed in one place or several; now and then not at all.
 Bytes Mutate(const std::vector<Bytes>& seeds, Random& random);

@@ -72,7 +72,7 @@ Loader RecordLoader(const char* name) {
     if constexpr (requires { record->m_button; })
         record->m_button.m_strConfirmText = CString(L'?', 300);
     seeds.push_back(Archived(*record));
-    return {name, 10, seeds, LoadRecord<Record>};
+    return {name, 20, seeds, LoadRecord<Record>};
 }
 
 // Texts until the archive ends.
@@ -133,5 +133,5 @@ void AddPreferenceLoaders(std::vector<Loader>& loaders) {
     loaders.push_back(RecordLoader<CPrefTrendLine>("pref-trend-line"));
     loaders.push_back(RecordLoader<CPrefTrend>("pref-trend"));
     loaders.push_back(RecordLoader<CUIPreference>("pref-set"));
-    loaders.back().share = 30;
+    loaders.back().share = 40;
 }

@@ -27,14 +27,18 @@ constexpr Lumo::DrawShape kKinds[] = {
 };
 
 PageContents MakePage(LPCWSTR name, std::vector<ObjectPtr> objects) {
-    return {name, std::move(objects)};
+    PageContents page;
+    page.name = name;
+    page.objects = std::move(objects);
+    return page;
 }
 
 ObjectPtr MakeGroup(int depth) {
     ObjectPtr group = MakeObject(ObjectClass::kGroup);
     std::deque<CUIObject*> children;
     children.push_back(depth > 1 ? MakeGroup(depth - 1).release() : SampleObject(Lumo::DS_ELLIPSE).release());
-    children.push_back(SampleObject(Lumo::DS_POLYLINE).release());
+    if (depth == 1)
+        children.push_back(SampleObject(Lumo::DS_POLYLINE).release());
     dynamic_cast<GroupObject&>(*group).AdoptAll(children);
     return group;
 }

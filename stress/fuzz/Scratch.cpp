@@ -13,7 +13,7 @@ CString ScratchPath() {
 }  // namespace
 
 CString WriteScratch(const Bytes& bytes) {
-    const CString path = ScratchPath();
+    CString path = ScratchPath();
     CFile file(path, CFile::modeCreate | CFile::modeWrite);
     file.Write(bytes.data(), static_cast<UINT>(bytes.size()));
     file.Close();

@@ -27,7 +27,7 @@ void PutOnClipboard(HWND owner, const Bytes& bytes) {
 }  // namespace
 
 StudioHost& StudioHost::Get() {
-    static StudioHost* const host = new StudioHost;  // windows cannot outlive main
+    static auto* const host = new StudioHost;  // windows cannot outlive main
     return *host;
 }
 

@@ -147,7 +147,7 @@ Loader EmbeddedLoader() {
 }  // namespace
 
 void AddStudioLoaders(std::vector<Loader>& loaders) {
-    loaders.push_back({"studio-pages", 80, PageSeeds(), LoadPages<kArchiveVersion>});
+    loaders.push_back({"studio-pages", 60, PageSeeds(), LoadPages<kArchiveVersion>});
     std::vector<Bytes> seeds = PageSeeds();
     seeds.insert(seeds.begin(), 20, FirstVersion());
     loaders.push_back({"studio-pages-1", 20, seeds, LoadPages<1>});

@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr uint64_t kRound = 20000;       // inputs of one process
-constexpr ULONGLONG kHang = 10 * 1000;   // milliseconds for one input, far more than any needs
-constexpr ULONGLONG kStart = 60 * 1000;  // until the first one: seeds and windows are made
+constexpr uint64_t kRound = 20000;   // inputs of one process
+constexpr ULONGLONG kHang = 10000;   // milliseconds for one input, far more than any needs
+constexpr ULONGLONG kStart = 60000;  // until the first one: seeds and windows are made
 constexpr int kMostFailures = 25;
 
 class Process {
