@@ -46,6 +46,17 @@ inline Gdiplus::RectF Inflated(const Gdiplus::RectF& rect, float margin) {
     return {rect.X - margin, rect.Y - margin, rect.Width + 2.0f * margin, rect.Height + 2.0f * margin};
 }
 
+/// How far from the origin something may reach to be drawn at all: far beyond any screen, and far from where
+/// the graphics library takes minutes, ends the stack or leaves its memory.
+inline constexpr float kFarthest = 4.0e6f;
+
+/// True when all of `rect` (page units, size not negative) lies where things can be drawn; false also when it
+/// holds NaN.
+inline bool IsDrawable(const Gdiplus::RectF& rect) {
+    return rect.X >= -kFarthest && rect.X + rect.Width <= kFarthest && rect.Y >= -kFarthest &&
+           rect.Y + rect.Height <= kFarthest;
+}
+
 /// The same area with a width and height that are not negative.
 inline Gdiplus::RectF Normalised(const Gdiplus::RectF& rect) {
     return {rect.Width < 0.0f ? rect.X + rect.Width : rect.X,

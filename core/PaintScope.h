@@ -17,7 +17,8 @@ public:
     PaintScope(const PaintScope&) = delete;
     PaintScope& operator=(const PaintScope&) = delete;
 
-    /// True when a scope is active and `bounds` (page units, size not negative) does not touch it.
+    /// True when a scope is active and `bounds` (page units, size not negative) does not touch it, and for
+    /// bounds that are not `IsDrawable`.
     static bool Misses(const Gdiplus::RectF& bounds);
 
 private:

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "appearance/PictureFile.h"
+#include "core/EllipseOutline.h"
 #include "core/Geometry.h"
 #include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
@@ -39,12 +40,12 @@ public:
 
     void PaintOutline() {
         DWORD color = 0;
-        if (!m_lineColor.GetPenColor(&color))
+        if (!m_lineColor.GetPenColor(&color) || !IsDrawable(Normalised(m_position)))
             return;
         GraphicsStateScope state(m_graphics);
         Gdiplus::Pen pen{Gdiplus::Color(color), m_penWidth};
         if (m_kind == ShapeKind::Ellipse)
-            m_graphics.DrawEllipse(&pen, m_position);
+            DrawEllipseOutline(m_graphics, pen, m_position);
         else
             m_graphics.DrawRectangle(&pen, m_position);
     }

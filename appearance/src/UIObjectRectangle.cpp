@@ -1,6 +1,7 @@
 #include "appearance/UIObjectRectangle.h"
 
 #include "appearance/src/ShapePainter.h"
+#include "core/EllipseOutline.h"
 #include "core/Geometry.h"
 
 namespace Lumo {
@@ -64,10 +65,11 @@ void CUIObjectEllipse::Draw(Gdiplus::Graphics* graphics) {
 }
 
 void CUIObjectEllipse::DrawContents(Gdiplus::Graphics* graphics) {
-    if (graphics == nullptr)
+    const Gdiplus::RectF position = m_coordinate.GetPosition();
+    if (graphics == nullptr || !IsDrawable(Normalised(position)))
         return;
     Gdiplus::Pen pen{Gdiplus::Color(0xFF000000), 2.0f};
-    graphics->DrawEllipse(&pen, m_coordinate.GetPosition());
+    DrawEllipseOutline(*graphics, pen, position);
 }
 
 void CUIObjectEllipse::DrawDragImage(Gdiplus::Graphics* graphics, Gdiplus::PointF&) {

@@ -1,5 +1,7 @@
 #include "behaviour/src/EllipseHit.h"
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <type_traits>
 
@@ -19,6 +21,18 @@ CRect Normalized(CRect rect) {
     return rect;
 }
 
+// A region takes memory for every line of the ellipse.
+constexpr float kLargestRegion = 32768.0f;
+
+// How far the centre of the ellipse lies from the nearest point of a rectangle, the ellipse's edge being
+// at 1.
+float NearestPart(const Gdiplus::RectF& asked, const Gdiplus::RectF& ellipse) {
+    const Gdiplus::PointF centre = CentreOf(ellipse);
+    const float x = centre.X - std::min(std::max(centre.X, asked.X), asked.GetRight());
+    const float y = centre.Y - std::min(std::max(centre.Y, asked.Y), asked.GetBottom());
+    return std::hypot(x / (ellipse.Width * 0.5f), y / (ellipse.Height * 0.5f));
+}
+
 bool Overlap(const CRect& a, const CRect& b) {
     return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
@@ -32,6 +46,8 @@ int HitEllipse(Gdiplus::RectF& rect, Gdiplus::RectF position, float lineWidth) {
     const CRect bounds = Normalized(RectAtlFromGdi(position));
     if (!Overlap(asked, bounds))
         return 0;
+    if (std::max(std::fabs(position.Width), std::fabs(position.Height)) > kLargestRegion)
+        return NearestPart(Normalised(rect), Normalised(position)) <= 1.0f;
     const RegionHandle ellipse(::CreateEllipticRgn(bounds.left, bounds.top, bounds.right, bounds.bottom));
     return ellipse && ::RectInRegion(ellipse.get(), &asked);
 }

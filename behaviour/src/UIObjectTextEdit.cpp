@@ -1,6 +1,8 @@
 #include "behaviour/UIObjectTextEdit.h"
 
 #include "behaviour/src/EllipseHit.h"
+#include "core/EllipseOutline.h"
+#include "core/Geometry.h"
 
 namespace Lumo {
 
@@ -36,10 +38,11 @@ int CUIObjectTextEdit::GetType() {
 }
 
 void CUIObjectTextEdit::DrawContents(Gdiplus::Graphics* g) {
-    if (g == nullptr)
+    const Gdiplus::RectF position = GetPosition();
+    if (g == nullptr || !IsDrawable(Normalised(position)))
         return;
     const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 2.0f);
-    g->DrawEllipse(&pen, GetPosition());
+    DrawEllipseOutline(*g, pen, position);
 }
 
 void CUIObjectTextEdit::DrawDragImage(Gdiplus::Graphics*, Gdiplus::PointF&) {}

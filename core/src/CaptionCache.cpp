@@ -32,6 +32,8 @@ std::unique_ptr<Gdiplus::Font> MakeFont(const Gdiplus::FontFamily& family, const
 }
 
 std::unique_ptr<Gdiplus::Font> MakeFont(const CUIShapeFormatText& text) {
+    if (text.m_nUnit < Gdiplus::UnitWorld || text.m_nUnit > Gdiplus::UnitMillimeter)
+        return nullptr;
     const Gdiplus::FontFamily family(text.m_strFontName);
     if (family.IsAvailable())
         return MakeFont(family, text);

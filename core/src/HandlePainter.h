@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "core/EllipseOutline.h"
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
 
@@ -22,7 +23,7 @@ public:
     void PaintCircle(const Gdiplus::RectF& rect) {
         if (!Prepare(rect))
             return;
-        m_graphics.DrawEllipse(&*m_pen, rect);
+        DrawEllipseOutline(m_graphics, *m_pen, rect);
         m_graphics.FillEllipse(&*m_brush, Inflated(rect, -1.0f));
     }
 

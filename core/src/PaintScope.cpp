@@ -1,5 +1,7 @@
 #include "core/PaintScope.h"
 
+#include "core/Geometry.h"
+
 namespace Lumo {
 
 namespace {
@@ -23,6 +25,8 @@ PaintScope::~PaintScope() {
 
 bool PaintScope::Misses(const Gdiplus::RectF& bounds) {
     const PaintScope* scope = s_pActive;
+    if (!IsDrawable(bounds))
+        return true;
     return scope != nullptr && (bounds.X > scope->m_fRight || bounds.X + bounds.Width < scope->m_fLeft ||
                                 bounds.Y > scope->m_fBottom || bounds.Y + bounds.Height < scope->m_fTop);
 }

@@ -1,10 +1,12 @@
 #include "studio/editing/StyledShapes.h"
 
+#include "core/EllipseOutline.h"
 #include "core/Geometry.h"
 #include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace Studio {
@@ -29,6 +31,21 @@ RectF BoundsOf(const std::vector<PointF>& points) {
     return {left, top, right - left, bottom - top};
 }
 
+float LengthOf(const std::vector<PointF>& points) {
+    float length = 0.0f;
+    for (size_t i = 1; i < points.size(); ++i)
+        length += std::hypot(points[i].X - points[i - 1].X, points[i].Y - points[i - 1].Y);
+    return length;
+}
+
+// Dashes without number take seconds and cannot be seen: such an outline is drawn through.
+void SetDash(Gdiplus::Pen& pen, int style, float length) {
+    constexpr float kMostDashes = 5000.0f;
+    const float dash = std::max(pen.GetWidth(), 0.1f) * 2.0f;
+    if (length <= kMostDashes * dash)
+        pen.SetDashStyle(static_cast<Gdiplus::DashStyle>(style));
+}
+
 }  // namespace
 
 bool DrawDashedOutline(Gdiplus::Graphics& g, const Lumo::CUICoordinate& coordinate, OutlineKind kind) {
@@ -42,9 +59,9 @@ bool DrawDashedOutline(Gdiplus::Graphics& g, const Lumo::CUICoordinate& coordina
     if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, width + 1.0f)))
         return true;
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
-    pen.SetDashStyle(static_cast<Gdiplus::DashStyle>(dash));
+    SetDash(pen, dash, 2.0f * (bounds.Width + bounds.Height));
     if (kind == OutlineKind::kEllipse)
-        g.DrawEllipse(&pen, bounds);
+        Lumo::DrawEllipseOutline(g, pen, bounds);
     else
         g.DrawRectangle(&pen, bounds);
     return true;
@@ -61,7 +78,7 @@ void DrawStyledFigure(Gdiplus::Graphics& g, Lumo::CUIObjectPoly& figure, float w
     if (Lumo::PaintScope::Misses(Lumo::Inflated(BoundsOf(points), width * kCapReach + 1.0f)))
         return;
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
-    pen.SetDashStyle(static_cast<Gdiplus::DashStyle>(coordinate.GetLineDashStyle()));
+    SetDash(pen, coordinate.GetLineDashStyle(), LengthOf(points));
     pen.SetStartCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineStartCap()));
     pen.SetEndCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineEndCap()));
     pen.SetLineJoin(Gdiplus::LineJoinRound);

@@ -1,0 +1,87 @@
+// Shapes that a damaged file puts very far away or makes very large: drawn where that makes sense, else left
+// out.
+#include "appearance/UIObjectRectangle.h"
+#include "behaviour/UIObjectTextEdit.h"
+#include "support/Surface.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace Lumo;
+using Gdiplus::RectF;
+
+namespace {
+
+constexpr float kInfinite = std::numeric_limits<float>::infinity();
+constexpr float kNoNumber = std::numeric_limits<float>::quiet_NaN();
+
+TEST(FarAway, AnEllipseLooksAsItDoesNearTheOrigin) {
+    const auto draw = [](float x, float y) {
+        auto surface = std::make_unique<Surface>(80, 60);
+        CUIObjectEllipse ellipse(RectF(x + 10.5f, y + 10.25f, 50, 30), DS_ELLIPSE);
+        ellipse.SetLineShapeMode(1);
+        ellipse.GetCoordinate().Format<CUIShapeFormatText>().m_bEnabled = 0;
+        surface->graphics().TranslateTransform(-x, -y);
+        ellipse.Draw(&surface->graphics());
+        Gdiplus::PointF nowhere;
+        ellipse.DrawDragImage(&surface->graphics(), nowhere);
+        return surface;
+    };
+    const auto near_ = draw(0, 0);
+    ASSERT_NE(near_->Painted(), CRect(0, 0, 0, 0));
+    for (const float at : {3000.0f, 5000.0f, 30000.0f, 500000.0f}) {
+        const auto far_ = draw(at, -at);
+        for (int y = 0; y < 60; ++y)
+            for (int x = 0; x < 80; ++x)
+                ASSERT_EQ(near_->At(x, y), far_->At(x, y)) << at << ": " << x << ", " << y;
+    }
+    // Far too large for the surface, whose right half lies inside.
+    Surface surface(80, 60);
+    CUIObjectEllipse large(RectF(40, -50000, 100000, 100000), DS_ELLIPSE);
+    large.Draw(&surface.graphics());
+    EXPECT_EQ(Surface::kWhite, surface.At(20, 30));
+    EXPECT_NE(Surface::kWhite, surface.At(60, 30));
+}
+
+TEST(FarAway, WhatCannotBeDrawnPaintsNothing) {
+    for (const RectF& place :
+         {RectF(9.5e9f, 9.0e9f, 100, 25), RectF(0, 0, 3.0e38f, 20), RectF(-kInfinite, 0, 9, 9),
+          RectF(kNoNumber, 0, 9, 9), RectF(0, 0, 20, kNoNumber), RectF(0, -1.0e7f, 50, 2.0e7f)}) {
+        Surface surface(40, 40);
+        CUIObjectRectangle rectangle(place, DS_RECTANGLE);
+        CUIObjectEllipse ellipse(place, DS_ELLIPSE);
+        CUIObjectTextEdit text(place, DS_TEXTEDIT);
+        Gdiplus::PointF nowhere;
+        for (CUIObject* object : {static_cast<CUIObject*>(&rectangle), static_cast<CUIObject*>(&ellipse)}) {
+            object->GetCoordinate().Format<CUIShapeFormatFill>().m_nShapeMode = 5;
+            object->Draw(&surface.graphics());
+        }
+        ellipse.DrawContents(&surface.graphics());
+        text.DrawContents(&surface.graphics());
+        EXPECT_EQ(CRect(0, 0, 0, 0), surface.Painted()) << place.X << ", " << place.Width;
+    }
+    Surface surface(40, 40);
+    CUIObjectRectangle caption(RectF(0, 0, 40, 40), DS_ARC);
+    caption.SetTextFontSize(kNoNumber);
+    caption.CUIObject::Draw(&surface.graphics());
+    caption.SetTextFontSize(9);
+    caption.SetTextUnit(0x1000007);
+    caption.CUIObject::Draw(&surface.graphics());
+    EXPECT_EQ(CRect(0, 0, 0, 0), surface.Painted());
+}
+
+TEST(FarAway, AHugeTextBoxIsHitInsideItsEllipse) {
+    CUIObjectTextEdit text(RectF(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f), DS_TEXTEDIT);
+    const auto hits = [&](float x, float y) {
+        RectF rect(x, y, 2, 2);
+        return text.HitTest(rect);
+    };
+    EXPECT_TRUE(hits(0, 0));
+    EXPECT_TRUE(hits(0, 0.99e9f));
+    EXPECT_FALSE(hits(0.9e9f, 0.9e9f));
+    EXPECT_FALSE(hits(1.2e9f, 0));
+}
+
+}  // namespace
