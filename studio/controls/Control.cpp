@@ -86,8 +86,9 @@ double Control::Value(LPCWSTR suffix, double otherwise) {
 }
 
 int Control::Channel() {
+    const CString binding = Binding();
     int number = 0;
-    for (LPCWSTR c = Binding().GetString(); *c && *c != L'.'; ++c)
+    for (LPCWSTR c = binding; *c && *c != L'.'; ++c)
         number = std::iswdigit(*c) && number < 100 ? number * 10 + (*c - L'0') : number;
     return number;
 }

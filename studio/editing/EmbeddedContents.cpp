@@ -1,5 +1,6 @@
 #include "studio/editing/EmbeddedContents.h"
 
+#include "studio/document/Checksum.h"
 #include "studio/document/ObjectArchive.h"
 #include "studio/editing/ComPtr.h"
 
@@ -42,8 +43,27 @@ std::vector<BYTE> LoadBytes(CArchive& ar) {
     return bytes;
 }
 
-int SideAt(const std::vector<BYTE>& png, size_t at) {
-    return png[at] << 24 | png[at + 1] << 16 | png[at + 2] << 8 | png[at + 3];
+DWORD NumberAt(const std::vector<BYTE>& png, size_t at) {
+    return DWORD{png[at]} << 24 | DWORD{png[at + 1]} << 16 | DWORD{png[at + 2]} << 8 | png[at + 3];
+}
+
+// Not every decoder survives blocks that are damaged or stand where they must not. Each block is its length,
+// name, data and checksum; the first one tells the size and the last one, without data, ends the file.
+bool AreBlocksSound(const std::vector<BYTE>& png) {
+    constexpr size_t kSignature = 8, kAround = 12;
+    constexpr DWORD kFirst = 0x49484452, kLast = 0x49454E44;  // "IHDR", "IEND"
+    size_t at = kSignature;
+    for (bool first = true; at + kAround <= png.size(); first = false) {
+        const DWORD length = NumberAt(png, at);
+        const DWORD name = NumberAt(png, at + 4);
+        if (length > png.size() - at - kAround || first != (name == kFirst) ||
+            UpdateChecksum(0, &png[at + 4], length + 4) != NumberAt(png, at + 8 + length))
+            return false;
+        at += kAround + length;
+        if (name == kLast)
+            return at == png.size();
+    }
+    return false;
 }
 
 // A PNG file begins with its signature and a block that tells the size: a few bytes can claim a picture that
@@ -53,12 +73,14 @@ bool IsPicture(const std::vector<BYTE>& png) {
     constexpr size_t kWidth = sizeof kBegin, kHeight = kWidth + 4;
     if (png.size() < kHeight + 4 || std::memcmp(png.data(), kBegin, sizeof kBegin) != 0)
         return false;
-    const auto isSide = [](int side) { return side > 0 && side <= EmbeddedContents::kLargestSide; };
-    return isSide(SideAt(png, kWidth)) && isSide(SideAt(png, kHeight));
+    const auto isSide = [](DWORD side) { return side > 0 && side <= DWORD{EmbeddedContents::kLargestSide}; };
+    return isSide(NumberAt(png, kWidth)) && isSide(NumberAt(png, kHeight));
 }
 
 // Copied into the format that is drawn fastest.
 std::unique_ptr<Bitmap> Decode(const std::vector<BYTE>& png) {
+    if (!AreBlocksSound(png))
+        return nullptr;
     HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, png.size());
     if (!memory)
         return nullptr;

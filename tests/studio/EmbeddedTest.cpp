@@ -26,7 +26,7 @@ constexpr DWORD kRed = 0xFFE02040;
 ComPtr<IOleObject> MakeStaticPicture(IStorage& storage) {
     constexpr int kSide = 40;
     BITMAPINFOHEADER info = {sizeof info, kSide, kSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof info + kSide * kSide * sizeof(DWORD));
+    HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof info + sizeof(DWORD) * kSide * kSide);
     auto* dib = static_cast<BYTE*>(::GlobalLock(memory));
     std::memcpy(dib, &info, sizeof info);
     std::fill_n(reinterpret_cast<DWORD*>(dib + sizeof info), kSide * kSide, kRed & 0xFFFFFF);
@@ -227,12 +227,16 @@ TEST_F(EmbeddedTest, RefusesContentsThatWereNeverStored) {
 }
 
 TEST_F(EmbeddedTest, AnUndecodablePictureLeavesTheFrame) {
-    Bytes png = MakeItem()->Capture()->Picture();
+    const Bytes png = MakeItem()->Capture()->Picture();
     ASSERT_GT(png.size(), 40u);
-    png.resize(36);
-    AddEmbedded(std::make_shared<const EmbeddedContents>(L"x", Bytes(), png));
-    EXPECT_NE(PixelAt(200, 100), PixelAt(20, 30));
-    EXPECT_NE(kRed, PixelAt(60, 40));
+    const auto head = png.begin() + 8;  // the block that tells the size
+    Bytes twoHeads = png;
+    twoHeads.insert(twoHeads.begin() + 8, head, head + 25);
+    for (const Bytes& picture : {Bytes(png.begin(), png.begin() + 36), twoHeads}) {
+        AddEmbedded(std::make_shared<const EmbeddedContents>(L"x", Bytes(), picture));
+        EXPECT_NE(PixelAt(200, 100), PixelAt(20, 30));
+        EXPECT_NE(kRed, PixelAt(60, 40));
+    }
 }
 
 TEST_F(EmbeddedTest, DataThatIsNoItemIsRefusedWithAReason) {
