@@ -82,19 +82,24 @@ list_stale() {
 
 list_sources >"$work/sources"
 list_headers >"$work/headers"
-list_stale >"$work/stale"
-[ -s "$work/stale" ] || exit 0
+list_stale >"$work/pending"
 
-sort -t "$tab" -k 2 -k 1,1 "$work/stale" | awk -F "$tab" -v work="$work" -v size="$batch_size" '
-    $2 != options || ++count > size {
-        options = $2
-        count = 1
-        batch = sprintf("%s/batches/%02d", work, ++batches)
-        print options >batch
-    }
-    { print $1 >batch }
-'
-find "$work/batches" -type f -print0 | xargs -0 -n 1 -P "$(nproc)" scripts/tidy-batch.sh
+# A round for all of them, and one more for the files that their batches refused.
+round=0
+while [ -s "$work/pending" ]; do
+    round=$((round + 1))
+    sort -t "$tab" -k 2 -k 1,1 "$work/pending" | awk -F "$tab" -v prefix="$work/batches/$round" -v size="$batch_size" '
+        $2 != options || ++count > size {
+            options = $2
+            count = 1
+            batch = sprintf("%s.%03d", prefix, ++batches)
+            print options >batch
+        }
+        { print $1 >batch }
+    '
+    find "$work/batches" -name "$round.???" -print0 | sort -z | xargs -0 -n 1 -P "$(nproc)" scripts/tidy-batch.sh
+    find "$work/batches" -name "$round.*.refused" -exec cat {} + >"$work/pending"
+done
 
 # A finding in a header comes up in every batch that includes it.
 find "$work/batches" -name '*.found' -exec cat {} + | awk '
