@@ -5,6 +5,7 @@ cd "$(dirname "$0")/.."
 
 mkdir -p build/cppcheck
 git ls-files -- '*.cpp' >build/cppcheck.files
+echo "Checking with cppcheck"
 cppcheck --quiet --error-exitcode=1 -j "$(nproc)" --cppcheck-build-dir=build/cppcheck --file-list=build/cppcheck.files \
     --enable=warning,performance,portability --suppressions-list=scripts/cppcheck.suppressions \
     --std=c++20 --platform=win64 --library=windows --library=mfc --library=googletest --library=scripts/cppcheck.cfg \

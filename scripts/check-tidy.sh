@@ -84,6 +84,8 @@ list_sources >"$work/sources"
 list_headers >"$work/headers"
 list_stale >"$work/pending"
 
+[ ! -s "$work/pending" ] || echo "Checking with clang-tidy: $(wc -l <"$work/pending") files"
+
 # A round for all of them, and one more for the files that their batches refused.
 round=0
 while [ -s "$work/pending" ]; do
