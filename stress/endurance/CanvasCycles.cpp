@@ -49,7 +49,8 @@ private:
     void Fill() {
         for (int i = 0; i < 200; ++i) {
             const int row = i / 20;
-            const Gdiplus::RectF place(static_cast<float>(i % 20) * 40.0f, static_cast<float>(row) * 60.0f, 34, 50);
+            const Gdiplus::RectF place(static_cast<float>(i % 20) * 40.0f, static_cast<float>(row) * 60.0f,
+                                       34, 50);
             CUIObject* object = CUIToolBase::CreateUIObject(place, kKinds[i % std::size(kKinds)]);
             if (auto* poly = dynamic_cast<CUIObjectPoly*>(object)) {
                 Gdiplus::PointF from(place.X, place.Y), to(place.X + 34, place.Y + 50);

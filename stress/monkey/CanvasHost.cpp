@@ -45,7 +45,7 @@ constexpr struct {
     {&Make<CUIObjectOle>, DS_OLE},
 };
 
-constexpr struct {
+const struct {
     UINT id;
     void (CUICanvas::*run)();
 } kRoutes[] = {
