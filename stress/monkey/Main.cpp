@@ -17,7 +17,8 @@ namespace monkey {
 
 namespace {
 
-constexpr int kThoroughEvery = 10;  // bursts
+constexpr std::uint64_t kProgressEvery = 10000;  // messages
+constexpr int kThoroughEvery = 10;               // bursts
 
 class MonkeyApp : public CWinApp {
 public:
@@ -77,8 +78,15 @@ int Run(const Options& options) {
     std::unique_ptr<Monkey> monkey = options.studio ? MakeStudioMonkey() : MakeCanvasMonkey();
     std::uint64_t bursts = 0;
     try {
-        while (MessagesSent() < options.messages)
+        std::uint64_t next = kProgressEvery;
+        while (MessagesSent() < options.messages) {
             Burst(*monkey, options, bursts++);
+            if (MessagesSent() < next)
+                continue;
+            std::printf("%llu messages\n", MessagesSent());
+            std::fflush(stdout);
+            next += kProgressEvery;
+        }
         monkey->CheckThoroughly();
     } catch (const Broken& broken) {
         Report(broken.what);
