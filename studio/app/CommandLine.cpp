@@ -7,7 +7,6 @@
 
 #include <shellapi.h>
 
-#include <cstdlib>
 #include <string>
 
 namespace Studio {
@@ -90,7 +89,7 @@ CommandLine CommandLine::Read() {
     int count = 0;
     LPWSTR* first = ::CommandLineToArgvW(::GetCommandLine(), &count);
     for (int i = 1; first && i < count; ++i)
-        words.push_back(first[i]);
+        words.emplace_back(first[i]);
     ::LocalFree(first);
     return Parse(words);
 }

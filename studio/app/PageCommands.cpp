@@ -160,7 +160,6 @@ bool IsPageCommandEnabled(StudioCanvas& page, UINT command) {
         case ID_ROTATE_LEFT:
         case ID_ROTATE_RIGHT:
         case ID_OBJECT_DELETE:
-            return !page.m_selection.empty();
         case ID_OBJECT_CUT:
         case ID_OBJECT_COPY:
         case ID_PAGE_DUPLICATE_OBJECTS:

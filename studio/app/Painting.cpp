@@ -52,8 +52,8 @@ void Reduce(Gdiplus::Bitmap& from, Gdiplus::Bitmap& to) {
     if (to.LockBits(&small, Gdiplus::ImageLockModeWrite, PixelFormat32bppPARGB, &target) == Gdiplus::Ok) {
         const int sourceStride = source.Stride / static_cast<int>(sizeof(DWORD));
         const int targetStride = target.Stride / static_cast<int>(sizeof(DWORD));
-        for (int y = 0; y < small.Height; ++y) {
-            for (int x = 0; x < small.Width; ++x) {
+        for (ptrdiff_t y = 0; y < small.Height; ++y) {
+            for (ptrdiff_t x = 0; x < small.Width; ++x) {
                 const auto* square =
                     static_cast<const DWORD*>(source.Scan0) + y * kOversampling * sourceStride;
                 static_cast<DWORD*>(target.Scan0)[y * targetStride + x] =

@@ -3,8 +3,6 @@
 
 #include "core/DrawShape.h"
 
-#include <optional>
-
 namespace Studio {
 
 /// Shows one button per tool and sends its command to the parent. Buttons are 40 by 40 pixels from (8, 8) on,

@@ -44,6 +44,7 @@ public:
 protected:
     Control() = default;
     Control(const Control&) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is copied
     Control& operator=(const Control&) { return *this; }
     virtual ~Control() = default;
 

@@ -85,7 +85,8 @@ void Picture::CopyFrom(const Picture& source) {
 
 void Picture::Blend(int x, int y, DWORD color, float coverage) {
     DWORD& pixel = m_pixels[static_cast<size_t>(y) * m_width + x];
-    const unsigned alpha = static_cast<unsigned>(static_cast<float>(color >> 24) * coverage + 0.5f);
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and for every pixel a call is slow
+    const auto alpha = static_cast<unsigned>(static_cast<float>(color >> 24) * coverage + 0.5f);
     if (alpha == 0)
         return;
     const unsigned rest = 255 - alpha;

@@ -185,7 +185,7 @@ bool Device::Set(const CString& name, double to) {
 double Device::SignalLevel(int input, double seconds) {
     const auto random = [this] { return std::uniform_real_distribution<double>(0.0, 1.0)(m_random); };
     const double noise = random();
-    const auto signal = static_cast<Signal>(static_cast<int>(m_values[m_inputs[input] + kSignal] + 0.5));
+    const auto signal = static_cast<Signal>(std::lround(m_values[m_inputs[input] + kSignal]));
     m_phraseLeft[input] -= seconds;
     if (m_phraseLeft[input] <= 0.0) {
         m_phrase[input] = signal == Signal::kSpeech ? -38.0 + 32.0 * random() : -16.0 + 14.0 * random();
@@ -245,8 +245,8 @@ Band Device::PeqBand(int output, int band) const {
     const int type = Find(Numbered(L"out%d.peq.%d.type", output, band));
     if (type < 0)
         return {};
-    return {static_cast<BandType>(static_cast<int>(Get(type) + 0.5)), Get(type + 1), Get(type + 2),
-            Get(type + 3), Get(type + 4) != 0.0};
+    return {static_cast<BandType>(std::lround(Get(type))), Get(type + 1), Get(type + 2), Get(type + 3),
+            Get(type + 4) != 0.0};
 }
 
 double Device::GeqFrequency(int band) {

@@ -31,7 +31,7 @@ DWORD UpdateChecksum(DWORD checksum, const void* data, size_t size) {
 }
 
 DWORD FileChecksum(CFile& file, ULONGLONG offset) {
-    std::vector<BYTE> buffer(64 * 1024);
+    std::vector<BYTE> buffer(size_t{64} * 1024);
     file.Seek(static_cast<LONGLONG>(offset), CFile::begin);
     DWORD checksum = 0;
     while (const UINT size = file.Read(buffer.data(), static_cast<UINT>(buffer.size())))

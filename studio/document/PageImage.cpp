@@ -104,7 +104,7 @@ void DrawFitted(Graphics& g, const CUIObjectDeque& objects, CSize size) {
     const RectF painted = PaintedBounds(objects);
     if (painted.IsEmptyArea())
         return;
-    const float width = static_cast<float>(size.cx), height = static_cast<float>(size.cy);
+    const auto width = static_cast<float>(size.cx), height = static_cast<float>(size.cy);
     const float scale = std::min({width / painted.Width, height / painted.Height, 1.0f});
     const Gdiplus::GraphicsState before = g.Save();
     g.TranslateTransform(width / 2, height / 2);

@@ -21,7 +21,7 @@ bool WriteSetting(LPCWSTR name, const CString& text) {
     if (::RegCreateKeyEx(HKEY_CURRENT_USER, kKey, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr) !=
         ERROR_SUCCESS)
         return false;
-    const DWORD size = static_cast<DWORD>((text.GetLength() + 1) * sizeof(WCHAR));
+    const auto size = static_cast<DWORD>((text.GetLength() + 1) * sizeof(WCHAR));
     const bool written =
         ::RegSetValueEx(key, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.GetString()), size) ==
         ERROR_SUCCESS;

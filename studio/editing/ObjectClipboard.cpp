@@ -8,7 +8,6 @@
 #include "studio/editing/UniqueNames.h"
 
 #include <algorithm>
-#include <cwchar>
 
 namespace Studio {
 

@@ -6,7 +6,6 @@
 #include "studio/editing/StudioCanvas.h"
 
 #include <algorithm>
-#include <functional>
 #include <unordered_set>
 
 namespace Studio {

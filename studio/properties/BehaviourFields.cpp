@@ -73,7 +73,7 @@ CString CheckBinding(StudioCanvas&, const PropertyValue& value) {
     return NoValue(name);
 }
 
-Property CodeRow(Text label, FieldKind kind, FieldOf<int> field) {
+Property CodeRow(Text label, FieldKind kind, const FieldOf<int>& field) {
     Property property = Row(label, kind);
     property.get = [field](CUIObject& object) { return field(ExtrasOf(object)); };
     property.set = [field](CUIObject& object, const PropertyValue& value) {
@@ -153,7 +153,7 @@ void SetLineNames(ObjectExtras& extras, const std::vector<CString>& names) {
 
 }  // namespace
 
-Property RecordText(Text label, FieldOf<CString> field) {
+Property RecordText(Text label, const FieldOf<CString>& field) {
     Property property = Row(label, FieldKind::kText);
     property.get = [field](CUIObject& object) { return field(ExtrasOf(object)); };
     property.set = [field](CUIObject& object, const PropertyValue& value) {
@@ -162,7 +162,7 @@ Property RecordText(Text label, FieldOf<CString> field) {
     return property;
 }
 
-Property RecordValueName(FieldOf<CString> field) {
+Property RecordValueName(const FieldOf<CString>& field) {
     Property property = RecordText(Text::kPropValueName, field);
     property.kind = FieldKind::kValue;
     property.check = CheckValueName;
@@ -184,17 +184,17 @@ Property RecordNumber(Text label, NumberRange range, FieldOf<float> field) {
     return NumberRow(label, range, std::move(field));
 }
 
-Property RecordChoice(Text label, std::function<std::vector<Choice>()> choices, FieldOf<int> field) {
-    Property property = CodeRow(label, FieldKind::kChoice, std::move(field));
+Property RecordChoice(Text label, std::function<std::vector<Choice>()> choices, const FieldOf<int>& field) {
+    Property property = CodeRow(label, FieldKind::kChoice, field);
     property.choices = std::move(choices);
     return property;
 }
 
-Property RecordCheck(Text label, FieldKind kind, FieldOf<int> field) {
-    return CodeRow(label, kind, std::move(field));
+Property RecordCheck(Text label, FieldKind kind, const FieldOf<int>& field) {
+    return CodeRow(label, kind, field);
 }
 
-Property RecordColor(Text label, FieldOf<DWORD> field) {
+Property RecordColor(Text label, const FieldOf<DWORD>& field) {
     Property property = Row(label, FieldKind::kColor);
     property.get = [field](CUIObject& object) { return PartsOf(field(ExtrasOf(object))); };
     property.set = [field](CUIObject& object, const PropertyValue& value) {

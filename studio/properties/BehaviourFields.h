@@ -10,16 +10,16 @@ namespace Studio {
 template <class Value>
 using FieldOf = std::function<const Value&(const ObjectExtras&)>;
 
-Property RecordText(Text label, FieldOf<CString> field);
+Property RecordText(Text label, const FieldOf<CString>& field);
 /// The name of the value that the behaviour uses instead of the binding.
-Property RecordValueName(FieldOf<CString> field);
+Property RecordValueName(const FieldOf<CString>& field);
 Property RecordNumber(Text label, NumberRange range, FieldOf<int> field);
 Property RecordNumber(Text label, NumberRange range, FieldOf<long> field);
 Property RecordNumber(Text label, NumberRange range, FieldOf<float> field);
-Property RecordChoice(Text label, std::function<std::vector<Choice>()> choices, FieldOf<int> field);
+Property RecordChoice(Text label, std::function<std::vector<Choice>()> choices, const FieldOf<int>& field);
 /// `kind`: a check box or a toggle.
-Property RecordCheck(Text label, FieldKind kind, FieldOf<int> field);
-Property RecordColor(Text label, FieldOf<DWORD> field);
+Property RecordCheck(Text label, FieldKind kind, const FieldOf<int>& field);
+Property RecordColor(Text label, const FieldOf<DWORD>& field);
 
 /// The arguments of a button's commands in one text, with commas between them.
 Property ButtonArguments();

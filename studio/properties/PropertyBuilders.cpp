@@ -24,6 +24,7 @@ Property For(bool (*applies)(const Lumo::CUIObject&), Property property) {
 std::function<std::vector<Choice>()> Choices(std::initializer_list<std::pair<int, Text>> rows) {
     return [rows = std::vector(rows)] {
         std::vector<Choice> choices;
+        choices.reserve(rows.size());
         for (const auto& [value, text] : rows)
             choices.push_back({value, GetText(text)});
         return choices;
@@ -33,6 +34,7 @@ std::function<std::vector<Choice>()> Choices(std::initializer_list<std::pair<int
 std::function<std::vector<Choice>()> Choices(std::initializer_list<Text> texts) {
     return [texts = std::vector(texts)] {
         std::vector<Choice> choices;
+        choices.reserve(texts.size());
         for (Text text : texts)
             choices.push_back({static_cast<int>(choices.size()), GetText(text)});
         return choices;

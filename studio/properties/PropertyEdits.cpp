@@ -85,7 +85,7 @@ CString WriteProperty(const Property& property, StudioCanvas& page, const Proper
     if (property.single && page.m_selection.size() != 1)
         return CString();
     if (property.check) {
-        const CString refusal = property.check(page, value);
+        CString refusal = property.check(page, value);
         if (!refusal.IsEmpty())
             return refusal;
     }

@@ -10,7 +10,6 @@
 #include "studio/editing/ObjectFactory.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace Studio {

@@ -5,7 +5,6 @@
 #include "studio/properties/PropertyTable.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace Studio {
 
@@ -52,12 +51,12 @@ BEGIN_MESSAGE_MAP(PropertyPanel, CWnd)
     ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
 
-PropertyPanel::PropertyPanel(PropertyPanelOwner& owner) : m_owner(owner) {
-    m_chooserProperty = {.label = Text::kPropBehaviour,
-                         .step = Text::kStepBehaviour,
-                         .kind = FieldKind::kChoice,
-                         .choices = [] { return BehaviourChoices(0); }};
-}
+PropertyPanel::PropertyPanel(PropertyPanelOwner& owner)
+    : m_owner(owner),
+      m_chooserProperty{.label = Text::kPropBehaviour,
+                        .step = Text::kStepBehaviour,
+                        .kind = FieldKind::kChoice,
+                        .choices = [] { return BehaviourChoices(0); }} {}
 
 bool PropertyPanel::Create(CWnd& parent) {
     const LPCWSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
@@ -220,7 +219,7 @@ CString PropertyPanel::WriteValue(const Property& property, const PropertyValue&
     StudioCanvas* page = m_owner.PropertyPage();
     if (!page)
         return CString();
-    const CString refusal = WriteProperty(property, *page, value, mergeKey);
+    CString refusal = WriteProperty(property, *page, value, mergeKey);
     if (refusal.IsEmpty())
         Refresh();
     return refusal;

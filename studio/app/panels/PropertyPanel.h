@@ -6,8 +6,6 @@
 #include "studio/app/panels/SectionHeader.h"
 #include "studio/document/ObjectExtras.h"
 
-#include <array>
-
 namespace Lumo {
 class DeferWindow;
 }
