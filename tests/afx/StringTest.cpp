@@ -32,7 +32,10 @@ TEST(String, CopiesShareTheirCharactersUntilOneChanges) {
 
 TEST(String, TheLastHolderWritesInPlace) {
     CString text(L"one");
-    { const CString copy = text; }
+    {
+        CString copy;
+        copy = text;
+    }
     const LPCWSTR before = text;
     text.SetAt(0, L'O');
     EXPECT_EQ(before, text.GetString());
@@ -167,6 +170,7 @@ TEST(String, RefusesPlacesOutsideAndImpossibleLengths) {
 TEST(String, CopiesMayBeMadeAndDroppedByManyThreads) {
     const CString shared(L"shared by all");
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i)
         threads.emplace_back([&shared] {
             for (int n = 0; n < 20000; ++n) {

@@ -215,7 +215,7 @@ public:
     std::vector<CString> shown;
 
     int DoMessageBox(LPCTSTR text, UINT, UINT) override {
-        shown.push_back(text);
+        shown.emplace_back(text);
         return IDOK;
     }
 };

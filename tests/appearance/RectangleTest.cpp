@@ -1,5 +1,7 @@
 #include "appearance/UIObjectRectangle.h"
 
+#include <gtest/gtest.h>
+
 #include "core/PaintScope.h"
 #include "support/Geometry.h"
 #include "support/Surface.h"
@@ -52,7 +54,7 @@ protected:
         Caption(m_ellipse, 0);
     }
     void FillWith(CUIObject& object, int mode, const CString& path) {
-        CUIShapeFormatFill& fill = object.GetCoordinate().Format<CUIShapeFormatFill>();
+        auto& fill = object.GetCoordinate().Format<CUIShapeFormatFill>();
         fill.m_nShapeMode = mode;
         fill.m_strImagePath = path;
         object.SetLineShapeMode(0);

@@ -18,7 +18,7 @@ Record Default() {
 // A record loaded from bytes must write the same bytes again, into whatever record it was loaded.
 template <class Record>
 void ExpectRoundTrip(const Bytes& bytes) {
-    Record record = Default<Record>();
+    auto record = Default<Record>();
     EXPECT_EQ(Load(record, bytes), 0u);
     EXPECT_TRUE(SameBytes(Stored(record), bytes));
 }
@@ -113,13 +113,13 @@ TEST(ShapeFormatTest, FieldsLandWhereTheyBelong) {
 }
 
 TEST(ShapeFormatTest, AlignmentAndUnitStayTheReceivers) {
-    CUIShapeFormatText stored = Default<CUIShapeFormatText>();
+    auto stored = Default<CUIShapeFormatText>();
     stored.m_nAlignment = 2;
     stored.m_nUnit = 3;
     stored.m_strText = L"dB";
     stored.m_dwBackColor = 0x12345678;
     stored.m_nFontStyle = 1;
-    CUIShapeFormatText loaded = Default<CUIShapeFormatText>();
+    auto loaded = Default<CUIShapeFormatText>();
     Load(loaded, Stored(stored));
     EXPECT_EQ(loaded.m_nAlignment, 1);
     EXPECT_EQ(loaded.m_nUnit, 2);
@@ -127,9 +127,9 @@ TEST(ShapeFormatTest, AlignmentAndUnitStayTheReceivers) {
     EXPECT_EQ(loaded.m_dwBackColor, 0x12345678u);
     EXPECT_EQ(loaded.m_nFontStyle, 1);
 
-    CUIShapeFormatLineStyle pen = Default<CUIShapeFormatLineStyle>();
+    auto pen = Default<CUIShapeFormatLineStyle>();
     pen.m_nAlignment = 1;
-    CUIShapeFormatLineStyle receiver = Default<CUIShapeFormatLineStyle>();
+    auto receiver = Default<CUIShapeFormatLineStyle>();
     Load(receiver, Stored(pen));
     EXPECT_EQ(receiver.m_nAlignment, 0);
 }
@@ -137,7 +137,7 @@ TEST(ShapeFormatTest, AlignmentAndUnitStayTheReceivers) {
 TEST(ShapeFormatTest, BaseSetCopiesTheBasePartOnly) {
     CUIShapeFormatFill source(L"mine", 0);
     source.m_dwColor = 1;
-    CUIShapeFormatFill target = Default<CUIShapeFormatFill>();
+    auto target = Default<CUIShapeFormatFill>();
     target.Set(static_cast<const CUIShapeFormat&>(source));
     EXPECT_EQ(target.m_strName, L"mine");
     EXPECT_EQ(target.m_bEnabled, 0);

@@ -181,7 +181,7 @@ TEST_F(Edit, KeepsKeysFromTheHost) {
 }
 
 TEST_F(Edit, LeavesKeysToAFrameInHelpMode) {
-    CFrameWnd* frame = new CFrameWnd;
+    auto* frame = new CFrameWnd;
     ASSERT_TRUE(frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW, CRect(0, 0, 200, 200)));
     CUIEdit* edit = Open(AddText(30, 40, 100, 20, L"old"));
     m_canvas->SetParent(frame);

@@ -67,7 +67,8 @@ TEST_F(PaintTest, OnlyObjectsThatTheUpdateTouchesAreDrawn) {
 TEST_F(PaintTest, DraggingOneShapeOverManyRepaintsOnlyItsRectangle) {
     std::vector<Watched*> all;
     for (int i = 0; i < 10000; ++i) {
-        auto* object = new Watched({static_cast<float>(i % 100) * 4, static_cast<float>(i / 100) * 3, 3, 2});
+        const int row = i / 100;
+        auto* object = new Watched({static_cast<float>(i % 100) * 4, static_cast<float>(row) * 3, 3, 2});
         object->SetText(CString(L" "));
         m_document->AppendObject(object, nullptr);
         all.push_back(object);

@@ -162,7 +162,7 @@ TEST_F(PolyTest, HitsWhereAWidenedSegmentIs) {
         }
     }
     m_polyLine.SetLineWidth(7);
-    Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 7 / 2 + 1 + 5.0f);
+    Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 9);  // half the line and 6 for the hand
     int hits = 0;
     for (float y = 8; y < 76; y += 1.25f)
         for (float x = 8; x < 76; x += 1.25f) {

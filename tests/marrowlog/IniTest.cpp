@@ -152,6 +152,7 @@ TEST(Ini, LeavesTheFileAsItWasWhenItCannotReplaceIt) {
 TEST(Ini, ThreadsDoNotUndoEachOthersChanges) {
     const TemporaryFile file("[s]\n");
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int t = 0; t < 4; ++t)
         threads.emplace_back([ini = CIni(file.Path()), t]() mutable {
             for (int i = 0; i < 10; ++i) {

@@ -55,7 +55,7 @@ TEST(TextKeysTest, SelectsAllAndSavesButLeavesLettersToTheField) {
     EXPECT_EQ(last, 8);
     EXPECT_TRUE(Press(frame, field, 'S', true));
     EXPECT_EQ(frame.saved, 1);
-    for (UINT letter : {'A', 'S', 'R'})
+    for (UINT letter : {L'A', L'S', L'R'})
         EXPECT_FALSE(Press(frame, field, letter, false));
     EXPECT_EQ(frame.saved, 1) << "a letter that is typed is no command";
     frame.DestroyWindow();
