@@ -24,6 +24,11 @@ enum ShapeFormatType : int {
 /// colour already has stay set.
 AFX_EXT_API DWORD MergeAlpha(float alpha, DWORD color);
 
+/// The line cap of a stored `code`; flat for a custom cap, of which a record keeps no shape.
+inline Gdiplus::LineCap LineCapOf(int code) {
+    return code == Gdiplus::LineCapCustom ? Gdiplus::LineCapFlat : static_cast<Gdiplus::LineCap>(code);
+}
+
 /// Base of the records: kind, name and enabled flag. Virtual members stand in a fixed order.
 class AFX_EXT_CLASS CUIShapeFormat {
 public:

@@ -5,7 +5,6 @@
 #include <numbers>
 
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
 
 namespace Lumo {
 
@@ -15,8 +14,8 @@ namespace {
 // they are small and far from the origin: the stack ends first. Up to here that has not been seen.
 constexpr float kNear = 1000.0f;
 constexpr float kSmall = 1.0f;
-constexpr float kLarge = 20000.0f;
-constexpr int kCorners = 1440;
+constexpr int kFewestCorners = 36;
+constexpr int kMostCorners = 1440;
 
 bool IsNear(const Gdiplus::RectF& bounds) {
     return std::max({std::fabs(bounds.X), std::fabs(bounds.Y), std::fabs(bounds.GetRight()),
@@ -24,34 +23,27 @@ bool IsNear(const Gdiplus::RectF& bounds) {
            std::min(bounds.Width, bounds.Height) >= kSmall;
 }
 
-// So large that the corners cannot be told from a curve on any screen.
+// With so many corners that they cannot be told from the curve.
 void DrawAsPolygon(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen, const Gdiplus::RectF& bounds) {
-    Gdiplus::PointF corners[kCorners];
-    for (int i = 0; i < kCorners; ++i) {
-        const float angle = static_cast<float>(i) * 2.0f * std::numbers::pi_v<float> / kCorners;
+    Gdiplus::PointF corners[kMostCorners];
+    const float size = std::max(std::fabs(bounds.Width), std::fabs(bounds.Height));
+    const int count = std::min(kMostCorners, kFewestCorners + TruncToInt(size));
+    for (int i = 0; i < count; ++i) {
+        const float angle =
+            static_cast<float>(i) * 2.0f * std::numbers::pi_v<float> / static_cast<float>(count);
         corners[i] = CentreOf(bounds) + Gdiplus::PointF(std::cos(angle) * bounds.Width * 0.5f,
                                                         std::sin(angle) * bounds.Height * 0.5f);
     }
-    graphics.DrawPolygon(&pen, corners, kCorners);
+    graphics.DrawPolygon(&pen, corners, count);
 }
 
 }  // namespace
 
 void DrawEllipseOutline(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen, const Gdiplus::RectF& bounds) {
-    if (IsNear(bounds)) {
+    if (IsNear(bounds))
         graphics.DrawEllipse(&pen, bounds);
-        return;
-    }
-    if (std::max(bounds.Width, bounds.Height) > kLarge) {
+    else
         DrawAsPolygon(graphics, pen, bounds);
-        return;
-    }
-    // By whole units, so that the pixels are the same.
-    const Gdiplus::PointF centre = CentreOf(bounds);
-    const float x = std::floor(centre.X), y = std::floor(centre.Y);
-    GraphicsStateScope state(graphics);
-    graphics.TranslateTransform(x, y);
-    graphics.DrawEllipse(&pen, Gdiplus::RectF(bounds.X - x, bounds.Y - y, bounds.Width, bounds.Height));
 }
 
 }  // namespace Lumo

@@ -94,8 +94,8 @@ void PaintAsLines(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, 
     graphics.SetInterpolationMode(Gdiplus::InterpolationModeDefault);
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
     pen.SetAlignment(static_cast<Gdiplus::PenAlignment>(coordinate.GetLineAlignment()));
-    pen.SetStartCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineStartCap()));
-    pen.SetEndCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineEndCap()));
+    pen.SetStartCap(LineCapOf(coordinate.GetLineStartCap()));
+    pen.SetEndCap(LineCapOf(coordinate.GetLineEndCap()));
     segments.ForEachPainted(reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
         graphics.DrawLine(&pen, from, to);
         return true;

@@ -2,6 +2,8 @@
 // out.
 #include "appearance/UIObjectRectangle.h"
 #include "behaviour/UIObjectTextEdit.h"
+#include "core/EllipseOutline.h"
+#include "core/UIObjectPoly.h"
 #include "support/Surface.h"
 
 #include <gtest/gtest.h>
@@ -31,12 +33,24 @@ TEST(FarAway, AnEllipseLooksAsItDoesNearTheOrigin) {
     };
     const auto near_ = draw(0, 0);
     ASSERT_NE(near_->Painted(), CRect(0, 0, 0, 0));
+    const CRect shown = near_->Painted();
     for (const float at : {3000.0f, 5000.0f, 30000.0f, 500000.0f}) {
         const auto far_ = draw(at, -at);
-        for (int y = 0; y < 60; ++y)
-            for (int x = 0; x < 80; ++x)
-                ASSERT_EQ(near_->At(x, y), far_->At(x, y)) << at << ": " << x << ", " << y;
+        CRect difference = far_->Painted();
+        difference.OffsetRect(-shown.left, -shown.top);
+        EXPECT_NEAR(0, difference.left, 1) << at;
+        EXPECT_NEAR(0, difference.top, 1) << at;
+        EXPECT_NEAR(shown.Width(), difference.right, 1) << at;
+        EXPECT_NEAR(shown.Height(), difference.bottom, 1) << at;
+        EXPECT_EQ(near_->At(35, 25), far_->At(35, 25)) << at;
+        EXPECT_EQ(near_->At(12, 12), far_->At(12, 12)) << at;
     }
+    // A pen without a width takes another way.
+    Surface thin(80, 60);
+    thin.graphics().TranslateTransform(-84740, -327680);
+    const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 0.0f);
+    DrawEllipseOutline(thin.graphics(), pen, RectF(84740.8f, 327683.5f, 4.6f, 4.96f));
+    EXPECT_NE(CRect(0, 0, 0, 0), thin.Painted());
     // Far too large for the surface, whose right half lies inside.
     Surface surface(80, 60);
     CUIObjectEllipse large(RectF(40, -50000, 100000, 100000), DS_ELLIPSE);
@@ -70,6 +84,20 @@ TEST(FarAway, WhatCannotBeDrawnPaintsNothing) {
     caption.SetTextUnit(0x1000007);
     caption.CUIObject::Draw(&surface.graphics());
     EXPECT_EQ(CRect(0, 0, 0, 0), surface.Painted());
+}
+
+TEST(FarAway, ALineWithoutACapOfItsOwnEndsFlat) {
+    const auto draw = [](int cap) {
+        auto surface = std::make_unique<Surface>(40, 20);
+        CUIObjectLine line(RectF(5, 10, 30, 0), DS_LINE);
+        for (Gdiplus::PointF point : {Gdiplus::PointF(5, 10), Gdiplus::PointF(35, 10)})
+            line.AddPoint(point);
+        line.SetLineStartCap(cap);
+        line.SetLineEndCap(cap);
+        line.Draw(&surface->graphics());
+        return surface->Painted();
+    };
+    EXPECT_EQ(draw(Gdiplus::LineCapFlat), draw(Gdiplus::LineCapCustom));
 }
 
 TEST(FarAway, AHugeTextBoxIsHitInsideItsEllipse) {
