@@ -142,9 +142,9 @@ void ExerciseDocument(CUIDocument& document) {
     document.DrawCanvas(&canvas.graphics);
     CPoint point(40, 40);
     document.ObjectAt(point);
-    CUIObject* added = document.CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
-    if (added)
-        document.SetShapeName(added);
+    // Without a page the object would belong to nobody.
+    if (document.GetCurrentCanvas())
+        document.SetShapeName(document.CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5)));
 }
 
 int messages = 0;
