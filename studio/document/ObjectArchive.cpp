@@ -121,6 +121,15 @@ void CheckRecord(CUIObject& object, ObjectClass objectClass) {
     Require(Within(object.GetLineWidth(), kMaxStroke) && Within(object.GetTextFontSize(), kMaxStroke));
 }
 
+// The library adds an offset to the place at every reading and leaves it in place at every writing: an object
+// would wander.
+void FoldOffset(CUIObject& object) {
+    Lumo::CUICoordinate& coordinate = object.GetCoordinate();
+    const Gdiplus::RectF bounds = coordinate.GetPosition();
+    coordinate.SetPositionOffset({0.0f, 0.0f});
+    coordinate.SetPosition(bounds);
+}
+
 void StoreAt(CArchive& ar, CUIObject& object, int depth) {
     const ObjectClass objectClass = ClassOf(object);
     Require(objectClass != ObjectClass::kNone, Text::kFaultClass);
@@ -140,6 +149,7 @@ void StoreAt(CArchive& ar, CUIObject& object, int depth) {
 void LoadInto(CArchive& ar, CUIObject& object, ObjectClass objectClass, int depth, DWORD version) {
     object.Serialize(ar);
     CheckRecord(object, objectClass);
+    FoldOffset(object);
     LoadRest(ar, object);
     if (version >= kVersionWithExtras)
         LoadExtras(ar, object);

@@ -38,11 +38,13 @@ float LengthOf(const std::vector<PointF>& points) {
     return length;
 }
 
-// Dashes without number take seconds and cannot be seen: such an outline is drawn through.
+// Dashes without number take seconds and cannot be seen, and those of a custom style are not known: such an
+// outline is drawn through.
 void SetDash(Gdiplus::Pen& pen, int style, float length) {
     constexpr float kMostDashes = 5000.0f;
     const float dash = std::max(pen.GetWidth(), 0.1f) * 2.0f;
-    if (length <= kMostDashes * dash)
+    if (style > Gdiplus::DashStyleSolid && style <= Gdiplus::DashStyleDashDotDot &&
+        length <= kMostDashes * dash)
         pen.SetDashStyle(static_cast<Gdiplus::DashStyle>(style));
 }
 
@@ -79,8 +81,8 @@ void DrawStyledFigure(Gdiplus::Graphics& g, Lumo::CUIObjectPoly& figure, float w
         return;
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
     SetDash(pen, coordinate.GetLineDashStyle(), LengthOf(points));
-    pen.SetStartCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineStartCap()));
-    pen.SetEndCap(static_cast<Gdiplus::LineCap>(coordinate.GetLineEndCap()));
+    pen.SetStartCap(Lumo::LineCapOf(coordinate.GetLineStartCap()));
+    pen.SetEndCap(Lumo::LineCapOf(coordinate.GetLineEndCap()));
     pen.SetLineJoin(Gdiplus::LineJoinRound);
     const Lumo::GraphicsStateScope state(g);
     g.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);

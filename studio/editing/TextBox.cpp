@@ -3,6 +3,7 @@
 #include "core/Geometry.h"
 #include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
+#include "studio/editing/StyledShapes.h"
 
 namespace Studio {
 
@@ -37,9 +38,9 @@ void TextBox::DrawGround(Gdiplus::Graphics& g, const RectF& bounds) const {
         g.FillRectangle(&brush, bounds);
     }
     DWORD color = 0;
-    if (m_coordinate.Format<Lumo::CUIShapeFormatLineColor>().GetPenColor(&color)) {
-        Gdiplus::Pen pen{Gdiplus::Color(color), GetLineWidth()};
-        pen.SetDashStyle(static_cast<Gdiplus::DashStyle>(GetLineDashStyle()));
+    if (!DrawDashedOutline(g, m_coordinate, OutlineKind::kRectangle) &&
+        m_coordinate.Format<Lumo::CUIShapeFormatLineColor>().GetPenColor(&color)) {
+        const Gdiplus::Pen pen{Gdiplus::Color(color), GetLineWidth()};
         g.DrawRectangle(&pen, bounds);
     }
 }

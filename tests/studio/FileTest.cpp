@@ -183,6 +183,17 @@ TEST_F(FileTest, PagesKeepTheirOrderAndTheCurrentOne) {
     EXPECT_EQ(ReadBytes(path), ReadBytes(SaveAs(L"pages2.cbf")));
 }
 
+TEST_F(FileTest, AnOffsetOfTheRecordBecomesPartOfThePlace) {
+    Add(Lumo::DS_RECTANGLE, 10, 10, 50, 40)->GetCoordinate().SetPositionOffset({28, -1});
+    CString path = SaveAs(L"offset.cbf");
+    ASSERT_TRUE(m_document->Load(path));
+    SelectAll(Page());
+    RotateSelection(Page(), true);
+    ASSERT_TRUE(m_document->Edits().Undo());
+    ExpectBounds(*Objects()[0], 38, 9, 50, 40);
+    EXPECT_FLOAT_EQ(0.0f, Objects()[0]->GetCoordinate().GetPositionOffset().X);
+}
+
 TEST_F(FileTest, RefusesWhatIsNoSoundFile) {
     Add(Lumo::DS_RECTANGLE, 10, 10, 50, 50);
     const Bytes good = ReadBytes(SaveAs(L"good.cbf"));
