@@ -7,8 +7,8 @@
 
 namespace monkey {
 
-/// Handles what waits in the queue. What comes when there is time for it, paints and timers, is left for when `idle` is
-/// set.
+/// Handles what waits in the queue. What comes when there is time for it, paints and timers, is left for when
+/// `idle` is set.
 void Pump(bool idle = false);
 
 /// Sends a mouse message to a window through the queue, straight to it, or, where this program's windows are
