@@ -35,10 +35,11 @@ TEST_F(ManyObjectsTest, ManyDraggedObjectsMoveAsOutlines) {
     m_parent.ShowWindow(SW_SHOWNA);
     Page().ShowWindow(SW_SHOWNA);
     CUIObject* still = AddFilled(20, 300, 40, 40, kBlue);
-    for (int i = 0; i < 300; ++i)
+    for (int i = 0; i < 300; ++i) {
         const int column = i % 20;
-    const int row = i / 20;
-    AddFilled(static_cast<float>(10 + column * 12), static_cast<float>(10 + row * 12), 10, 10, kRed);
+        const int row = i / 20;
+        AddFilled(static_cast<float>(10 + column * 12), static_cast<float>(10 + row * 12), 10, 10, kRed);
+    }
     SelectAll(Page());
     Page().Deselect(still);
     EXPECT_EQ(kRed, Pixel(15, 15));
