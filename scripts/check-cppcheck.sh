@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 mkdir -p build/cppcheck
-git ls-files -- '*.cpp' >build/cppcheck.files
+find . -path ./build -prune -o -name '*.cpp' -printf '%P\n' | sort >build/cppcheck.files
 echo "Checking with cppcheck"
 cppcheck --quiet --error-exitcode=1 -j "$(nproc)" --cppcheck-build-dir=build/cppcheck --file-list=build/cppcheck.files \
     --enable=warning,performance,portability --suppressions-list=scripts/cppcheck.suppressions \

@@ -17,6 +17,9 @@ public:
     /// Pastes clipboard bytes onto an empty page, undoes that and does it again. Throws `Fault`.
     bool Paste(const Bytes& input);
 
+    StudioHost(const StudioHost&) = delete;
+    StudioHost& operator=(const StudioHost&) = delete;
+
 private:
     StudioHost();
 

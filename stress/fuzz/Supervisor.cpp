@@ -52,8 +52,8 @@ private:
 
 class Supervisor {
 public:
-    explicit Supervisor(const Assignment& assignment) : m_assignment(assignment) {
-        m_name = L"TesselFuzz" + std::to_wstring(::GetCurrentProcessId());
+    explicit Supervisor(const Assignment& assignment)
+        : m_assignment(assignment), m_name(L"TesselFuzz" + std::to_wstring(::GetCurrentProcessId())) {
         m_mapping = ::CreateFileMapping(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(Round),
                                         m_name.c_str());
         m_round = static_cast<Round*>(::MapViewOfFile(m_mapping, FILE_MAP_ALL_ACCESS, 0, 0, 0));
