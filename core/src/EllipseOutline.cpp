@@ -12,7 +12,7 @@ namespace {
 
 // Some versions of GDI+ halve a curve until its parts are straight, which in floats they never become when
 // they are small and far from the origin: the stack ends first. Up to here that has not been seen.
-constexpr float kNear = 1000.0f;
+constexpr float kNear = 2000.0f;
 constexpr float kSmall = 1.0f;
 constexpr int kFewestCorners = 36;
 constexpr int kMostCorners = 1440;
