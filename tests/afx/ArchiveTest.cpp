@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <gtest/gtest.h>
 
 using namespace std::string_literals;
 

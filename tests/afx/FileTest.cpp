@@ -6,6 +6,7 @@
 
 #include <numeric>
 #include <vector>
+#include <gtest/gtest.h>
 
 namespace {
 

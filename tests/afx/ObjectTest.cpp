@@ -1,6 +1,8 @@
 // Run-time class information and the texts of exceptions.
 #include "Expect.h"
 
+#include <gtest/gtest.h>
+
 namespace {
 
 class CShape : public CObject {

@@ -2,6 +2,7 @@
 #include "Expect.h"
 
 #include <atltypes.h>
+#include <gtest/gtest.h>
 
 namespace {
 

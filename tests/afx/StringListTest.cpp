@@ -5,6 +5,7 @@
 
 #include <set>
 #include <string>
+#include <gtest/gtest.h>
 
 namespace {
 

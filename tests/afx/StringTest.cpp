@@ -6,6 +6,7 @@
 #include <string>
 #include <thread>
 #include <vector>
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -3,6 +3,8 @@
 #include "support/Bytes.h"
 #include "support/Geometry.h"
 
+#include <gtest/gtest.h>
+
 namespace Lumo {
 
 TEST(CoordinateTest, FindsRecordsByKind) {

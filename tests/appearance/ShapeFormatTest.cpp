@@ -4,6 +4,8 @@
 
 #include "support/Bytes.h"
 
+#include <gtest/gtest.h>
+
 namespace Lumo {
 
 namespace {

@@ -3,6 +3,8 @@
 #include "behaviour/UIObjectButton.h"
 #include "support/Bytes.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 using Gdiplus::RectF;
 

@@ -3,6 +3,8 @@
 #include "behaviour/UIObjectChartBase.h"
 #include "support/Bytes.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 using Gdiplus::RectF;
 

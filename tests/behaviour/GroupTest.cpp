@@ -3,6 +3,8 @@
 
 #include "core/UIDocument.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 using Gdiplus::PointF;
 using Gdiplus::RectF;

@@ -4,6 +4,8 @@
 #include "behaviour/UIPreference.h"
 #include "support/Bytes.h"
 
+#include <gtest/gtest.h>
+
 namespace {
 
 /// Defaults of each record as they stand in an archive, behind the name.

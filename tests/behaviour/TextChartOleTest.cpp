@@ -5,6 +5,8 @@
 #include "behaviour/UIObjectTextEdit.h"
 #include "support/Bytes.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 using Gdiplus::PointF;
 using Gdiplus::RectF;

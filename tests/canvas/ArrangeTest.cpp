@@ -1,5 +1,7 @@
 #include "canvas/CanvasFixture.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 
 namespace {

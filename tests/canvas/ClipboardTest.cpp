@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <gtest/gtest.h>
 
 using namespace Lumo;
 

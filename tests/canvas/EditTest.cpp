@@ -2,6 +2,8 @@
 #include "canvas/UIEdit.h"
 #include "canvas/CanvasFixture.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 
 namespace {

@@ -1,6 +1,8 @@
 #include "behaviour/UIObjectList.h"
 #include "canvas/CanvasFixture.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 
 namespace {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <random>
 #include <set>
+#include <gtest/gtest.h>
 
 using namespace Lumo;
 

@@ -1,6 +1,8 @@
 #include "canvas/CanvasCommands.h"
 #include "canvas/CanvasFixture.h"
 
+#include <gtest/gtest.h>
+
 namespace {
 
 struct Item {

@@ -1,6 +1,7 @@
 #include "canvas/CanvasFixture.h"
 
 #include <afxole.h>
+#include <gtest/gtest.h>
 
 namespace {
 

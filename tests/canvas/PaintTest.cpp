@@ -3,6 +3,8 @@
 #include "appearance/UIObjectRectangle.h"
 #include "core/PaintScope.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 
 namespace {

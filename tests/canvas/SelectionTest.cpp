@@ -1,6 +1,7 @@
 #include "canvas/CanvasFixture.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 
 using namespace Lumo;
 

@@ -1,6 +1,7 @@
 #include "canvas/CanvasFixture.h"
 
 #include <afxext.h>
+#include <gtest/gtest.h>
 
 using namespace Lumo;
 

@@ -7,6 +7,8 @@
 #include "core/UIObject.h"
 #include "support/Geometry.h"
 
+#include <gtest/gtest.h>
+
 namespace Lumo {
 
 TEST(DrawShapeTest, NamesEveryKindAndNoOther) {

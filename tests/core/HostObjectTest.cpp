@@ -11,6 +11,8 @@
 #include "core/Tally.h"
 #include "core/UIObjectPoly.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 using Gdiplus::Graphics;
 using Gdiplus::GraphicsPath;

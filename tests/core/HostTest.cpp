@@ -13,6 +13,8 @@
 #include "core/Tally.h"
 #include "core/UIDocument.h"
 
+#include <gtest/gtest.h>
+
 using namespace Lumo;
 
 namespace {

@@ -2,6 +2,8 @@
 #include "support/Bytes.h"
 #include "support/Geometry.h"
 
+#include <gtest/gtest.h>
+
 namespace Lumo {
 
 TEST(ObjectArchiveTest, WritesKindNameFlagAndCoordinate) {

@@ -6,6 +6,8 @@
 #include "support/Geometry.h"
 #include "support/MessageBoxAnswerer.h"
 
+#include <gtest/gtest.h>
+
 namespace Lumo {
 
 namespace {

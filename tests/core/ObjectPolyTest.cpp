@@ -9,6 +9,8 @@
 #include "support/PaintScopes.h"
 #include "support/Surface.h"
 
+#include <gtest/gtest.h>
+
 namespace Lumo {
 
 namespace {

@@ -1,5 +1,7 @@
 #include "core/UndoStack.h"
 
+#include <gtest/gtest.h>
+
 namespace Lumo {
 
 class CUndoStackTest : public ::testing::Test {

@@ -6,6 +6,8 @@
 #include "studio/editing/PageEdits.h"
 #include "studio/editing/PictureFill.h"
 
+#include <gtest/gtest.h>
+
 using namespace Studio;
 using Gdiplus::RectF;
 using Lumo::CUIObject;

@@ -7,6 +7,7 @@
 
 #include <random>
 #include <set>
+#include <gtest/gtest.h>
 
 using namespace Studio;
 using Lumo::CUIObject;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <random>
+#include <gtest/gtest.h>
 
 using namespace Studio;
 using Lumo::CUIObject;

@@ -11,6 +11,7 @@
 
 #include <cstring>
 #include <utility>
+#include <gtest/gtest.h>
 
 using namespace Studio;
 using Gdiplus::PointF;

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <gtest/gtest.h>
 
 using namespace Studio;
 

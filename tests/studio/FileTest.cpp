@@ -11,6 +11,7 @@
 #include <functional>
 #include <limits>
 #include <vector>
+#include <gtest/gtest.h>
 
 using namespace Studio;
 

@@ -7,6 +7,7 @@
 #include "studio/editing/PageEdits.h"
 
 #include <random>
+#include <gtest/gtest.h>
 
 using namespace Studio;
 using Lumo::CUIObject;

@@ -3,6 +3,8 @@
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/PageEdits.h"
 
+#include <gtest/gtest.h>
+
 using namespace Studio;
 using Lumo::CUIObject;
 using Lumo::CUIObjectDeque;

@@ -13,6 +13,8 @@
 #include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
 
+#include <gtest/gtest.h>
+
 using namespace Studio;
 
 namespace {

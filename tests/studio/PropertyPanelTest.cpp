@@ -3,6 +3,8 @@
 #include "studio/app/panels/PropertyPanel.h"
 #include "studio/editing/History.h"
 
+#include <gtest/gtest.h>
+
 using namespace Studio;
 
 namespace {

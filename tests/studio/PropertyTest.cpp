@@ -5,6 +5,8 @@
 #include "studio/properties/PropertyEdits.h"
 #include "studio/properties/PropertyTable.h"
 
+#include <gtest/gtest.h>
+
 using namespace Studio;
 
 namespace {

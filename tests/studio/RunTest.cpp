@@ -9,6 +9,7 @@
 #include "studio/runtime/RunSession.h"
 
 #include <afxadv.h>
+#include <gtest/gtest.h>
 
 using namespace Studio;
 using Lumo::CUIObject;

@@ -3,6 +3,8 @@
 #include "studio/document/ObjectExtras.h"
 #include "studio/runtime/RunSession.h"
 
+#include <gtest/gtest.h>
+
 using namespace Studio;
 using Lumo::CUIObject;
 

@@ -1,6 +1,8 @@
 // Outlines with dashes and caps, read from real pictures.
 #include "StudioFixture.h"
 
+#include <gtest/gtest.h>
+
 namespace {
 
 class StyledShapeTest : public StudioFixture {
