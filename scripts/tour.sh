@@ -53,6 +53,11 @@ picture() { # picture NAME: the screen, and the page alone for comparing
     convert "$out/$1.png" -crop "$page" +repage "$out/.$1.page.png"
 }
 
+page_shows() { # page_shows COLOURS: at least so many on the page
+    import -window root "$out/.now.png"
+    [ "$(convert "$out/.now.png" -crop "$page" -format '%k' info:)" -ge "$1" ]
+}
+
 pixels_apart() { compare -metric AE "$out/.$1.page.png" "$out/.$2.page.png" null: 2>&1 || true; }
 
 previous=
@@ -67,6 +72,7 @@ echo "Touring Studio"
 wine "$program" --demo >"$out/studio.log" 2>&1 &
 studio=$!
 wait_for "Studio did not open" window 'untitled.* - Studio'
+wait_for "the demo project is not shown" page_shows 20
 step 01-demo
 press F5
 wait_for "the pages do not run" window 'Running'
@@ -129,5 +135,5 @@ press alt+F4
 wait "$studio" || fail "Studio ended with code $?"
 studio=
 wine "$program" --check "$out/tour.cbf" >"$out/check.txt" 2>/dev/null </dev/null || fail "the saved file is not sound"
-rm -f "$out"/.*.page.png
+rm -f "$out"/.*.png
 echo "The tour is complete. Pictures and the saved file (tour.cbf) are in $out/."
