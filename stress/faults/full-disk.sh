@@ -5,11 +5,14 @@ set -euo pipefail
 
 root=$(cd "$(dirname "$0")/../.." && pwd)
 if [ "${2:-}" != inside ]; then
-    if ! reason=$(unshare -rm mount -t tmpfs -o size=256k none /mnt 2>&1); then
-        echo "Skipped: no file system can be mounted here ($reason)"
-        exit 77
-    fi
-    exec unshare -rm "$0" "$1" inside
+    # The second way is for one who has all rights and yet may not become another user, as below a changed root.
+    for way in "-rm" "-m --propagation unchanged"; do
+        if reason=$(unshare $way mount -t tmpfs -o size=256k none /mnt 2>&1); then
+            exec unshare $way "$0" "$1" inside
+        fi
+    done
+    echo "Skipped: no file system can be mounted here ($reason)"
+    exit 77
 fi
 
 # Wine's server opens the files, so one has to run in here: its prefix shares all but the registry with the usual one.
