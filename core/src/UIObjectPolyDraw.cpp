@@ -1,5 +1,6 @@
 // The segments of lines and polylines: drawing and outline hit test.
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "core/Geometry.h"
@@ -126,18 +127,19 @@ Side SideOf(const Gdiplus::PointF& point, const Gdiplus::PointF& from, const Gdi
 // Whether all points lie to one side of the square of `reach` about the point: no segment can come near it
 // then.
 bool AllBesides(const std::deque<Gdiplus::PointF>& points, const Gdiplus::PointF& point, float reach) {
-    const float left = point.X - reach;
-    const float right = point.X + reach;
-    const float top = point.Y - reach;
-    const float bottom = point.Y + reach;
-    unsigned common = 0xF;
+    constexpr float kInfinity = std::numeric_limits<float>::infinity();
+    float left = kInfinity;
+    float right = -kInfinity;
+    float top = kInfinity;
+    float bottom = -kInfinity;
     for (const Gdiplus::PointF& p : points) {
-        common &= (p.X < left ? 1u : 0u) | (p.X > right ? 2u : 0u) | (p.Y < top ? 4u : 0u) |
-                  (p.Y > bottom ? 8u : 0u);
-        if (common == 0)
-            return false;
+        left = p.X < left ? p.X : left;
+        right = p.X > right ? p.X : right;
+        top = p.Y < top ? p.Y : top;
+        bottom = p.Y > bottom ? p.Y : bottom;
     }
-    return true;
+    return right < point.X - reach || left > point.X + reach || bottom < point.Y - reach ||
+           top > point.Y + reach;
 }
 
 // The segment that follows the mouse while the figure does not have all its points yet.
