@@ -20,7 +20,7 @@ run() { "$cmake_package/wine-launcher.sh" "$@"; }
 
 # As a path of its own: the compiler's DLLs name folders of their makers, which may end like a short path.
 pattern="(^|[^[:alnum:]_./-])$(sed 's/[][\.*^$+?(){}|]/\\&/g' <<<"$sources")/"
-named=$(grep -rlaE "$pattern" "$root" || true)
+named=$(LC_ALL=C grep -rlaE "$pattern" "$root" || true)
 [ -z "$named" ] || fail "The machine that made the package is named in: $named"
 for part in README.md CHANGELOG.md docs/guide.md docs/api/index.html bin/symbols/Fader.cbf; do
     [ -s "$root/$part" ] || fail "The package has no $part."
