@@ -83,7 +83,6 @@ void LoadPoints(CArchive& ar, CUIObjectPoly& poly) {
     ar >> most >> count;
     Require(most >= 2 && most <= kMaxPoints && count <= static_cast<DWORD>(most));
     poly.SetMaxPoints(most);
-    // The record's position stays as it was stored: the points are set without recalculating it.
     auto& points = *poly.NewPoints(0);
     for (DWORD i = 0; i < count; ++i) {
         PointF point;
@@ -91,6 +90,8 @@ void LoadPoints(CArchive& ar, CUIObjectPoly& poly) {
         Require(Within(point.X, kMaxCoordinate) && Within(point.Y, kMaxCoordinate));
         points.push_back(point);
     }
+    // Every edit does the same: a record that says something else would not be what it was after an undo.
+    poly.RecalcBounds();
 }
 
 void StoreChildren(CArchive& ar, const GroupObject& group, int depth) {
