@@ -1,6 +1,6 @@
 #include "GuardHeap.h"
 
-#include "Imports.h"
+#include "stress/support/Imports.h"
 
 #include <windows.h>
 

@@ -2,8 +2,9 @@
 #include "Loader.h"
 
 #include "Exercise.h"
-#include "Imports.h"
 #include "Scratch.h"
+
+#include "stress/support/Imports.h"
 
 #include "appearance/UIObjectRectangle.h"
 #include "behaviour/UIObjectButton.h"

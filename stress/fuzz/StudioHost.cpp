@@ -6,25 +6,9 @@
 #include "studio/document/PageImage.h"
 #include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
+#include "tests/support/PutOnClipboard.h"
 
 using namespace Studio;
-
-namespace {
-
-void PutOnClipboard(HWND owner, const Bytes& bytes) {
-    static const UINT format = ::RegisterClipboardFormat(L"Tessel Studio Objects");
-    // Another program may be looking at the clipboard just now.
-    for (int attempt = 0; !::OpenClipboard(owner); ++attempt)
-        Require(attempt < 1000000, "the clipboard cannot be opened");
-    ::EmptyClipboard();
-    HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, std::max<size_t>(bytes.size(), 1));
-    std::copy(bytes.begin(), bytes.end(), static_cast<BYTE*>(::GlobalLock(memory)));
-    ::GlobalUnlock(memory);
-    ::SetClipboardData(format, memory);
-    ::CloseClipboard();
-}
-
-}  // namespace
 
 StudioHost& StudioHost::Get() {
     static auto* const host = new StudioHost;  // windows cannot outlive main
@@ -109,7 +93,8 @@ bool StudioHost::Paste(const Bytes& input) {
     m_document->NewFile();
     StudioCanvas& page = *m_document->CurrentPage();
     const size_t valid = UnpackObjects(input).size();
-    PutOnClipboard(page.m_hWnd, input);
+    static const UINT format = ::RegisterClipboardFormat(L"Tessel Studio Objects");
+    Require(PutOnClipboard(page.m_hWnd, format, input), "the clipboard cannot be opened");
     PasteObjects(page);
     Require(page.Objects()->size() == valid, "the paste gives something else than the bytes");
     const Bytes pasted = Archived();

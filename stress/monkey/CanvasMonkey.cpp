@@ -22,6 +22,9 @@ constexpr UINT kKeys[] = {VK_RETURN, VK_ESCAPE, VK_DELETE, VK_BACK, VK_LEFT, VK_
 
 class CanvasMonkey : public Monkey {
 public:
+    std::vector<BYTE> Bytes() override {
+        return StoredBytes([this](CArchive& ar) { m_host.Document().Serialize(ar); });
+    }
     void Act(Random& random) override;
     void Settle() override;
     void Check() override;
@@ -43,9 +46,6 @@ private:
     void ChangeObjects(Random& random);
     void ChangePages(Random& random);
     void ChangeSelection(Random& random);
-    std::vector<BYTE> Bytes() {
-        return StoredBytes([this](CArchive& ar) { m_host.Document().Serialize(ar); });
-    }
 
     CanvasHost m_host;
 };

@@ -1,5 +1,7 @@
 #include "stress/monkey/Dialogs.h"
 
+#include "stress/monkey/Clock.h"
+
 #include <dlgs.h>
 
 #include <vector>
@@ -58,6 +60,7 @@ int AnswerOf(HWND dialog) {
 void UseMenu() {
     const HWND window = AfxGetMainWnd()->m_hWnd;
     ++g_all;
+    PostDueTimers();
     for (int steps = g_random.Below(12); steps > 0; --steps)
         ::PostMessage(window, WM_KEYDOWN, VK_DOWN, 0);
     if (g_random.Chance(60))
@@ -70,6 +73,7 @@ LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
     WCHAR name[16] = L"";
     const HWND window = reinterpret_cast<HWND>(wParam);
     if (code == HCBT_ACTIVATE && ::GetClassName(window, name, 16) && !::lstrcmp(name, L"#32770")) {
+        PostDueTimers();
         ++g_answers;
         ++g_all;
         ::PostMessage(window, WM_COMMAND, AnswerOf(window), 0);

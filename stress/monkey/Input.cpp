@@ -1,5 +1,6 @@
 #include "stress/monkey/Input.h"
 
+#include "stress/monkey/Clock.h"
 #include "stress/monkey/Journal.h"
 
 #include <vector>
@@ -76,7 +77,7 @@ Stroke NextStroke(Random& random) {
 }  // namespace
 
 void Pump(bool idle) {
-    constexpr int kMostTicks = 8;  // of timers that come faster than they are served
+    constexpr int kMostTicks = 8;  // of the system's timers that come faster than they are served
     const auto handle = [](UINT first, UINT last) {
         MSG message;
         if (!::PeekMessage(&message, nullptr, first, last, PM_REMOVE))
@@ -95,6 +96,10 @@ void Pump(bool idle) {
     handleAll();
     for (int ticks = 0; idle && ticks < kMostTicks && handle(WM_TIMER, WM_TIMER); ++ticks)
         handleAll();
+    if (idle) {
+        RunDueTimers();
+        handleAll();
+    }
 }
 
 void SendMouse(Random& random, CWnd& window, CPoint at) {

@@ -1,5 +1,5 @@
-// Sends messages at random and checks what has to hold after each burst. The same seed sends the same
-// messages.
+// Sends messages at random and checks what has to hold after each burst. Two runs of a seed meet the same.
+#include "stress/monkey/Clock.h"
 #include "stress/monkey/Dialogs.h"
 #include "stress/monkey/Monkey.h"
 #include "stress/monkey/Scratch.h"
@@ -19,6 +19,7 @@ namespace {
 
 constexpr std::uint64_t kProgressEvery = 10000;  // messages
 constexpr int kThoroughEvery = 10;               // bursts
+constexpr int kLongestPause = 40;                // milliseconds between two messages
 
 class MonkeyApp : public CWinApp {
 public:
@@ -58,6 +59,9 @@ void Burst(Monkey& monkey, const Options& options, std::uint64_t burst) {
     for (int i = 0; i < length && MessagesSent() < options.messages; ++i) {
         Random random(options.seed, burst, i + 1);
         SetDialogAnswers(Random(random.Next()));
+        PassTime(static_cast<DWORD>(random.Below(kLongestPause)));
+        if (random.Chance(20))
+            RunDueTimers();
         monkey.Act(random);
     }
     monkey.Settle();
@@ -68,19 +72,29 @@ void Burst(Monkey& monkey, const Options& options, std::uint64_t burst) {
         monkey.CheckThoroughly();
 }
 
+// Goes on from `digest` (FNV-1a).
+std::uint64_t Digest(std::uint64_t digest, const std::vector<unsigned char>& bytes) {
+    for (const unsigned char byte : bytes)
+        digest = (digest ^ byte) * 0x100000001B3u;
+    return digest;
+}
+
 int Run(const Options& options) {
     const char* subject = options.studio ? "studio" : "canvas";
     std::printf("monkey: %s, seed %llu, %llu messages\n", subject, options.seed, options.messages);
     std::fflush(stdout);
     StartJournal(subject, options.seed);
-    const Scratch scratch;
+    StartClock();
+    const Scratch scratch(subject, options.seed);
     const DialogAnswerer answerer(scratch.Folder());
     std::unique_ptr<Monkey> monkey = options.studio ? MakeStudioMonkey() : MakeCanvasMonkey();
     std::uint64_t bursts = 0;
+    std::uint64_t digest = 0xCBF29CE484222325u;
     try {
         std::uint64_t next = kProgressEvery;
         while (MessagesSent() < options.messages) {
             Burst(*monkey, options, bursts++);
+            digest = Digest(digest, monkey->Bytes());
             if (MessagesSent() < next)
                 continue;
             std::printf("%llu messages\n", MessagesSent());
@@ -95,6 +109,7 @@ int Run(const Options& options) {
     monkey.reset();
     std::printf("%llu messages in %llu bursts, %d dialogs and menus answered; all invariants held\n",
                 MessagesSent(), bursts, answerer.Answered());
+    std::printf("all states: %016llx\n", digest);
     return 0;
 }
 

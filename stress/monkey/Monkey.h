@@ -5,12 +5,15 @@
 #include "stress/monkey/Random.h"
 
 #include <memory>
+#include <vector>
 
 namespace monkey {
 
 class Monkey {
 public:
     virtual ~Monkey() = default;
+    /// What it operates on, as it is saved.
+    virtual std::vector<unsigned char> Bytes() = 0;
     /// Sends one message.
     virtual void Act(Random& random) = 0;
     /// Lets go of whatever is still held.

@@ -33,12 +33,18 @@ void WriteBitmap(const std::filesystem::path& path) {
 
 }  // namespace
 
-Scratch::Scratch() {
+Scratch::Scratch(const char* subject, std::uint64_t seed) {
+    CString name;
+    name.Format(L"monkey-%hs-%llu", subject, seed);
+    m_held = ::CreateMutex(nullptr, FALSE, name);
+    Require(::GetLastError() != ERROR_ALREADY_EXISTS, "another run of this seed is going on");
     WCHAR temporary[MAX_PATH];
     ::GetTempPath(MAX_PATH, temporary);
-    m_folder.Format(L"%smonkey-%lu", temporary, ::GetCurrentProcessId());
-    m_key.Format(L"Software\\TesselMonkey\\%lu", ::GetCurrentProcessId());
+    m_folder = temporary + name;
+    m_key = L"Software\\TesselMonkey\\" + name;
+    ::RegDeleteTree(HKEY_CURRENT_USER, m_key);
     const std::filesystem::path folder(m_folder.GetString());
+    std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
     WriteBitmap(folder / L"picture.bmp");
     std::ofstream(folder / L"broken.cbf") << "not a page";
@@ -62,6 +68,7 @@ Scratch::~Scratch() {
     ::RegDeleteKey(HKEY_CURRENT_USER, m_key);
     std::error_code ignored;
     std::filesystem::remove_all(m_folder.GetString(), ignored);
+    ::CloseHandle(m_held);
 }
 
 }  // namespace monkey

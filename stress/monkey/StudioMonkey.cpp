@@ -89,6 +89,9 @@ public:
         if (m_frame)
             m_frame->DestroyWindow();
     }
+    std::vector<BYTE> Bytes() override {
+        return StoredBytes([this](CArchive& ar) { Document().Serialize(ar); });
+    }
     void Act(Random& random) override;
     void Settle() override;
     void Check() override;
@@ -107,9 +110,6 @@ private:
     void UseParts(Random& random);
     void UseCommand(Random& random);
     void UseWindows(Random& random);
-    std::vector<BYTE> Bytes() {
-        return StoredBytes([this](CArchive& ar) { Document().Serialize(ar); });
-    }
     void CheckHistory();
     void CheckSaving();
 

@@ -1,5 +1,6 @@
 // Copies of objects, through bytes and through the system's clipboard.
 #include "studio/StudioFixture.h"
+#include "support/PutOnClipboard.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/History.h"
 #include "studio/editing/ObjectClipboard.h"
@@ -12,18 +13,7 @@
 using namespace Studio;
 using Lumo::CUIObject;
 
-class ClipboardTest : public StudioFixture {
-protected:
-    static void Put(UINT format, const std::vector<BYTE>& bytes) {
-        ASSERT_TRUE(::OpenClipboard(nullptr));
-        ::EmptyClipboard();
-        HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, std::max<size_t>(bytes.size(), 1));
-        std::copy(bytes.begin(), bytes.end(), static_cast<BYTE*>(::GlobalLock(memory)));
-        ::GlobalUnlock(memory);
-        ::SetClipboardData(format, memory);
-        ::CloseClipboard();
-    }
-};
+using ClipboardTest = StudioFixture;
 
 TEST_F(ClipboardTest, PastesNamedCopiesAsideAndSelectsThem) {
     CUIObject* box = Add(Lumo::DS_RECTANGLE, 20, 30, 100, 60);
@@ -79,7 +69,7 @@ TEST_F(ClipboardTest, OffersTheCaptionOfASingleObjectAndTakesForeignText) {
     ASSERT_NE(nullptr, text);
     EXPECT_EQ(CString(L"Gain"), CString(text));
     ::CloseClipboard();
-    Put(CF_UNICODETEXT, {'H', 0, 'i', 0, 0, 0});
+    ASSERT_TRUE(PutOnClipboard(nullptr, CF_UNICODETEXT, {'H', 0, 'i', 0, 0, 0}));
     PasteObjects(Page());
     ASSERT_EQ(2u, Objects().size());
     EXPECT_EQ(CString(L"Hi"), Objects()[1]->GetText());
@@ -98,7 +88,7 @@ TEST_F(ClipboardTest, RefusesHostileBytesQuietly) {
     m_document->Edits().Clear();
     for (const auto& bytes : {std::vector<BYTE>(), std::vector<BYTE>(7, 0xFF), std::vector<BYTE>(4000, 0x41),
                               std::vector<BYTE>(sound.begin(), sound.end() - 30)}) {
-        Put(format, bytes);
+        ASSERT_TRUE(PutOnClipboard(nullptr, format, bytes));
         PasteObjects(Page());
         EXPECT_EQ(1u, Objects().size());
         EXPECT_FALSE(m_document->Edits().CanUndo());

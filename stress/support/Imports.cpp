@@ -1,4 +1,4 @@
-#include "Imports.h"
+#include "stress/support/Imports.h"
 
 #include <cstring>
 
@@ -19,7 +19,7 @@ void Put(IMAGE_THUNK_DATA& entry, void* address) {
 }  // namespace
 
 bool ReplaceImport(LPCWSTR moduleName, const char* name, void* replacement) {
-    HMODULE module = ::GetModuleHandle(moduleName);
+    HMODULE module = ::GetModuleHandleW(moduleName);
     if (!module)
         return false;
     const auto* headers = At<IMAGE_NT_HEADERS>(module, At<IMAGE_DOS_HEADER>(module, 0)->e_lfanew);
