@@ -264,7 +264,7 @@ void CanvasMonkey::Settle() {
 }
 
 void CanvasMonkey::Check() {
-    Require(::GetCapture() == nullptr, "the mouse is still captured");
+    RequireFreeMouse("the mouse is still captured");
     ObjectSet all;
     for (const auto& [canvas, objects] : m_host.Document().GetCanvasList())
         Meet(*objects, all);
@@ -279,7 +279,7 @@ void CanvasMonkey::Check() {
             canvas->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(at, at));
     }
     Require(before == Bytes(), "a gesture is stuck: moving the mouse without a button changes objects");
-    Require(::GetCapture() == nullptr, "moving the mouse captures it");
+    RequireFreeMouse("moving the mouse captures it");
 }
 
 // Kept by the library: a group takes no children from an archive.

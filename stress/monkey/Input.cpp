@@ -201,4 +201,15 @@ void LetGo(CWnd& window, CPoint at) {
     Pump(true);
 }
 
+void RequireFreeMouse(const char* what) {
+    const HWND captured = ::GetCapture();
+    if (!captured)
+        return;
+    char name[32] = "";
+    ::GetClassNameA(captured, name, sizeof name);
+    char text[32] = "";
+    ::GetWindowTextA(captured, text, sizeof text);
+    throw Broken{std::string(what) + " by " + name + " \"" + text + "\""};
+}
+
 }  // namespace monkey

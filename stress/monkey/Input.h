@@ -22,5 +22,7 @@ void SendText(Random& random);
 /// Releases buttons, modifiers and the capture as a user who takes the hands away: releases go to the window
 /// that has the mouse, or to `window`.
 void LetGo(CWnd& window, CPoint at);
+/// Raises `Broken` with `what` and the window that has captured the mouse, if one has.
+void RequireFreeMouse(const char* what);
 
 }  // namespace monkey

@@ -263,7 +263,7 @@ void StudioMonkey::Settle() {
 }
 
 void StudioMonkey::Check() {
-    Require(::GetCapture() == nullptr, "the mouse is still captured");
+    RequireFreeMouse("the mouse is still captured");
     ObjectSet all;
     Names pages;
     for (const Studio::Page& page : Document().Pages()) {
@@ -285,7 +285,7 @@ void StudioMonkey::Check() {
     for (const int at : {10, 150, 300})
         Page().SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(at, at));
     Require(before == Bytes(), "moving the mouse without a button changes the document");
-    Require(::GetCapture() == nullptr, "moving the mouse captures it");
+    RequireFreeMouse("moving the mouse captures it");
 }
 
 // Every step that is undone and made again leads back to where it started. The page that is shown is stored,

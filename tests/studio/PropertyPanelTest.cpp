@@ -179,3 +179,29 @@ TEST_F(PropertyPanelTest, ManyChangesAreShownOnceWhenThereIsTime) {
         ::DispatchMessage(&message);
     EXPECT_EQ(L"60", TextOf(kX));
 }
+
+// The platform's box hands the mouse on to its list when the button goes up, also to a list that is closed.
+TEST_F(PropertyPanelTest, AListThatLosesTheFocusWhileItIsPressedGivesTheMouseBack) {
+    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel.Refresh();
+    HWND box = nullptr;
+    ::EnumChildWindows(
+        m_panel.m_hWnd,
+        [](HWND window, LPARAM found) {
+            WCHAR name[16] = L"";
+            ::GetClassName(window, name, 16);
+            if (::lstrcmpi(name, L"ComboBox") != 0 || !::IsWindowEnabled(window))
+                return TRUE;
+            *reinterpret_cast<HWND*>(found) = window;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&box));
+    ASSERT_NE(nullptr, box);
+    ::SendMessage(box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(70, 12));
+    ASSERT_NE(0, ::SendMessage(box, CB_GETDROPPEDSTATE, 0, 0));
+    Focus(kX);
+    EXPECT_EQ(0, ::SendMessage(box, CB_GETDROPPEDSTATE, 0, 0));
+    ::SendMessage(box, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(70, 40));
+    ::SendMessage(box, WM_LBUTTONUP, 0, MAKELPARAM(70, 12));
+    EXPECT_EQ(nullptr, ::GetCapture());
+}

@@ -39,6 +39,14 @@ void ChoiceBox::OnPaint() {
     PaintText(dc, text, rect, enabled ? Palette::kText : Palette::kQuietText);
 }
 
+// When the button goes up, the platform's box hands the mouse on to its list, also to one that is closed.
+void ChoiceBox::LetGo() {
+    if (GetCapture() != this)
+        return;
+    SendMessage(WM_LBUTTONUP);
+    ::ReleaseCapture();
+}
+
 BEGIN_MESSAGE_MAP(ChoiceField, PropertyField)
     ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
@@ -130,8 +138,10 @@ BOOL ChoiceField::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (reinterpret_cast<HWND>(lParam) != m_box.m_hWnd)
         return PropertyField::OnCommand(wParam, lParam);
     switch (HIWORD(wParam)) {
-        case CBN_SETFOCUS:
         case CBN_KILLFOCUS:
+            m_box.LetGo();
+            [[fallthrough]];
+        case CBN_SETFOCUS:
             OnControlFocus(HIWORD(wParam) == CBN_SETFOCUS);
             m_box.Invalidate(FALSE);
             break;

@@ -7,6 +7,10 @@ namespace Studio {
 
 /// A drop-down list with a face of its own: the system's does not go with the other fields.
 class ChoiceBox : public CComboBox {
+public:
+    /// Ends a press that is going on and gives the mouse back.
+    void LetGo();
+
 protected:
     DECLARE_MESSAGE_MAP()
     afx_msg void OnPaint();
