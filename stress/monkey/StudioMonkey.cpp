@@ -100,8 +100,8 @@ public:
 private:
     void Open();
     bool IsOpen() const { return ::IsWindow(m_window); }
-    StudioDocument& Document();
-    StudioCanvas& Page() { return *Document().CurrentPage(); }
+    StudioDocument& Document() { return *m_document; }
+    StudioCanvas& Page() { return *m_document->CurrentPage(); }
     void Command(UINT id) {
         m_frame->SendMessage(WM_COMMAND, id);
         Pump();
@@ -115,6 +115,7 @@ private:
 
     MainFrame* m_frame = nullptr;
     HWND m_window = nullptr;
+    StudioDocument* m_document = nullptr;  // the window's, as long as that is there
     int m_opened = 0;
     int m_bursts = 0;
 };
@@ -125,16 +126,13 @@ void StudioMonkey::Open() {
     Require(m_frame->CreateFrame(), "Studio's window cannot be made");
     m_window = m_frame->m_hWnd;
     AfxGetApp()->m_pMainWnd = m_frame;
-    m_frame->ShowWindow(SW_SHOW);
-    m_frame->OpenDemo();
-    Pump();
-}
-
-StudioDocument& StudioMonkey::Document() {
     StudioCanvas* page = nullptr;
     ::EnumChildWindows(m_window, &FindPage, reinterpret_cast<LPARAM>(&page));
     Require(page != nullptr, "Studio has no page");
-    return static_cast<StudioDocument&>(page->Document());
+    m_document = static_cast<StudioDocument*>(&page->Document());
+    m_frame->ShowWindow(SW_SHOW);
+    m_frame->OpenDemo();
+    Pump();
 }
 
 void StudioMonkey::UsePage(Random& random) {
