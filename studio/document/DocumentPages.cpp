@@ -130,6 +130,9 @@ bool StudioDocument::RenamePage(int index, const CString& name) {
         return false;
     if (name == old)
         return true;
+    // A tab's editor is left by a press on a page, too, which may have begun something there.
+    if (StudioCanvas* current = CurrentPage())
+        current->FinishEditing();
     const auto rename = [this, index](const CString& to) {
         m_pageOrder[index].name = to;
         ShowPage(index);

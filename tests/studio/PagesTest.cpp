@@ -122,6 +122,25 @@ TEST_F(Pages, NamesStayUnique) {
     }
 }
 
+// A press on the page that is shown leaves the editor of another page's tab, whose page is shown then.
+TEST_F(Pages, RenamingFinishesWhatIsBeingDrawn) {
+    StudioCanvas& first = Page();
+    m_document->AddPage(0);
+    Add(Lumo::DS_ELLIPSE, 10, 10, 50, 40);
+    m_document->ShowPage(0);
+    ChooseTool(first, Lumo::DS_RECTANGLE);
+    Mouse(WM_LBUTTONDOWN, 200, 100);
+    Mouse(WM_MOUSEMOVE, 260, 150, MK_LBUTTON);
+    EXPECT_TRUE(m_document->RenamePage(1, L"Other"));
+    EXPECT_EQ(L"Page 1 [1] | Other* [1]", Order());
+    EXPECT_EQ(nullptr, first.CurrentGesture());
+    EXPECT_EQ(*first.Objects(), first.m_selection);
+    EXPECT_TRUE(Undo());
+    EXPECT_EQ(L"Page 1 [1] | Page 2* [1]", Order());
+    EXPECT_TRUE(Undo());
+    EXPECT_EQ(L"Page 1* [0] | Page 2 [1]", Order());
+}
+
 TEST_F(Pages, AutosaveFollowsTheDocument) {
     const CString path = FileName(L"auto.cbf");
     const CString copy = Autosave::PathFor(path);
