@@ -37,3 +37,13 @@ if [ "$(cat "$WINEPREFIX/.tessel-managed" 2>/dev/null)" != "$managed" ]; then
     wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d "$managed" /f >/dev/null 2>&1
     echo "$managed" >"$WINEPREFIX/.tessel-managed"
 fi
+
+# on_one_core COMMAND...: runs it with Wine's server on one core. Programs under Wine and the server wait for each other
+# all the time; between two cores of a virtual machine that takes several times as long.
+on_one_core() {
+    local core
+    core=$(taskset -cp $$ | sed 's/.*: *\([0-9]*\).*/\1/')
+    wineserver -k >/dev/null 2>&1 || true
+    taskset -c "$core" wineserver -p
+    taskset -c "$core" "$@"
+}
