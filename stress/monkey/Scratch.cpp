@@ -60,6 +60,11 @@ Scratch::Scratch(const char* subject, std::uint64_t seed) {
     ::RegCloseKey(folders);
     ::RegCloseKey(own);
     Require(led == ERROR_SUCCESS, "the settings cannot be led to a key of this run");
+
+    Require(::OpenClipboard(nullptr), "the clipboard cannot be emptied");
+    ::EmptyClipboard();
+    ::CloseClipboard();
+    ::SetCursorPos(0, 0);
 }
 
 Scratch::~Scratch() {
