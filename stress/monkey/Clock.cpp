@@ -56,12 +56,6 @@ BOOL WINAPI ForgetTimer(HWND window, UINT_PTR id) {
     return TRUE;
 }
 
-// Whoever waits for a time has to see it come.
-void WINAPI WaitAndPass(DWORD milliseconds) {
-    ::Sleep(milliseconds);
-    PassTime(milliseconds);
-}
-
 // The timers that are due, which begin anew; those of windows that are gone went with them.
 std::vector<RunningTimer> TakeDue() {
     std::erase_if(g_timers,
@@ -84,7 +78,6 @@ void StartClock() {
         ReplaceImport(module, "QueryPerformanceCounter", &TellCounter);
         ReplaceImport(module, "SetTimer", &KeepTimer);
         ReplaceImport(module, "KillTimer", &ForgetTimer);
-        ReplaceImport(module, "Sleep", &WaitAndPass);
     }
 }
 

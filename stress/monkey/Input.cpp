@@ -23,7 +23,15 @@ constexpr Button kRight = {WM_RBUTTONDOWN,        WM_RBUTTONUP,        WM_RBUTTO
 constexpr Button kMiddle = {WM_MBUTTONDOWN,         WM_MBUTTONUP,         WM_MBUTTONDBLCLK, MK_MBUTTON,
                             MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP, VK_MBUTTON};
 
+constexpr ULONG_PTR kOwnInput = 0x6D6F6E6B;  // marks what SystemMouse sends
+
 UINT g_held = 0;
+
+LRESULT CALLBACK DropForeign(int code, WPARAM wParam, LPARAM lParam) {
+    if (code >= 0 && reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam)->dwExtraInfo != kOwnInput)
+        return 1;
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
 
 bool IsOurs(HWND window) {
     DWORD process = 0;
@@ -45,6 +53,7 @@ void SystemMouse(CPoint screen, DWORD event) {
     input.mi.dx = static_cast<LONG>((screen.x * 65536LL + 32768) / ::GetSystemMetrics(SM_CXSCREEN));
     input.mi.dy = static_cast<LONG>((screen.y * 65536LL + 32768) / ::GetSystemMetrics(SM_CYSCREEN));
     input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | event;
+    input.mi.dwExtraInfo = kOwnInput;
     ::SendInput(1, &input, sizeof input);
 }
 
@@ -75,6 +84,17 @@ Stroke NextStroke(Random& random) {
 }
 
 }  // namespace
+
+OwnMouse::OwnMouse()
+    : m_hook(::SetWindowsHookEx(WH_MOUSE, &DropForeign, nullptr, ::GetCurrentThreadId())),
+      m_doubleClickTime(::GetDoubleClickTime()) {
+    ::SetDoubleClickTime(1);
+}
+
+OwnMouse::~OwnMouse() {
+    ::SetDoubleClickTime(m_doubleClickTime);
+    ::UnhookWindowsHookEx(m_hook);
+}
 
 void Pump(bool idle) {
     constexpr int kMostTicks = 8;  // of the system's timers that come faster than they are served

@@ -7,6 +7,20 @@
 
 namespace monkey {
 
+/// While it lives, the mouse is the monkey's: what the pointer of the screen does comes at any moment and is
+/// dropped, and so are the double clicks that the system sees in two fast presses.
+class OwnMouse {
+public:
+    OwnMouse();
+    ~OwnMouse();
+    OwnMouse(const OwnMouse&) = delete;
+    OwnMouse& operator=(const OwnMouse&) = delete;
+
+private:
+    HHOOK m_hook;
+    UINT m_doubleClickTime;
+};
+
 /// Handles what waits in the queue. What comes when there is time for it, paints and timers, is left for when
 /// `idle` is set.
 void Pump(bool idle = false);

@@ -45,7 +45,7 @@ BOOL CALLBACK PressEscape(HWND window, LPARAM) {
 DWORD WINAPI Watch(void* thread) {
     int pauses = 0;
     for (std::uint64_t seen = g_sent;; seen = g_sent) {
-        ::SleepEx(kPause, FALSE);  // Sleep is led to the clock of the run
+        ::Sleep(kPause);
         pauses = seen == g_sent ? pauses + 1 : 0;
         if (pauses > kPauses) {
             Report("a message is not answered");

@@ -1,6 +1,7 @@
 // Sends messages at random and checks what has to hold after each burst. Two runs of a seed meet the same.
 #include "stress/monkey/Clock.h"
 #include "stress/monkey/Dialogs.h"
+#include "stress/monkey/Input.h"
 #include "stress/monkey/Monkey.h"
 #include "stress/monkey/Scratch.h"
 
@@ -34,6 +35,7 @@ MonkeyApp theApp;
 
 struct Options {
     bool studio = false;
+    bool trace = false;
     std::uint64_t messages = 10000;
     std::uint64_t seed = 1;
 };
@@ -43,12 +45,14 @@ Options Read(int count, char** words) {
     for (int i = 1; i < count; ++i) {
         if (!std::strcmp(words[i], "--studio") || !std::strcmp(words[i], "--canvas"))
             options.studio = words[i][2] == 's';
+        else if (!std::strcmp(words[i], "--trace"))
+            options.trace = true;
         else if (!std::strcmp(words[i], "--messages") && i + 1 < count)
             options.messages = std::strtoull(words[++i], nullptr, 10);
         else if (!std::strcmp(words[i], "--seed") && i + 1 < count)
             options.seed = std::strtoull(words[++i], nullptr, 10);
         else
-            throw Broken{"usage: Monkey.exe [--canvas|--studio] [--messages N] [--seed S]"};
+            throw Broken{"usage: Monkey.exe [--canvas|--studio] [--messages N] [--seed S] [--trace]"};
     }
     return options;
 }
@@ -87,6 +91,7 @@ int Run(const Options& options) {
     StartClock();
     const Scratch scratch(subject, options.seed);
     const DialogAnswerer answerer(scratch.Folder());
+    const OwnMouse mouse;
     std::unique_ptr<Monkey> monkey = options.studio ? MakeStudioMonkey() : MakeCanvasMonkey();
     std::uint64_t bursts = 0;
     std::uint64_t digest = 0xCBF29CE484222325u;
@@ -95,6 +100,8 @@ int Run(const Options& options) {
         while (MessagesSent() < options.messages) {
             Burst(*monkey, options, bursts++);
             digest = Digest(digest, monkey->Bytes());
+            if (options.trace)
+                std::printf("burst %llu, message %llu: %016llx\n", bursts - 1, MessagesSent(), digest);
             if (MessagesSent() < next)
                 continue;
             std::printf("%llu messages\n", MessagesSent());
