@@ -4,7 +4,7 @@
 # unfinished file beside it. Without --kills, 200.
 set -euo pipefail
 
-programs=$1 kills=200 seed=$(date +%s)
+programs=$(realpath "$1") kills=200 seed=$(date +%s)
 shift
 while [ $# -gt 0 ]; do
     case $1 in
