@@ -6,7 +6,7 @@
 #include "studio/document/PageImage.h"
 #include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
-#include "tests/support/PutOnClipboard.h"
+#include "tests/support/Clipboard.h"
 
 using namespace Studio;
 

@@ -18,7 +18,6 @@ struct RunningTimer {
 };
 
 ULONGLONG g_now = 1'000'000;  // milliseconds
-UINT_PTR g_lastId = 0;
 std::vector<RunningTimer> g_timers;
 
 std::vector<RunningTimer>::iterator Find(HWND window, UINT_PTR id) {
@@ -39,13 +38,11 @@ BOOL WINAPI TellCounter(LARGE_INTEGER* counter) {
 
 UINT_PTR WINAPI KeepTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC served) {
     auto timer = Find(window, id);
-    if (!window && timer == g_timers.end())
-        id = ++g_lastId;
     if (timer == g_timers.end())
         timer = g_timers.insert(timer, RunningTimer{});
     *timer = {window, id, std::max<DWORD>(period, USER_TIMER_MINIMUM), served, 0};
     timer->due = g_now + timer->period;
-    return id ? id : 1;
+    return id;
 }
 
 BOOL WINAPI ForgetTimer(HWND window, UINT_PTR id) {
@@ -58,8 +55,7 @@ BOOL WINAPI ForgetTimer(HWND window, UINT_PTR id) {
 
 // The timers that are due, which begin anew; those of windows that are gone went with them.
 std::vector<RunningTimer> TakeDue() {
-    std::erase_if(g_timers,
-                  [](const RunningTimer& timer) { return timer.window && !::IsWindow(timer.window); });
+    std::erase_if(g_timers, [](const RunningTimer& timer) { return !::IsWindow(timer.window); });
     std::vector<RunningTimer> due;
     for (RunningTimer& timer : g_timers) {
         if (timer.due > g_now)

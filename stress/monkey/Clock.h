@@ -6,7 +6,8 @@
 namespace monkey {
 
 /// Leads the clocks and timers of the program and the library to a time that stands still between calls of
-/// `PassTime`. Timers of the system's own controls go on as before.
+/// `PassTime`: who waits for something no longer gives up after a while. Timers belong to windows; those of
+/// the system's own controls go on as before.
 void StartClock();
 void PassTime(DWORD milliseconds);
 /// Serves the timers that are due, each at most once.

@@ -1,6 +1,7 @@
 #include "stress/monkey/Scratch.h"
 
 #include "stress/monkey/Journal.h"
+#include "tests/support/Clipboard.h"
 
 #include <filesystem>
 #include <fstream>
@@ -61,7 +62,7 @@ Scratch::Scratch(const char* subject, std::uint64_t seed) {
     ::RegCloseKey(own);
     Require(led == ERROR_SUCCESS, "the settings cannot be led to a key of this run");
 
-    Require(::OpenClipboard(nullptr), "the clipboard cannot be emptied");
+    Require(OpenClipboardPatiently(nullptr), "the clipboard cannot be emptied");
     ::EmptyClipboard();
     ::CloseClipboard();
     ::SetCursorPos(0, 0);

@@ -1,6 +1,6 @@
 // Copies of objects, through bytes and through the system's clipboard.
 #include "studio/StudioFixture.h"
-#include "support/PutOnClipboard.h"
+#include "support/Clipboard.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/History.h"
 #include "studio/editing/ObjectClipboard.h"

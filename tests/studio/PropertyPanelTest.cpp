@@ -19,18 +19,26 @@ protected:
         m_parent.ShowWindow(SW_SHOWNOACTIVATE);
         ASSERT_TRUE(m_panel.Create(m_parent));
         m_panel.MoveWindow(300, 0, PropertyPanel::kWidth, 400);
-        ::EnumChildWindows(m_panel.m_hWnd, CollectEdit, reinterpret_cast<LPARAM>(&m_edits));
+        m_edits = Controls(L"Edit");
     }
 
     StudioCanvas* PropertyPage() override { return m_document ? &Page() : nullptr; }
     void OnPropertyRefused(const CString& reason) override { m_reason = reason; }
 
-    static BOOL CALLBACK CollectEdit(HWND window, LPARAM list) {
-        WCHAR name[16] = L"";
-        ::GetClassName(window, name, 16);
-        if (::lstrcmpi(name, L"Edit") == 0)
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    static BOOL CALLBACK Collect(HWND window, LPARAM list) {
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
         return TRUE;
+    }
+    // The panel's controls of a window class, in the order in which they are made.
+    std::vector<HWND> Controls(LPCWSTR windowClass) {
+        std::vector<HWND> controls;
+        ::EnumChildWindows(m_panel.m_hWnd, Collect, reinterpret_cast<LPARAM>(&controls));
+        std::erase_if(controls, [&](HWND control) {
+            WCHAR name[16] = L"";
+            ::GetClassName(control, name, 16);
+            return ::lstrcmpi(name, windowClass) != 0;
+        });
+        return controls;
     }
 
     CString TextOf(Edit edit) {
@@ -184,19 +192,7 @@ TEST_F(PropertyPanelTest, ManyChangesAreShownOnceWhenThereIsTime) {
 TEST_F(PropertyPanelTest, AListThatLosesTheFocusWhileItIsPressedGivesTheMouseBack) {
     Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
     m_panel.Refresh();
-    HWND box = nullptr;
-    ::EnumChildWindows(
-        m_panel.m_hWnd,
-        [](HWND window, LPARAM found) {
-            WCHAR name[16] = L"";
-            ::GetClassName(window, name, 16);
-            if (::lstrcmpi(name, L"ComboBox") != 0 || !::IsWindowEnabled(window))
-                return TRUE;
-            *reinterpret_cast<HWND*>(found) = window;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&box));
-    ASSERT_NE(nullptr, box);
+    const HWND box = Controls(L"ComboBox").at(0);
     ::SendMessage(box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(70, 12));
     ASSERT_NE(0, ::SendMessage(box, CB_GETDROPPEDSTATE, 0, 0));
     Focus(kX);
