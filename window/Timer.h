@@ -9,7 +9,8 @@ namespace Lumo {
 
 /// Calls a function again and again while a window's thread handles messages. Never calls after `Stop` or
 /// after the timer's end, not even for a tick that was already under way. All calls come from the window's
-/// thread.
+/// thread. What a tick throws ends up where a message handler's exceptions do:
+/// CWinThread::ProcessWndProcException.
 class AFX_EXT_CLASS Timer {
 public:
     Timer() = default;
@@ -22,8 +23,8 @@ public:
     bool Start(CWnd& owner, UINT milliseconds, std::function<void()> tick);
     /// Ends the calls; may be called by the tick itself.
     void Stop();
-    /// Whether the timer was started and not stopped.
-    bool IsRunning() const { return m_window != nullptr; }
+    /// Whether the timer was started and not stopped, and its window is still there.
+    bool IsRunning() const { return m_window && ::IsWindow(m_window); }
 
 private:
     static void CALLBACK OnTick(HWND window, UINT message, UINT_PTR id, DWORD time);

@@ -50,9 +50,9 @@ IMPLEMENT_DYNCREATE(CWinThread, CCmdTarget)
 CWinThread::CWinThread() = default;
 
 CWinThread::~CWinThread() {
-    ThreadState& state = GetThreadState();
-    if (state.thread == this)
-        state.thread = nullptr;
+    ThreadState* state = FindThreadState();
+    if (state && state->thread == this)
+        state->thread = nullptr;
 }
 
 CWinThread* AFXAPI AfxGetThread() {

@@ -4,47 +4,40 @@
 
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace {
 
-/// All threads' states, so that unloading the DLL ends those of the threads that go on.
-class ThreadStates {
-public:
-    ThreadStates() : m_slot(::TlsAlloc()) {}
-    ~ThreadStates() {
-        for (ThreadState* state : m_states)
-            delete state;
-        ::TlsFree(m_slot);
-    }
-    ThreadState* Find() const {
-        DWORD error = ::GetLastError();
-        auto* state = static_cast<ThreadState*>(::TlsGetValue(m_slot));
-        ::SetLastError(error);  // TlsGetValue clears it, and callers look at it after window calls
-        return state;
-    }
-    ThreadState& Make() {
-        auto state = std::make_unique<ThreadState>();
-        ExclusiveLock lock(m_lock);
-        m_states.insert(state.get());
-        ::TlsSetValue(m_slot, state.get());
-        return *state.release();
-    }
-    void End() {
-        std::unique_ptr<ThreadState> state(Find());
-        if (!state)
-            return;
-        ::TlsSetValue(m_slot, nullptr);
-        ExclusiveLock lock(m_lock);
-        m_states.erase(state.get());
-    }
+// No slot while the DLL is not loaded or already unloading: its own static windows end then and look for a
+// state.
+constinit DWORD slot = TLS_OUT_OF_INDEXES;
 
-private:
-    DWORD m_slot;
-    SRWLOCK m_lock = SRWLOCK_INIT;
-    std::set<ThreadState*> m_states;
-};
+// All threads' states, so that unloading the DLL ends those of the threads that go on.
+SRWLOCK statesLock = SRWLOCK_INIT;
+std::set<ThreadState*> states;
 
-ThreadStates threadStates;
+ThreadState& MakeThreadState() {
+    auto state = std::make_unique<ThreadState>();
+    ExclusiveLock lock(statesLock);
+    states.insert(state.get());
+    ::TlsSetValue(slot, state.get());
+    return *state.release();
+}
+
+void EndThreadState() {
+    std::unique_ptr<ThreadState> state(FindThreadState());
+    if (!state)
+        return;
+    ::TlsSetValue(slot, nullptr);
+    ExclusiveLock lock(statesLock);
+    states.erase(state.get());
+}
+
+void EndAllThreadStates() {
+    ::TlsFree(std::exchange(slot, TLS_OUT_OF_INDEXES));
+    for (ThreadState* state : states)
+        delete state;
+}
 
 }  // namespace
 
@@ -57,19 +50,28 @@ void ThreadState::ClearTemporaries() {
     contexts.Clear();
 }
 
-ThreadState& GetThreadState() {
-    ThreadState* state = threadStates.Find();
-    return state ? *state : threadStates.Make();
+ThreadState* FindThreadState() {
+    DWORD error = ::GetLastError();
+    auto* state = static_cast<ThreadState*>(::TlsGetValue(slot));
+    ::SetLastError(error);  // TlsGetValue clears it, and callers look at it after window calls
+    return state;
 }
 
-void EndThreadState() {
-    threadStates.End();
+ThreadState& GetThreadState() {
+    ThreadState* state = FindThreadState();
+    return state ? *state : MakeThreadState();
 }
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID processEnds) {
+    if (reason == DLL_PROCESS_ATTACH)
+        slot = ::TlsAlloc();
     if (reason == DLL_THREAD_DETACH)
         EndThreadState();
-    if (reason == DLL_PROCESS_DETACH && !processEnds)
+    // At the end of the process the system takes everything back, and other threads may have been cut off
+    // anywhere.
+    if (reason == DLL_PROCESS_DETACH && !processEnds) {
         UnregisterAllWindowClasses();
-    return TRUE;
+        EndAllThreadStates();
+    }
+    return slot != TLS_OUT_OF_INDEXES || reason != DLL_PROCESS_ATTACH;
 }

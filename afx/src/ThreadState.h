@@ -22,7 +22,8 @@ struct ThreadState {
     void ClearTemporaries();
 };
 
-/// The calling thread's state, made at the first call.
+/// The calling thread's state, made at the first call; it ends with the thread.
 ThreadState& GetThreadState();
-/// Ends the calling thread's state when it has one.
-void EndThreadState();
+/// The calling thread's state when it has one, else null. Destructors ask here: they also run when the
+/// thread's state or the DLL is ending, where none may be made.
+ThreadState* FindThreadState();

@@ -23,9 +23,9 @@ CWnd::CWnd(HWND hWnd) : m_hWnd(hWnd), m_pfnSuper(nullptr), m_nModalResult(0) {}
 CWnd::~CWnd() {
     if (m_hWnd && FromHandlePermanent(m_hWnd) == this)
         DestroyWindow();
-    ThreadState& state = GetThreadState();
-    if (state.creating == this)
-        state.creating = nullptr;
+    ThreadState* state = FindThreadState();
+    if (state && state->creating == this)
+        state->creating = nullptr;
 }
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) {

@@ -43,12 +43,13 @@ bool Load(HINSTANCE instance) {
     return true;
 }
 
-void Unload(HINSTANCE instance) {
+void Unload(HINSTANCE instance, bool processEnds) {
     SetLocale();
     ::UnregisterClass(Lumo::kCanvasClassName, instance);
     delete g_link;
     Lumo::ClearCaptionCache();
-    Gdiplus::GdiplusShutdown(g_gdiPlus);
+    if (!processEnds)  // the threads that GDI+ would wait for have been cut off by then
+        Gdiplus::GdiplusShutdown(g_gdiPlus);
     AfxTermExtensionModule(g_module);
 }
 
@@ -58,10 +59,10 @@ HINSTANCE Lumo::ModuleHandle() {
     return g_module.hModule;
 }
 
-extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
+extern "C" BOOL APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID processEnds) {
     if (reason == DLL_PROCESS_ATTACH)
         return Load(instance);
     if (reason == DLL_PROCESS_DETACH && g_link)  // a load that was refused has undone itself
-        Unload(instance);
+        Unload(instance, processEnds != nullptr);
     return TRUE;
 }

@@ -5,6 +5,7 @@
 #include "WindowSupport.h"
 
 #include <string>
+#include <thread>
 
 namespace {
 
@@ -32,6 +33,26 @@ protected:
         AfxOleTerm();
     }
 };
+
+TEST(OleStart, IsOncePerThreadAndTakenBackOnce) {
+    std::thread([] {
+        ASSERT_TRUE(AfxOleInit());
+        ASSERT_TRUE(AfxOleInit()) << "again: it is there already";
+        AfxOleTerm();
+        EXPECT_EQ(S_OK, ::OleInitialize(nullptr)) << "nothing was left started";
+        ASSERT_TRUE(AfxOleInit());
+        AfxOleTerm();
+        AfxOleTerm();
+        EXPECT_EQ(S_FALSE, ::OleInitialize(nullptr)) << "the thread's own start still counts";
+        ::OleUninitialize();
+        ::OleUninitialize();
+    }).join();
+    std::thread([] {
+        ASSERT_EQ(S_OK, ::CoInitializeEx(nullptr, COINIT_MULTITHREADED));
+        EXPECT_FALSE(AfxOleInit()) << "OLE needs an apartment of the thread's own";
+        ::CoUninitialize();
+    }).join();
+}
 
 /// Tells when it is gone.
 class CountedSource : public COleDataSource {

@@ -3,7 +3,10 @@
 
 #include "WindowSupport.h"
 
+#include <malloc.h>
+
 #include <new>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -144,6 +147,28 @@ TEST(WindowLifetime, TemporaryObjectOwnsNothing) {
     CWnd::DeleteTempMap();
     EXPECT_TRUE(::IsWindow(window));
     ::DestroyWindow(window);
+}
+
+/// Blocks in use on the C runtime's heap, which all the DLLs share.
+int UsedBlocks() {
+    int used = 0;
+    _HEAPINFO entry{};
+    while (::_heapwalk(&entry) == _HEAPOK)
+        used += entry._useflag == _USEDENTRY;
+    return used;
+}
+
+TEST(WindowLifetime, EndedThreadsLeaveNothingBehind) {
+    HWND desktop = ::GetDesktopWindow();
+    auto runThreads = [desktop](int count) {
+        for (int i = 0; i < count; ++i)
+            std::thread([desktop] { EXPECT_NE(nullptr, CWnd::FromHandle(desktop)); }).join();
+    };
+    runThreads(5);
+    const int before = UsedBlocks();
+    ASSERT_GT(before, 100) << "the walk sees the heap";
+    runThreads(20);
+    EXPECT_LT(UsedBlocks(), before + 20) << "a state for every thread stays behind";
 }
 
 TEST(Subclassing, TakesOverAndGivesBack) {

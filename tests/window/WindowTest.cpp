@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <new>
+#include <vector>
 
 using namespace Lumo;
 
@@ -69,6 +71,36 @@ TEST_F(WindowHelpers, TimerTicksUntilItIsStoppedOrGone) {
     }));
     EXPECT_TRUE(PumpUntil([&] { return destroyed; }));
     EXPECT_EQ(2, ticks);
+}
+
+TEST_F(WindowHelpers, WhatATickThrowsGoesTheWayOfAHandlersExceptions) {
+    struct Program : CWinApp {
+        std::vector<UINT_PTR> reported;
+        LRESULT ProcessWndProcException(CException* e, const MSG* message) override {
+            EXPECT_EQ(UINT(WM_TIMER), message->message);
+            EXPECT_TRUE(e->IsKindOf(RUNTIME_CLASS(CSimpleException)));
+            reported.push_back(message->wParam);
+            return 0;
+        }
+    } program;
+    Timer timer;
+    int ticks = 0;
+    ASSERT_TRUE(timer.Start(m_parent, 10, [&] {
+        if (++ticks == 1)
+            throw std::bad_alloc();
+        AfxThrowUserException();
+    }));
+    EXPECT_TRUE(PumpUntil([&] { return ticks == 2; })) << "it goes on after the first";
+    timer.Stop();
+    EXPECT_EQ(std::vector<UINT_PTR>(2, reinterpret_cast<UINT_PTR>(&timer)), program.reported);
+}
+
+TEST_F(WindowHelpers, TimerEndsWithItsWindow) {
+    Timer timer;
+    ASSERT_TRUE(timer.Start(m_parent, 10, [] {}));
+    EXPECT_TRUE(timer.IsRunning());
+    m_parent.DestroyWindow();
+    EXPECT_FALSE(timer.IsRunning());
 }
 
 TEST_F(WindowHelpers, ATickUnderWayFindsNoStoppedTimer) {

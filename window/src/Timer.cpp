@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <new>
 #include <vector>
 
 namespace Lumo {
@@ -15,6 +16,16 @@ std::vector<Timer*> g_running;
 bool IsListed(Timer* timer) {
     const std::lock_guard guard(g_lock);
     return std::find(g_running.begin(), g_running.end(), timer) != g_running.end();
+}
+
+void Report(CException* exception, HWND window, UINT message, WPARAM id) {
+    MSG current = {};
+    current.hwnd = window;
+    current.message = message;
+    current.wParam = id;
+    if (CWinThread* thread = AfxGetThread())
+        thread->ProcessWndProcException(exception, &current);
+    exception->Delete();
 }
 
 }  // namespace
@@ -44,13 +55,20 @@ void Timer::Stop() {
     std::erase(g_running, this);
 }
 
-void CALLBACK Timer::OnTick(HWND window, UINT, UINT_PTR id, DWORD) {
+void CALLBACK Timer::OnTick(HWND window, UINT message, UINT_PTR id, DWORD) {
     auto* timer = reinterpret_cast<Timer*>(id);
     if (!IsListed(timer) || timer->m_window != window)
         return;
     // A copy, for a tick that starts the timer anew or destroys it.
     const auto tick = timer->m_tick;
-    tick();
+    // The system calls this past every window procedure, whose guard would end an exception.
+    try {
+        tick();
+    } catch (CException* exception) {
+        Report(exception, window, message, id);
+    } catch (const std::bad_alloc&) {
+        Report(new CMemoryException, window, message, id);
+    }
 }
 
 }  // namespace Lumo
