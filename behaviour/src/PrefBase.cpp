@@ -2,6 +2,8 @@
 
 #include "appearance/src/ArchiveFields.h"
 
+#include <iterator>
+
 namespace {
 
 // kept: the archive holds only the low 16 bits of a value; files depend on it.

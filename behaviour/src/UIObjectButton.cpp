@@ -3,6 +3,8 @@
 #include "appearance/src/ArchiveFields.h"
 #include "behaviour/src/EllipseHit.h"
 
+#include <iterator>
+
 namespace Lumo {
 
 CUIObjectButton::CUIObjectButton() {

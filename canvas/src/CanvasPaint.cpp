@@ -7,6 +7,8 @@
 #include "core/UIDocument.h"
 #include "core/UIObject.h"
 
+#include <iterator>
+
 namespace Lumo {
 
 namespace {

@@ -7,6 +7,7 @@
 #include "core/UIDocument.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Lumo {
 

@@ -1,5 +1,7 @@
 #include "core/DrawShape.h"
 
+#include <iterator>
+
 namespace Lumo {
 
 const CString& GetDrawShapeName(DrawShape shape) {

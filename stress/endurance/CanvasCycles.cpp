@@ -7,6 +7,7 @@
 #include "core/UIDocument.h"
 #include "core/UIObjectPoly.h"
 
+#include <iterator>
 #include <memory>
 
 namespace endurance {

@@ -15,6 +15,7 @@
 #include <Ini.h>
 
 #include <cstring>
+#include <iterator>
 
 using namespace Studio;
 

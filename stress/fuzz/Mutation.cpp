@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 Random::Random(uint64_t seed, std::string_view loader, uint64_t number) : m_state(seed) {
     for (char letter : loader)

@@ -10,6 +10,8 @@
 #include "canvas/UITool.h"
 #include "core/Geometry.h"
 
+#include <algorithm>
+
 namespace monkey {
 
 using namespace Lumo;

@@ -4,6 +4,7 @@
 #include "studio/app/Commands.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Studio {
 

@@ -5,6 +5,8 @@
 #include "core/GraphicsStateScope.h"
 #include "studio/editing/PageTool.h"
 
+#include <iterator>
+
 namespace Studio {
 
 using namespace Gdiplus;

@@ -3,6 +3,7 @@
 #include "studio/document/PageFile.h"
 
 #include <algorithm>
+#include <iterator>
 #include <new>
 
 namespace Studio {

@@ -4,6 +4,7 @@
 #include "studio/document/Checksum.h"
 
 #include <cstring>
+#include <iterator>
 
 namespace Studio {
 

@@ -1,5 +1,7 @@
 #include "studio/editing/TextKeys.h"
 
+#include <iterator>
+
 namespace Studio {
 
 namespace {

@@ -10,6 +10,7 @@
 #include "studio/editing/ObjectFactory.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Studio {

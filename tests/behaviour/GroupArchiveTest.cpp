@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 using namespace Lumo;
 using Gdiplus::RectF;
 

@@ -4,6 +4,7 @@
 #include "core/UIObjectPoly.h"
 
 #include <functional>
+#include <iterator>
 #include <gtest/gtest.h>
 
 using namespace Lumo;

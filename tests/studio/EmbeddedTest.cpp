@@ -9,6 +9,7 @@
 
 #include <afxole.h>
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 #include <gtest/gtest.h>

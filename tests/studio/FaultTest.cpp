@@ -12,6 +12,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <gtest/gtest.h>
 

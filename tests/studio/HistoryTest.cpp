@@ -6,6 +6,7 @@
 #include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
 
+#include <algorithm>
 #include <random>
 #include <gtest/gtest.h>
 

@@ -11,6 +11,8 @@
 #include <afxadv.h>
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 using namespace Studio;
 using Lumo::CUIObject;
 

@@ -1,6 +1,7 @@
 #include "window/TabStyle.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Lumo {
 

@@ -4,6 +4,7 @@
 #include "studio/editing/StudioCanvas.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Studio {
 
