@@ -30,9 +30,11 @@ public:
     /// For derived classes. Does nothing here.
     virtual void DrawContents(Gdiplus::Graphics* graphics);
 
+    TESSEL_HIDING_BEGIN
     /// Paints the outline, twice as wide, and the fill (not in mode 1) during a drag. The point is not used:
     /// the displacement already sits in the position offset. Not the base's slot 12.
     virtual void DrawDragImage(Gdiplus::Graphics* graphics, Gdiplus::PointF& point);
+    TESSEL_HIDING_END
 };
 
 /// A filled and outlined ellipse with a caption under the fill.
@@ -60,9 +62,11 @@ public:
     /// Paints the outline in opaque black, 2 wide.
     virtual void DrawContents(Gdiplus::Graphics* graphics);
 
+    TESSEL_HIDING_BEGIN
     /// Paints the outline, twice as wide, and the fill (not in mode 1) during a drag. The point is not used:
     /// the displacement already sits in the position offset. Not the base's slot 12.
     virtual void DrawDragImage(Gdiplus::Graphics* graphics, Gdiplus::PointF& point);
+    TESSEL_HIDING_END
 };
 
 /// Replaces `path` by a rounded rectangle on whole units with the corner (`x`, `y`), `width` and `height`;

@@ -34,9 +34,11 @@ public:
 
     /// Slot 32: outlines the position as an ellipse, in black, 2 units wide. `Draw` does not call it.
     virtual void DrawContents(Gdiplus::Graphics* g);
+    TESSEL_HIDING_BEGIN
     /// Slot 33: draws nothing. It stands beside the base object's operation of this name, which takes the
     /// point by value and is reached through a base pointer.
     virtual void DrawDragImage(Gdiplus::Graphics* g, Gdiplus::PointF& point);
+    TESSEL_HIDING_END
 };
 
 }  // namespace Lumo

@@ -3,6 +3,7 @@
 
 #include "appearance/UICoordinate.h"
 #include "core/DrawShape.h"
+#include "core/Hiding.h"
 
 namespace Lumo {
 
@@ -64,8 +65,10 @@ public:
     /// For derived classes. Does nothing here.
     virtual void DrawType(Gdiplus::Graphics* graphics);
 
+    TESSEL_HIDING_BEGIN
     /// For derived classes: paints the object displaced by `offset` during a drag. Does nothing here.
     virtual void DrawDragImage(Gdiplus::Graphics* graphics, Gdiplus::PointF offset);
+    TESSEL_HIDING_END
 
     /// Paints the selection handles: circles on the corners, squares on the edges.
     virtual void DrawTracker(Gdiplus::Graphics* graphics);

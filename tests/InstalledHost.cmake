@@ -10,6 +10,7 @@ add_test(NAME host_build
                  --build-generator "${CMAKE_GENERATOR}" --build-noclean
                  --build-options "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}"
                                  "-DCMAKE_BUILD_TYPE=${CMAKE_BUILD_TYPE}"
+                                 "-DCMAKE_COMPILE_WARNING_AS_ERROR=$<BOOL:${TESSEL_WARNINGS_ARE_ERRORS}>"
                                  "-DTesselCtrls_DIR=${installed}/lib/cmake/TesselCtrls")
 add_test(NAME host COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR} "${host}/host.exe")
 

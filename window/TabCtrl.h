@@ -59,6 +59,8 @@ public:
     TabCtrl(const TabCtrl&) = delete;
     TabCtrl& operator=(const TabCtrl&) = delete;
 
+    using CWnd::Create;
+
     /// Makes the window as a child of `parent`; `rect` is in its client coordinates. With `WS_TABSTOP` in
     /// `style` a click gives the control the keyboard. `id` is the control's number in its notifications.
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);

@@ -66,6 +66,7 @@ public:
     CStatusBar();
     ~CStatusBar() override;
 
+    using CWnd::Create;
     BOOL Create(CWnd* pParentWnd, DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_BOTTOM,
                 UINT nID = AFX_IDW_STATUS_BAR);
     /// Makes one pane per identifier, with its string resource as text and measure; the first stretches when

@@ -14,6 +14,8 @@ public:
     enum Pane { kMode, kHint, kSelection, kPointer, kModified, kPaneCount };
     static constexpr int kHeight = 28;
 
+    using CWnd::Create;
+
     /// Makes the window at the bottom of `parent`.
     bool Create(CWnd& parent);
     void SetPane(Pane pane, const CString& text);

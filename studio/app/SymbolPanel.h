@@ -14,6 +14,8 @@ class SymbolPanel : public CWnd {
 public:
     static constexpr int kWidth = 132;
 
+    using CWnd::Create;
+
     /// Makes the window as a child of `parent`.
     bool Create(CWnd& parent);
     /// Shows another folder, or the same one anew.

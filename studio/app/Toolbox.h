@@ -13,6 +13,8 @@ public:
     /// Width that the buttons need in a window of a height.
     static int WidthFor(int height);
 
+    using CWnd::Create;
+
     /// Makes the window at the left edge of `parent`.
     bool Create(CWnd& parent);
     /// Shows which tool is current.

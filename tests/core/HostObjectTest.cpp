@@ -19,6 +19,9 @@ using Gdiplus::GraphicsPath;
 using Gdiplus::PointF;
 using Gdiplus::RectF;
 
+// Each class overrides one of the operations that share a name.
+#pragma GCC diagnostic ignored "-Woverloaded-virtual"
+
 namespace {
 
 constexpr int kDestructor = 31;

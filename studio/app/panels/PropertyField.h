@@ -35,6 +35,8 @@ public:
 
     const Property& GetProperty() const { return m_property; }
 
+    using CWnd::Create;
+
     /// Makes the window, hidden, as a child of `parent`.
     bool Create(CWnd& parent);
     /// Shows the state; does nothing when it is the one that is shown.

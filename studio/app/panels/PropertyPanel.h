@@ -34,6 +34,8 @@ public:
     /// The owner outlives the panel.
     explicit PropertyPanel(PropertyPanelOwner& owner);
 
+    using CWnd::Create;
+
     /// Makes the window at the right edge of `parent`.
     bool Create(CWnd& parent);
     /// The selection or its objects may have changed: the fields follow when there is time for it, however

@@ -8,6 +8,8 @@ namespace Studio {
 /// A little window over the fields. It takes neither focus nor clicks.
 class RefusalNote : public CWnd {
 public:
+    using CWnd::Create;
+
     /// Makes the hidden window as a child of `parent`.
     bool Create(CWnd& parent);
     /// Shows the reason under `field` (client coordinates of the parent), or above it where there is no room.

@@ -10,6 +10,7 @@ class SectionHeader : public CButton {
 public:
     static constexpr int kHeight = 28;
 
+    using CButton::Create;
     bool Create(CWnd& parent, Text title, UINT id);
     bool IsOpen() const { return m_open; }
     void Toggle();
