@@ -126,7 +126,12 @@ int CWinThread::ExitInstance() {
 LRESULT CWinThread::ProcessWndProcException(CException*, const MSG* pMsg) {
     if (pMsg->message == WM_CREATE)
         return -1;
-    if (pMsg->message == WM_PAINT)
-        ::ValidateRect(pMsg->hwnd, nullptr);  // or the same failing paint would come again at once
+    if (pMsg->message == WM_PAINT) {
+        // Or the same failing paint would come again at once. ValidateRect would leave a frame that was not
+        // painted yet.
+        PAINTSTRUCT paint;
+        ::BeginPaint(pMsg->hwnd, &paint);
+        ::EndPaint(pMsg->hwnd, &paint);
+    }
     return 0;
 }
