@@ -2,6 +2,7 @@
 # cppcheck over every source file of the tree. What has not changed since the last run is remembered in build/cppcheck.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+scripts/has-version.sh cppcheck 2.10 || exit 0
 
 mkdir -p build/cppcheck
 find . -path ./build -prune -o -name '*.cpp' -printf '%P\n' | sort >build/cppcheck.files

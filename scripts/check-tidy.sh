@@ -4,6 +4,7 @@
 # goes into the system's headers, so files with the same options of the compiler are checked together in batches.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+scripts/has-version.sh clang-tidy 14 || exit 0
 
 build=build/checked
 work=build/tidy
