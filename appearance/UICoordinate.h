@@ -9,7 +9,7 @@ namespace Lumo {
 
 /// Held by value in every object, copied and archived as a whole. Setters store what they are given
 /// without checks or notifications unless they say otherwise.
-class AFX_EXT_CLASS CUICoordinate {
+class TESSEL_API CUICoordinate {
 public:
     /// Eight records with their defaults.
     CUICoordinate();

@@ -6,7 +6,7 @@
 namespace Lumo {
 
 /// A filled and outlined rectangle with a caption under the fill.
-class AFX_EXT_CLASS CUIObjectRectangle : public CUIObject {
+class TESSEL_API CUIObjectRectangle : public CUIObject {
 public:
     /// Kind 3, named "Rectangle".
     CUIObjectRectangle();
@@ -38,7 +38,7 @@ public:
 };
 
 /// A filled and outlined ellipse with a caption under the fill.
-class AFX_EXT_CLASS CUIObjectEllipse : public CUIObject {
+class TESSEL_API CUIObjectEllipse : public CUIObject {
 public:
     /// Kind 4, named "Ellipse".
     CUIObjectEllipse();
@@ -72,7 +72,7 @@ public:
 /// Replaces `path` by a rounded rectangle on whole units with the corner (`x`, `y`), `width` and `height`;
 /// `diameter` is that of its corners, at most the width and the height. Returns the status of the last GDI+
 /// call.
-AFX_EXT_API Gdiplus::Status GetRoundRectPath(Gdiplus::GraphicsPath* path, float x, float y, float width,
-                                             float height, int diameter);
+TESSEL_API Gdiplus::Status GetRoundRectPath(Gdiplus::GraphicsPath* path, float x, float y, float width,
+                                            float height, int diameter);
 
 }  // namespace Lumo

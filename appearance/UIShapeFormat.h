@@ -20,17 +20,8 @@ enum ShapeFormatType : int {
     SFT_TEXTBOX = 16,   ///< `CUIShapeFormatTextBox`
 };
 
-/// Puts `alpha` (0 to 255, truncated) into the top byte of `color` with OR, so that alpha bits which the
-/// colour already has stay set.
-AFX_EXT_API DWORD MergeAlpha(float alpha, DWORD color);
-
-/// The line cap of a stored `code`; flat for a custom cap, of which a record keeps no shape.
-inline Gdiplus::LineCap LineCapOf(int code) {
-    return code == Gdiplus::LineCapCustom ? Gdiplus::LineCapFlat : static_cast<Gdiplus::LineCap>(code);
-}
-
 /// Base of the records: kind, name and enabled flag. Virtual members stand in a fixed order.
-class AFX_EXT_CLASS CUIShapeFormat {
+class TESSEL_API CUIShapeFormat {
 public:
     /// A record of the kind `type`, called `name`.
     CUIShapeFormat(ShapeFormatType type, const CString& name, int enabled);
@@ -60,7 +51,7 @@ public:
 };
 
 /// Caption of an object.
-class AFX_EXT_CLASS CUIShapeFormatText : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatText : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_TEXT;
@@ -88,7 +79,7 @@ public:
 };
 
 /// Interior of a shape.
-class AFX_EXT_CLASS CUIShapeFormatFill : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatFill : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_FILL;
@@ -103,6 +94,10 @@ public:
     void Serialize(CArchive& ar) override;
     /// Copies every field.
     virtual void Set(const CUIShapeFormatFill& other) { *this = other; }
+
+    /// What a solid fill is painted with: the colour with the alpha merged into its top byte by OR, so that
+    /// alpha bits which the colour already has stay set.
+    DWORD GetBrushColor() const;
 
     /// 1 and 2 solid, 3 vertical gradient, 4 tiled image, 5 image at its own size, 6 faded picture.
     int m_nShapeMode = 0;
@@ -119,7 +114,7 @@ public:
 };
 
 /// Colour of an outline.
-class AFX_EXT_CLASS CUIShapeFormatLineColor : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatLineColor : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_LINECOLOR;
@@ -149,7 +144,7 @@ public:
 };
 
 /// Pen of an outline.
-class AFX_EXT_CLASS CUIShapeFormatLineStyle : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatLineStyle : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_LINESTYLE;
@@ -164,6 +159,9 @@ public:
     void Serialize(CArchive& ar) override;
     /// Copies every field.
     virtual void Set(const CUIShapeFormatLineStyle& other) { *this = other; }
+
+    /// Gives `pen` the caps of both ends; flat for a custom cap, of which the record keeps no shape.
+    void SetPenCaps(Gdiplus::Pen& pen) const;
 
     float m_fWidth = 0.0f;             ///< pen width in page units
     int m_nAlignment = 0;              ///< `Gdiplus::PenAlignment`; not archived
@@ -185,7 +183,7 @@ public:
 };
 
 /// Shadow of a shape; kept and archived, not painted.
-class AFX_EXT_CLASS CUIShapeFormatShadow : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatShadow : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_SHADOW;
@@ -210,7 +208,7 @@ public:
 };
 
 /// Size, scale factors and rotation of an object.
-class AFX_EXT_CLASS CUIShapeFormatScale : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatScale : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_SCALE;
@@ -235,7 +233,7 @@ public:
 };
 
 /// Place of an object.
-class AFX_EXT_CLASS CUIShapeFormatPosition : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatPosition : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_POSITION;
@@ -258,7 +256,7 @@ public:
 };
 
 /// Values of a text box; kept and archived for the host.
-class AFX_EXT_CLASS CUIShapeFormatTextBox : public CUIShapeFormat {
+class TESSEL_API CUIShapeFormatTextBox : public CUIShapeFormat {
 public:
     /// The kind that `CUICoordinate::GetShapeFormat` knows this record by.
     static constexpr ShapeFormatType Type = SFT_TEXTBOX;

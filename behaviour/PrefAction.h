@@ -5,7 +5,7 @@
 #include "behaviour/PrefBase.h"
 
 /// Input of a value.
-class AFX_EXT_CLASS CPrefInput : public CPrefBase {
+class TESSEL_API CPrefInput : public CPrefBase {
 public:
     CPrefInput() = default;
     /// Copies the values, not the name.
@@ -19,7 +19,7 @@ public:
 };
 
 /// Action of a button.
-class AFX_EXT_CLASS CPrefButton : public CPrefBase {
+class TESSEL_API CPrefButton : public CPrefBase {
 public:
     CPrefButton() = default;
     /// Copies the values, not the name.
@@ -40,7 +40,7 @@ public:
 };
 
 /// Switch to another page.
-class AFX_EXT_CLASS CPrefPage : public CPrefBase {
+class TESSEL_API CPrefPage : public CPrefBase {
 public:
     CPrefPage() = default;
     /// Copies the values, not the name.
@@ -56,7 +56,7 @@ public:
 };
 
 /// Display of the bound value as text.
-class AFX_EXT_CLASS CPrefText : public CPrefBase {
+class TESSEL_API CPrefText : public CPrefBase {
 public:
     CPrefText() = default;
     /// Copies the values, not the name.
@@ -70,7 +70,7 @@ public:
 };
 
 /// Slider.
-class AFX_EXT_CLASS CPrefSlider : public CPrefBase {
+class TESSEL_API CPrefSlider : public CPrefBase {
 public:
     CPrefSlider() = default;
     /// Copies the values, not the name.

@@ -12,7 +12,7 @@
 #include "core/Platform.h"
 
 /// The base of every behaviour record.
-class AFX_EXT_CLASS CPrefBase {
+class TESSEL_API CPrefBase {
 public:
     CPrefBase() = default;
     /// Copies the name, unlike the derived records.
@@ -36,7 +36,7 @@ struct CPrefComparison {
 };
 
 /// The condition under which an object's behaviours act: up to four joined comparisons.
-class AFX_EXT_CLASS CPrefCondition : public CPrefBase {
+class TESSEL_API CPrefCondition : public CPrefBase {
 public:
     CPrefCondition() = default;
     /// Copies the values, not the name.

@@ -5,7 +5,7 @@
 #include "behaviour/PrefBase.h"
 
 /// Blinking.
-class AFX_EXT_CLASS CPrefBlink : public CPrefBase {
+class TESSEL_API CPrefBlink : public CPrefBase {
 public:
     CPrefBlink() = default;
     /// Copies the values, not the name.
@@ -24,7 +24,7 @@ public:
 };
 
 /// Change of colours. All fields are ARGB.
-class AFX_EXT_CLASS CPrefColor : public CPrefBase {
+class TESSEL_API CPrefColor : public CPrefBase {
 public:
     CPrefColor() = default;
     /// Copies the values, not the name.
@@ -43,7 +43,7 @@ public:
 };
 
 /// Hiding.
-class AFX_EXT_CLASS CPrefHide : public CPrefBase {
+class TESSEL_API CPrefHide : public CPrefBase {
 public:
     CPrefHide() = default;
     /// Copies the values, not the name.
@@ -62,7 +62,7 @@ public:
 };
 
 /// Filling of a part of the object in proportion to the bound value.
-class AFX_EXT_CLASS CPrefFill : public CPrefBase {
+class TESSEL_API CPrefFill : public CPrefBase {
 public:
     CPrefFill() = default;
     /// Copies the values, not the name.

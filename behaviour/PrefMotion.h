@@ -5,7 +5,7 @@
 #include "behaviour/PrefBase.h"
 
 /// Movement; an object has two of them.
-class AFX_EXT_CLASS CPrefMove : public CPrefBase {
+class TESSEL_API CPrefMove : public CPrefBase {
 public:
     CPrefMove() = default;
     /// Copies the values, not the name.
@@ -22,7 +22,7 @@ public:
 };
 
 /// Resizing; an object has two of them.
-class AFX_EXT_CLASS CPrefSize : public CPrefBase {
+class TESSEL_API CPrefSize : public CPrefBase {
 public:
     CPrefSize() = default;
     /// Copies the values, not the name.
@@ -40,7 +40,7 @@ public:
 };
 
 /// Rotation.
-class AFX_EXT_CLASS CPrefRotate : public CPrefBase {
+class TESSEL_API CPrefRotate : public CPrefBase {
 public:
     CPrefRotate() = default;
     /// Copies the values, not the name.

@@ -6,7 +6,7 @@
 #include "behaviour/PrefBase.h"
 
 /// One line of a trend graph.
-class AFX_EXT_CLASS CPrefTrendLine : public CPrefBase {
+class TESSEL_API CPrefTrendLine : public CPrefBase {
 public:
     CPrefTrendLine() = default;
     /// Copies the values, not the name.
@@ -22,7 +22,7 @@ public:
 /// Trend graph. The lines belong to whoever uses the record. Kept: neither the destructor nor an assignment
 /// destroys the lines that were in the list, so the owner deletes them before the record goes or is
 /// overwritten.
-class AFX_EXT_CLASS CPrefTrend : public CPrefBase {
+class TESSEL_API CPrefTrend : public CPrefBase {
 public:
     CPrefTrend() = default;
     /// Copies the values, not the name.

@@ -7,7 +7,7 @@ namespace Lumo {
 
 /// The state of a push, check or radio button. The library keeps and archives the state and decides on every
 /// paint which state operation to call; what a state looks like and how the button reacts is the host's part.
-class AFX_EXT_CLASS CUIObjectButton : public CUIObject {
+class TESSEL_API CUIObjectButton : public CUIObject {
 public:
     /// Kind 4, name "Button".
     CUIObjectButton();
@@ -99,7 +99,7 @@ private:
 };
 
 /// A rectangular button. It starts with all draw flags set, the over flag included.
-class AFX_EXT_CLASS CUIObjectButtonRect : public CUIObjectButton {
+class TESSEL_API CUIObjectButtonRect : public CUIObjectButton {
 public:
     /// Kind 4, name "ButtonRect".
     CUIObjectButtonRect();
@@ -118,7 +118,7 @@ private:
 };
 
 /// A button with rounded corners.
-class AFX_EXT_CLASS CUIObjectButtonRectRound : public CUIObjectButton {
+class TESSEL_API CUIObjectButtonRectRound : public CUIObjectButton {
 public:
     /// Kind 4, name "ButtonRectRound".
     CUIObjectButtonRectRound();
@@ -134,7 +134,7 @@ public:
 };
 
 /// An elliptic button.
-class AFX_EXT_CLASS CUIObjectButtonEllipse : public CUIObjectButton {
+class TESSEL_API CUIObjectButtonEllipse : public CUIObjectButton {
 public:
     /// Kind 4, name "ButtonEllipse".
     CUIObjectButtonEllipse();

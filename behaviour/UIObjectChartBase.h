@@ -6,7 +6,7 @@
 namespace Lumo {
 
 /// The base class of the host's charts: a symbol that draws nothing and handles no event by itself.
-class AFX_EXT_CLASS CUIObjectChartBase : public CUIObjectSymbol {
+class TESSEL_API CUIObjectChartBase : public CUIObjectSymbol {
 public:
     /// A chart on `rect` (page units) of the given kind; the shape name is "ChartBase".
     CUIObjectChartBase(const Gdiplus::RectF& rect, DrawShape kind);

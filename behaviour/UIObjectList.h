@@ -15,7 +15,7 @@ class CUIDocument;
 /// Lifetime: `Release` destroys the children and leaves the group itself alive, unlike the base object's; the
 /// document deletes the emptied group afterwards, unless an override of `Release` has. The destructor and the
 /// copies destroy no child.
-class AFX_EXT_CLASS CUIObjectList : public CUIObject {
+class TESSEL_API CUIObjectList : public CUIObject {
 public:
     /// A group on `bounds` (page units), marked as grouped although it has no children yet; the shape name is
     /// "List" whatever the kind.
@@ -102,7 +102,7 @@ protected:
 };
 
 /// A group that was inserted from a symbol file. It differs from a group in its name and default kind only.
-class AFX_EXT_CLASS CUIObjectSymbol : public CUIObjectList {
+class TESSEL_API CUIObjectSymbol : public CUIObjectList {
 public:
     /// A symbol on `bounds` (page units) of the given kind; the shape name is "Symbol".
     CUIObjectSymbol(const Gdiplus::RectF& bounds, DrawShape kind);

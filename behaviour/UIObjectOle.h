@@ -8,7 +8,7 @@ class COleClientItem;
 namespace Lumo {
 
 /// An embedded OLE object on the page. The host attaches the client item and draws it.
-class AFX_EXT_CLASS CUIObjectOle : public CUIObject {
+class TESSEL_API CUIObjectOle : public CUIObject {
 public:
     /// Both values 0, no client item, the kind not set.
     CUIObjectOle();

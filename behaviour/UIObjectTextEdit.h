@@ -7,7 +7,7 @@ namespace Lumo {
 
 /// A text box. Its text and text format live in the coordinate record; the in-place editor changes them. The
 /// library draws nothing for it: a host derives from it and draws the text.
-class AFX_EXT_CLASS CUIObjectTextEdit : public CUIObject {
+class TESSEL_API CUIObjectTextEdit : public CUIObject {
 public:
     /// Kind 13, name "TextEdit", the default position.
     CUIObjectTextEdit();

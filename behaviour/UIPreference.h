@@ -10,7 +10,7 @@
 /// All behaviours of one object: one record of each kind, two for moving and resizing. A behaviour that is
 /// not in use is a record on which the host does not act. No object of the library holds or archives a set; a
 /// host that keeps one per object archives it itself.
-class AFX_EXT_CLASS CUIPreference {
+class TESSEL_API CUIPreference {
 public:
     /// Sixteen records with their defaults and empty names.
     CUIPreference();

@@ -28,7 +28,7 @@ enum CanvasMode : int {
 /// Shows a page and passes mouse messages to the tools. The window belongs to the host, which destroys it and
 /// deletes the canvas; a canvas that is deleted takes its page out of every document. One page unit is one
 /// pixel.
-class AFX_EXT_CLASS CUICanvas : public CWnd {
+class TESSEL_API CUICanvas : public CWnd {
     DECLARE_DYNAMIC(CUICanvas)
 
 public:

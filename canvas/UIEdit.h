@@ -10,7 +10,7 @@ class CUIObjectTextEdit;
 /// Edits the text of one text object where it stands. Enter stores the text, Escape drops it; both destroy
 /// the window. The editor lives on the heap and deletes itself when its window is gone, clearing its owner's
 /// pointer to it. `CUICanvas::EditText` opens and closes it.
-class AFX_EXT_CLASS CUIEdit : public CEdit {
+class TESSEL_API CUIEdit : public CEdit {
     DECLARE_DYNAMIC(CUIEdit)
 
 public:

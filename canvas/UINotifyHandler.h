@@ -17,7 +17,7 @@ enum DragState : int {
 /// with the messages of its window: `wnd` is that window, `message` the message number, `flags` the MK_
 /// key-state flags, `packed` the client point with x in the low and y in the high 16 bits, both unsigned.
 /// `OnKeyDown` gets the key data instead. Every handler is empty here.
-class AFX_EXT_CLASS CUINotifyBase {
+class TESSEL_API CUINotifyBase {
 public:
     // Slot order is part of the contract.
     /// For derived classes: a press of the left button.
@@ -57,7 +57,7 @@ public:
 ///
 /// A handler serves one window at a time. Call `OnLButtonDown` of this class before the first move: only it
 /// puts the drag state into a new handler.
-class AFX_EXT_CLASS CUINotifyHandler : public CUINotifyBase {
+class TESSEL_API CUINotifyHandler : public CUINotifyBase {
 public:
     /// All points at the origin. Kept: the drag state is not set before the first press.
     CUINotifyHandler();
@@ -85,7 +85,7 @@ protected:
 ///
 /// The current position is read when the button is released: a drag starts with the first move after a press
 /// that finds it apart from the previous one. Call `OnLButtonDown` of this class before the first move.
-class AFX_EXT_CLASS CUINotifyHandlerEx : public CUINotifyBase {
+class TESSEL_API CUINotifyHandlerEx : public CUINotifyBase {
 public:
     /// Both positions at the origin. Kept: marker and drag state are not set before the first press.
     CUINotifyHandlerEx();

@@ -16,7 +16,7 @@ class CUIObjectPoly;
 /// Base of all mouse tools. A tool registers itself when it is constructed and leaves the registry when it is
 /// destroyed; a canvas finds its tool by shape kind, first registered first. A host puts a tool of its own
 /// ahead of the library's by moving it to the front of `m_tools`.
-class AFX_EXT_CLASS CUIToolBase {
+class TESSEL_API CUIToolBase {
 public:
     /// Registers the tool at the back of `m_tools` for `kind`.
     explicit CUIToolBase(DrawShape kind);
@@ -75,7 +75,7 @@ protected:
 };
 
 /// Selects, moves and reshapes objects. The other tools hand it the drag of what they created.
-class AFX_EXT_CLASS CUISelectTool : public CUIToolBase {
+class TESSEL_API CUISelectTool : public CUIToolBase {
 public:
     /// What a drag does.
     enum DragMode {
@@ -111,7 +111,7 @@ private:
 };
 
 /// Creates an object with a single click.
-class AFX_EXT_CLASS CUIDownTool : public CUIToolBase {
+class TESSEL_API CUIDownTool : public CUIToolBase {
 public:
     /// Registers the tool for `kind`.
     explicit CUIDownTool(DrawShape kind);
@@ -127,7 +127,7 @@ public:
 
 /// Passes every event to the front selected object's `RelayEvent`, with the client point packed into the last
 /// argument (low word x, high word y).
-class AFX_EXT_CLASS CUISymbolTool : public CUIDownTool {
+class TESSEL_API CUISymbolTool : public CUIDownTool {
 public:
     /// Registers the tool for `kind`.
     explicit CUISymbolTool(DrawShape kind);
@@ -145,7 +145,7 @@ public:
 };
 
 /// Creates rectangles, ellipses, text boxes and lists by dragging out their rectangle.
-class AFX_EXT_CLASS CUIDownUpTool : public CUIToolBase {
+class TESSEL_API CUIDownUpTool : public CUIToolBase {
 public:
     /// Registers the tool for `kind`.
     explicit CUIDownUpTool(DrawShape kind);
@@ -160,7 +160,7 @@ public:
 
 /// Creates lines and polylines point by point: click, click, ... double click; or press, drag, release for a
 /// line.
-class AFX_EXT_CLASS CUIMultiDownTool : public CUIToolBase {
+class TESSEL_API CUIMultiDownTool : public CUIToolBase {
 public:
     /// Registers the tool for `kind`.
     explicit CUIMultiDownTool(DrawShape kind);
@@ -183,7 +183,7 @@ private:
 };
 
 /// Opens the in-place editor on the text object under the pointer; anything else goes to the select tool.
-class AFX_EXT_CLASS CUITextTool : public CUIToolBase {
+class TESSEL_API CUITextTool : public CUIToolBase {
 public:
     /// A tool for kind 0xFF01.
     CUITextTool();
@@ -195,7 +195,7 @@ public:
 };
 
 /// A tool whose handlers do nothing, for a host's configuration mode.
-class AFX_EXT_CLASS CUIConfigurationTool : public CUIToolBase {
+class TESSEL_API CUIConfigurationTool : public CUIToolBase {
 public:
     /// Registers the tool for `kind`.
     explicit CUIConfigurationTool(DrawShape kind);
@@ -206,7 +206,7 @@ public:
 };
 
 /// A tool whose handlers do nothing, for a host's run mode.
-class AFX_EXT_CLASS CUIRunningTool : public CUIToolBase {
+class TESSEL_API CUIRunningTool : public CUIToolBase {
 public:
     /// Registers the tool for `kind`.
     explicit CUIRunningTool(DrawShape kind);

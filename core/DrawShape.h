@@ -46,6 +46,6 @@ inline constexpr int kDrawShapeCount = 29;
 
 /// Display name of a kind ("Rectangle"); "Unknown" for every value outside 0 to 28. The string is a shared
 /// constant: copies of it cost no memory.
-AFX_EXT_API const CString& GetDrawShapeName(DrawShape shape);
+TESSEL_API const CString& GetDrawShapeName(DrawShape shape);
 
 }  // namespace Lumo

@@ -7,7 +7,7 @@ namespace Lumo {
 
 /// Draws the outline of the ellipse in `bounds` (page units, size not negative) with `pen` (not owned).
 /// Unlike `Graphics::DrawEllipse` it can be asked for ellipses that are very large or far away.
-AFX_EXT_API void DrawEllipseOutline(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen,
-                                    const Gdiplus::RectF& bounds);
+TESSEL_API void DrawEllipseOutline(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen,
+                                   const Gdiplus::RectF& bounds);
 
 }  // namespace Lumo

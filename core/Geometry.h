@@ -7,27 +7,27 @@
 namespace Lumo {
 
 /// Rounds half away from zero. A `value` beyond the 32-bit range gives the nearest end of it, NaN gives 0.
-AFX_EXT_API int RoundToInt(float value);
+TESSEL_API int RoundToInt(float value);
 
 /// Truncates towards zero. A `value` beyond the 32-bit range gives the nearest end of it, NaN gives 0.
-AFX_EXT_API int TruncToInt(float value);
+TESSEL_API int TruncToInt(float value);
 
 /// Both coordinates of `point` rounded half away from zero.
-AFX_EXT_API CPoint PointAtlFromGdi(const Gdiplus::PointF& point);
+TESSEL_API CPoint PointAtlFromGdi(const Gdiplus::PointF& point);
 
 /// The same `point` in floats.
-AFX_EXT_API Gdiplus::PointF PointGdiFromAtl(const CPoint& point);
+TESSEL_API Gdiplus::PointF PointGdiFromAtl(const CPoint& point);
 
 /// The four edges rounded half away from zero; right and bottom are summed in floats first.
-AFX_EXT_API CRect RectAtlFromGdi(const Gdiplus::RectF& rect);
+TESSEL_API CRect RectAtlFromGdi(const Gdiplus::RectF& rect);
 
 /// Left, top and the differences of the edges; a right left of the left gives a negative width.
-AFX_EXT_API Gdiplus::RectF RectGdiFromAtl(const CRect& rect);
+TESSEL_API Gdiplus::RectF RectGdiFromAtl(const CRect& rect);
 
 /// Bounds of a rectangle turned by `angle` degrees (clockwise on the screen) about `centre`. Quarter turns
 /// are exact.
-AFX_EXT_API Gdiplus::RectF RotatedBounds(float angle, const Gdiplus::RectF& rect,
-                                         const Gdiplus::PointF& centre);
+TESSEL_API Gdiplus::RectF RotatedBounds(float angle, const Gdiplus::RectF& rect,
+                                        const Gdiplus::PointF& centre);
 
 /// Centre of a rectangle.
 inline Gdiplus::PointF CentreOf(const Gdiplus::RectF& rect) {

@@ -8,7 +8,7 @@ namespace Lumo {
 /// Limits painting to a rectangle while it lives. The canvas holds one for the length of a paint message;
 /// every object's `Draw` asks `Misses` before its first GDI+ call. A nested scope replaces the outer one
 /// until it ends. Outside any scope everything is drawn. User-interface thread only.
-class AFX_EXT_CLASS PaintScope {
+class TESSEL_API PaintScope {
 public:
     /// Limits painting to `update` (page units) until this object goes out of scope.
     explicit PaintScope(const Gdiplus::RectF& update);

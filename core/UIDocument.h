@@ -21,7 +21,7 @@ using CUIPageMap = std::map<CUICanvas*, CUIObjectDeque*>;
 /// Holds pages of objects. Owns the object lists and the objects in them, not the canvases. All calls come
 /// from the thread that owns the canvas windows. End a document with `Release`, which destroys its objects;
 /// the destructor alone does not.
-class AFX_EXT_CLASS CUIDocument {
+class TESSEL_API CUIDocument {
 public:
     /// No pages, not modified.
     CUIDocument();

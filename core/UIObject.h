@@ -16,7 +16,7 @@ class CUIDocument;
 ///
 /// Handles: corners 0 to 3 clockwise from the top left, edge middles 4 to 7 clockwise from the top, the last
 /// handle is the body. Geometry is in page units, angles are degrees clockwise on the screen.
-class AFX_EXT_CLASS CUIObject {
+class TESSEL_API CUIObject {
 public:
     /// Empty name, kind unknown, default style: `Init` must follow.
     CUIObject();

@@ -9,7 +9,7 @@ namespace Lumo {
 
 /// A row of points joined by segments. With rectangle mode 0 (a new object's) every point is a handle and the
 /// last handle is the body; with rectangle mode 1 the object is edited like a rectangle.
-class AFX_EXT_CLASS CUIObjectPoly : public CUIObject {
+class TESSEL_API CUIObjectPoly : public CUIObject {
 public:
     /// No points, at most 0 of them, rectangle mode 1: `Init` must follow.
     CUIObjectPoly();
@@ -123,7 +123,7 @@ private:
 };
 
 /// A line of two points, drawn with caps and three times the line width.
-class AFX_EXT_CLASS CUIObjectLine : public CUIObjectPoly {
+class TESSEL_API CUIObjectLine : public CUIObjectPoly {
 public:
     /// As the base's default.
     CUIObjectLine();
@@ -147,7 +147,7 @@ public:
 };
 
 /// A row of up to 65536 points.
-class AFX_EXT_CLASS CUIObjectPolyLine : public CUIObjectPoly {
+class TESSEL_API CUIObjectPolyLine : public CUIObjectPoly {
 public:
     /// As the base's default.
     CUIObjectPolyLine();

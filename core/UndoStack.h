@@ -9,7 +9,7 @@ class CUIObject;
 
 /// The book-keeping of an undo store: capacity, count, task names and the menu text. `Push` and `Pop` are
 /// empty on purpose; a host defines what a snapshot holds.
-class AFX_EXT_CLASS CUndoStack {
+class TESSEL_API CUndoStack {
 public:
     /// A stack for `owner` (not owned) with room for `capacity` snapshots; a negative capacity acts as 0.
     CUndoStack(CUIObject* owner, int capacity);

@@ -8,7 +8,7 @@ namespace Lumo {
 /// A file that is written whole or not at all. What is written goes to "<path>.saving" beside it, which takes
 /// the file's place in `Commit`; until then, and for good when it is never called, a file at the path is as
 /// it was. A process that ends in between leaves the file beside behind, and the next one writes over it.
-class AFX_EXT_CLASS WholeFile {
+class TESSEL_API WholeFile {
 public:
     /// Makes the file beside `path`. Raises a `CFileException` that names `path`, also when the old file is
     /// read-only, and when another process is writing the same file in this way.

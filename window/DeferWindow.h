@@ -9,7 +9,7 @@ namespace Lumo {
 
 /// Collects where the children of one parent go and moves all of them at once when it ends, so that no step
 /// in between is seen. A window that is there already is not touched.
-class AFX_EXT_CLASS DeferWindow {
+class TESSEL_API DeferWindow {
 public:
     DeferWindow() = default;
     /// Moves what was collected.

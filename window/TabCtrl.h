@@ -50,7 +50,7 @@ enum class TabPart {
 /// arrows, Home and End; dragged to another place (Escape ends the drag); renamed by a double click or F2;
 /// closed by a button, the middle button or Del; scrolled by two buttons and the wheel when they do not fit.
 /// The pages are the host's affair. Indices start with 0.
-class AFX_EXT_CLASS TabCtrl : public CWnd {
+class TESSEL_API TabCtrl : public CWnd {
     DECLARE_DYNAMIC(TabCtrl)
 
 public:

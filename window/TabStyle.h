@@ -25,7 +25,7 @@ struct TabColors {
 };
 
 /// The colours of `theme`.
-AFX_EXT_CLASS TabColors TabColorsOf(TabTheme theme);
+TESSEL_API TabColors TabColorsOf(TabTheme theme);
 
 /// The side of the pages on which the tabs are.
 enum class TabSide {
@@ -52,7 +52,7 @@ struct TabState {
 
 /// The base of all styles: measures and paints a plain strip of rectangles. A host's own style overrides what
 /// looks different. Sizes are in pixels.
-class AFX_EXT_CLASS TabStyle {
+class TESSEL_API TabStyle {
 public:
     /// A style in `colors`.
     explicit TabStyle(const TabColors& colors);
@@ -101,7 +101,7 @@ private:
 };
 
 /// No faces: texts on the strip, the current one in the accent colour with a bar at the page's side.
-class AFX_EXT_CLASS FlatTabStyle : public TabStyle {
+class TESSEL_API FlatTabStyle : public TabStyle {
 public:
     /// The style in the colours of `theme`.
     explicit FlatTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
@@ -114,7 +114,7 @@ public:
 };
 
 /// Buttons on a bar: separate faces with round corners, the current one filled with the accent colour.
-class AFX_EXT_CLASS BarTabStyle : public TabStyle {
+class TESSEL_API BarTabStyle : public TabStyle {
 public:
     /// The style in the colours of `theme`.
     explicit BarTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}
@@ -128,7 +128,7 @@ public:
 };
 
 /// Index cards: the current tab is one piece with the page beside the strip.
-class AFX_EXT_CLASS ClientAreaTabStyle : public TabStyle {
+class TESSEL_API ClientAreaTabStyle : public TabStyle {
 public:
     /// The style in the colours of `theme`.
     explicit ClientAreaTabStyle(TabTheme theme = TabTheme::kLight) : TabStyle(TabColorsOf(theme)) {}

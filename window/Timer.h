@@ -11,7 +11,7 @@ namespace Lumo {
 /// after the timer's end, not even for a tick that was already under way. All calls come from the window's
 /// thread. What a tick throws ends up where a message handler's exceptions do:
 /// CWinThread::ProcessWndProcException.
-class AFX_EXT_CLASS Timer {
+class TESSEL_API Timer {
 public:
     Timer() = default;
     ~Timer();

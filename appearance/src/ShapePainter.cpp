@@ -5,7 +5,7 @@
 #include "appearance/PictureFile.h"
 #include "core/EllipseOutline.h"
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
+#include "core/internal/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 
 namespace Lumo {
@@ -83,10 +83,7 @@ private:
             m_graphics.FillRectangle(&brush, area);
     }
 
-    void FillSolid() {
-        // Kept: the alpha is merged by OR, so the colour's own alpha bits stay.
-        Fill(Gdiplus::SolidBrush{Gdiplus::Color(MergeAlpha(m_fill.m_fAlpha, m_fill.m_dwColor))}, m_position);
-    }
+    void FillSolid() { Fill(Gdiplus::SolidBrush{Gdiplus::Color(m_fill.GetBrushColor())}, m_position); }
 
     // Kept: top to bottom and from far above the shape, whatever type and direction say.
     void FillGradient() {

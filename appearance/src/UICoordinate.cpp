@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "appearance/src/ArchiveFields.h"
+#include "appearance/internal/ArchiveFields.h"
 #include "core/Geometry.h"
 
 namespace Lumo {

@@ -1,13 +1,22 @@
 #include "appearance/UIShapeFormat.h"
 
-#include "appearance/src/ArchiveFields.h"
+#include "appearance/internal/ArchiveFields.h"
 #include "core/Geometry.h"
 
 namespace Lumo {
 
+namespace {
+
+// Kept: merged by OR, so the colour's own alpha bits stay.
 DWORD MergeAlpha(float alpha, DWORD color) {
     return static_cast<DWORD>(TruncToInt(alpha)) << 24 | color;
 }
+
+Gdiplus::LineCap CapOf(int code) {
+    return code == Gdiplus::LineCapCustom ? Gdiplus::LineCapFlat : static_cast<Gdiplus::LineCap>(code);
+}
+
+}  // namespace
 
 CUIShapeFormat::CUIShapeFormat(ShapeFormatType type, const CString& name, int enabled)
     : m_nType(type), m_strName(name), m_bEnabled(enabled) {}
@@ -96,6 +105,10 @@ void CUIShapeFormatFill::Serialize(CArchive& ar) {
                   m_dwGradientDirection, m_strImagePath, m_nPatternStyle, m_dwForeColor, m_dwBackColor);
 }
 
+DWORD CUIShapeFormatFill::GetBrushColor() const {
+    return MergeAlpha(m_fAlpha, m_dwColor);
+}
+
 CUIShapeFormatLineColor::CUIShapeFormatLineColor() : CUIShapeFormatLineColor(L"ShapeFormatLineColor", 1) {
     m_nShapeMode = 1;
 }
@@ -123,7 +136,6 @@ void CUIShapeFormatLineColor::Serialize(CArchive& ar) {
 bool CUIShapeFormatLineColor::GetPenColor(DWORD* color) const {
     if (m_bEnabled == 0 || (m_nShapeMode != 1 && m_nShapeMode != 2))
         return false;
-    // Kept: mode 2 merges its alpha by OR, so the colour's own alpha bits stay.
     *color = m_nShapeMode == 1 ? m_dwColor | 0xFF000000 : MergeAlpha(m_fAlpha, m_dwColor);
     return true;
 }
@@ -161,6 +173,11 @@ void CUIShapeFormatLineStyle::Serialize(CArchive& ar) {
                   m_fDash[1], m_fDash[2], m_fDash[3], m_nCapType, m_nReserved1, m_nReserved2,
                   m_fStartArrowWidth, m_fStartArrowHeight, m_bStartArrowFilled, m_fEndArrowWidth,
                   m_fEndArrowHeight, m_bEndArrowFilled);
+}
+
+void CUIShapeFormatLineStyle::SetPenCaps(Gdiplus::Pen& pen) const {
+    pen.SetStartCap(CapOf(m_nStartCap));
+    pen.SetEndCap(CapOf(m_nEndCap));
 }
 
 CUIShapeFormatShadow::CUIShapeFormatShadow() : CUIShapeFormatShadow(L"ShapeFormatShadow", 1) {}

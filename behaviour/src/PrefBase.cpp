@@ -1,6 +1,6 @@
 #include "behaviour/PrefBase.h"
 
-#include "appearance/src/ArchiveFields.h"
+#include "appearance/internal/ArchiveFields.h"
 
 #include <iterator>
 

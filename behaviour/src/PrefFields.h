@@ -4,7 +4,7 @@
 
 #include <tuple>
 
-#include "appearance/src/ArchiveFields.h"
+#include "appearance/internal/ArchiveFields.h"
 
 namespace pref {
 

@@ -1,6 +1,6 @@
 #include "behaviour/UIObjectButton.h"
 
-#include "appearance/src/ArchiveFields.h"
+#include "appearance/internal/ArchiveFields.h"
 #include "behaviour/src/EllipseHit.h"
 
 #include <iterator>

@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
+#include "core/internal/GraphicsStateScope.h"
 #include "core/UIDocument.h"
 
 namespace Lumo {

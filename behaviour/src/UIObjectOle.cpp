@@ -1,6 +1,6 @@
 #include "behaviour/UIObjectOle.h"
 
-#include "appearance/src/ArchiveFields.h"
+#include "appearance/internal/ArchiveFields.h"
 
 namespace Lumo {
 

@@ -5,7 +5,7 @@
 #include "canvas/src/ToolObjects.h"
 #include "core/UIDocument.h"
 #include "core/UIObjectPoly.h"
-#include "core/src/ObjectFactory.h"
+#include "core/internal/ObjectFactory.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -4,7 +4,7 @@
 #include "canvas/UICanvas.h"
 #include "canvas/UITool.h"
 #include "core/UIObject.h"
-#include "core/src/SystemCursor.h"
+#include "core/internal/SystemCursor.h"
 
 namespace Lumo {
 

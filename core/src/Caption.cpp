@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
-#include "core/src/CaptionCache.h"
+#include "core/internal/GraphicsStateScope.h"
+#include "core/internal/CaptionCache.h"
 
 namespace Lumo {
 

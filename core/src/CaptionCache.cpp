@@ -1,9 +1,9 @@
-#include "core/src/CaptionCache.h"
+#include "core/internal/CaptionCache.h"
 
 #include <functional>
 #include <string_view>
 
-#include "core/GraphicsStateScope.h"
+#include "core/internal/GraphicsStateScope.h"
 
 namespace Lumo {
 

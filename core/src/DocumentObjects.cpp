@@ -5,7 +5,7 @@
 #include "core/Geometry.h"
 #include "core/UIObject.h"
 #include "core/src/ForEachObject.h"
-#include "core/src/ObjectFactory.h"
+#include "core/internal/ObjectFactory.h"
 
 #include <algorithm>
 

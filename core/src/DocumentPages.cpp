@@ -3,7 +3,7 @@
 
 #include "canvas/UICanvas.h"
 #include "core/UIObject.h"
-#include "module/Module.h"
+#include "module/internal/Module.h"
 
 #include <iterator>
 

@@ -1,4 +1,4 @@
-#include "core/src/ObjectFactory.h"
+#include "core/internal/ObjectFactory.h"
 
 #include "appearance/UIObjectRectangle.h"
 #include "behaviour/UIObjectList.h"

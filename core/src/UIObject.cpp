@@ -2,7 +2,7 @@
 
 #include <cfloat>
 
-#include "appearance/src/ArchiveFields.h"
+#include "appearance/internal/ArchiveFields.h"
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
 

@@ -1,7 +1,7 @@
 // Handles, hit tests and moving of the object base.
 #include "core/Geometry.h"
 #include "core/UIObject.h"
-#include "core/src/SystemCursor.h"
+#include "core/internal/SystemCursor.h"
 #include "core/src/HandlePainter.h"
 
 namespace Lumo {

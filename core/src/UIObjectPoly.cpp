@@ -7,7 +7,7 @@
 #include "canvas/UITool.h"
 #include "core/Geometry.h"
 #include "core/src/HandlePainter.h"
-#include "core/src/SystemCursor.h"
+#include "core/internal/SystemCursor.h"
 
 namespace Lumo {
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
+#include "core/internal/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 #include "core/UIObjectPoly.h"
 #include "core/src/HandlePainter.h"
@@ -95,8 +95,7 @@ void PaintAsLines(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, 
     graphics.SetInterpolationMode(Gdiplus::InterpolationModeDefault);
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
     pen.SetAlignment(static_cast<Gdiplus::PenAlignment>(coordinate.GetLineAlignment()));
-    pen.SetStartCap(LineCapOf(coordinate.GetLineStartCap()));
-    pen.SetEndCap(LineCapOf(coordinate.GetLineEndCap()));
+    coordinate.Format<CUIShapeFormatLineStyle>().SetPenCaps(pen);
     segments.ForEachPainted(reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
         graphics.DrawLine(&pen, from, to);
         return true;

@@ -75,7 +75,7 @@ void CLoggable::AddLogLineV(int level, int, LPCWSTR format, va_list args) noexce
     ::SetLastError(lastError);
 }
 
-void CLoggable::AddArguments(int level, int reserved, LPCWSTR format, ...) noexcept {
+void CLoggable::AddLogLine(int level, int reserved, LPCWSTR format, ...) noexcept {
     va_list args;
     va_start(args, format);
     AddLogLineV(level, reserved, format, args);

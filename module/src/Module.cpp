@@ -1,7 +1,7 @@
 // Loading and unloading of the library.
-#include "module/Module.h"
+#include "module/internal/Module.h"
 
-#include "core/src/CaptionCache.h"
+#include "core/internal/CaptionCache.h"
 
 #include <afxdllx.h>
 

@@ -1,8 +1,7 @@
 #include "studio/app/ToolIcons.h"
 
 #include "studio/app/ControlIcons.h"
-
-#include "core/GraphicsStateScope.h"
+#include "studio/controls/GraphicsStateScope.h"
 #include "studio/editing/PageTool.h"
 
 #include <iterator>
@@ -67,7 +66,7 @@ void DrawLandscape(Graphics& g, const Pen& frame, Color color) {
 }  // namespace
 
 void DrawToolIcon(Graphics& g, Lumo::DrawShape kind, float x, float y, float size, DWORD argb) {
-    Lumo::GraphicsStateScope state(g);
+    GraphicsStateScope state(g);
     g.TranslateTransform(x, y);
     g.ScaleTransform(size / kField, size / kField);
     const Color color(argb);

@@ -1,9 +1,9 @@
 #include "studio/editing/EmbeddedObject.h"
 
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 #include "studio/app/Texts.h"
+#include "studio/controls/GraphicsStateScope.h"
 #include "studio/editing/History.h"
 #include "studio/editing/StudioCanvas.h"
 
@@ -99,7 +99,7 @@ void EmbeddedObject::Draw(Gdiplus::Graphics* g) {
         DrawPlaceholder(*g, bounds);
         return;
     }
-    const Lumo::GraphicsStateScope state(*g);
+    const GraphicsStateScope state(*g);
     g->SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
     g->DrawImage(image, bounds, 0.0f, 0.0f, static_cast<float>(image->GetWidth()),
                  static_cast<float>(image->GetHeight()), Gdiplus::UnitPixel);

@@ -1,9 +1,9 @@
 #include "studio/editing/GroupObject.h"
 
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 #include "core/UIObjectPoly.h"
+#include "studio/controls/GraphicsStateScope.h"
 #include "studio/editing/Geometry.h"
 
 #include <algorithm>
@@ -76,7 +76,7 @@ int GroupObject::Depth() const {
 
 void GroupObject::Draw(Gdiplus::Graphics* g) {
     const RectF group = GetPosition();
-    Lumo::GraphicsStateScope state(*g);
+    GraphicsStateScope state(*g);
     g->TranslateTransform(group.X, group.Y);
     for (CUIObject* child : GetChildren()) {
         RectF bounds = Lumo::Normalised(child->GetPosition());

@@ -2,8 +2,8 @@
 
 #include "appearance/PictureFile.h"
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
+#include "studio/controls/GraphicsStateScope.h"
 
 #include <algorithm>
 #include <cmath>
@@ -141,7 +141,7 @@ void DrawPictureFill(Graphics& g, const CUIObject& object) {
     if (bounds.Width < 1.0f || bounds.Height < 1.0f || Lumo::PaintScope::Misses(bounds))
         return;
     const auto& fill = FillOf(object);
-    Lumo::GraphicsStateScope state(g);
+    GraphicsStateScope state(g);
     ClipToShape(g, object, bounds);
     if (Bitmap* picture = Cache().Find(fill.m_strImagePath))
         DrawPicture(g, *picture, bounds, static_cast<PictureMode>(fill.m_nShapeMode));

@@ -2,8 +2,8 @@
 
 #include "core/EllipseOutline.h"
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
+#include "studio/controls/GraphicsStateScope.h"
 
 #include <algorithm>
 #include <cmath>
@@ -81,10 +81,9 @@ void DrawStyledFigure(Gdiplus::Graphics& g, Lumo::CUIObjectPoly& figure, float w
         return;
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
     SetDash(pen, coordinate.GetLineDashStyle(), LengthOf(points));
-    pen.SetStartCap(Lumo::LineCapOf(coordinate.GetLineStartCap()));
-    pen.SetEndCap(Lumo::LineCapOf(coordinate.GetLineEndCap()));
+    coordinate.Format<Lumo::CUIShapeFormatLineStyle>().SetPenCaps(pen);
     pen.SetLineJoin(Gdiplus::LineJoinRound);
-    const Lumo::GraphicsStateScope state(g);
+    const GraphicsStateScope state(g);
     g.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     g.DrawLines(&pen, points.data(), static_cast<INT>(points.size()));
 }

@@ -1,8 +1,8 @@
 #include "studio/editing/TextBox.h"
 
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
+#include "studio/controls/GraphicsStateScope.h"
 #include "studio/editing/StyledShapes.h"
 
 namespace Studio {
@@ -27,7 +27,7 @@ void TextBox::Draw(Gdiplus::Graphics* g) {
 void TextBox::DrawGround(Gdiplus::Graphics& g, const RectF& bounds) const {
     const auto& fill = m_coordinate.Format<Lumo::CUIShapeFormatFill>();
     if (fill.m_bEnabled && (fill.m_nShapeMode == 1 || fill.m_nShapeMode == 2)) {
-        Gdiplus::SolidBrush brush{Gdiplus::Color(Lumo::MergeAlpha(fill.m_fAlpha, fill.m_dwColor))};
+        Gdiplus::SolidBrush brush{Gdiplus::Color(fill.GetBrushColor())};
         g.FillRectangle(&brush, bounds);
     }
     if (fill.m_bEnabled && fill.m_nShapeMode == 3) {
@@ -58,7 +58,7 @@ void TextBox::DrawText(Gdiplus::Graphics& g, const RectF& bounds) {
     layout.SetLineAlignment(Gdiplus::StringAlignmentCenter);
     layout.SetTrimming(Gdiplus::StringTrimmingEllipsisCharacter);
     const Gdiplus::SolidBrush brush{Gdiplus::Color(format.m_dwTextColor)};
-    Lumo::GraphicsStateScope state(g);
+    GraphicsStateScope state(g);
     g.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(format.m_nRenderHint));
     // The editor ends a line with two characters, of which not every system draws only the line's end.
     CString text = format.m_strText;

@@ -131,7 +131,7 @@ CUIShapeFormatFill& FillOf(CUIObject& object) {
 DWORD GetFillColor(CUIObject& object) {
     const auto& fill = FillOf(object);
     const bool solid = fill.m_nShapeMode == kSolid || fill.m_nShapeMode == kSolidWhileDragged;
-    return solid ? MergeAlpha(fill.m_fAlpha, fill.m_dwColor) : fill.m_dwColor;
+    return solid ? fill.GetBrushColor() : fill.m_dwColor;
 }
 
 void SetFillColor(CUIObject& object, DWORD color) {
@@ -168,9 +168,9 @@ PropertySection FillSection() {
 
 // An opaque outline has no alpha, whatever its record says.
 DWORD GetLineColor(CUIObject& object) {
-    const DWORD rgb = object.GetLineColor() & 0x00FFFFFF;
-    return object.GetLineShapeMode() == kOpaque ? rgb | 0xFF000000
-                                                : MergeAlpha(object.GetLineAlpha(), object.GetLineColor());
+    const bool opaque = object.GetLineShapeMode() == kOpaque;
+    return object.GetLineColor() | (opaque ? 0xFF : static_cast<DWORD>(TruncToInt(object.GetLineAlpha())))
+                                       << 24;
 }
 
 void SetLineColor(CUIObject& object, DWORD color) {

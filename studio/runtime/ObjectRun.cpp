@@ -2,10 +2,10 @@
 
 #include "canvas/UICanvas.h"
 #include "core/Geometry.h"
-#include "core/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 #include "behaviour/UIObjectTextEdit.h"
 #include "studio/controls/Control.h"
+#include "studio/controls/GraphicsStateScope.h"
 #include "studio/editing/Geometry.h"
 #include "studio/editing/ObjectFactory.h"
 
@@ -282,7 +282,7 @@ void ObjectRun::Draw(Gdiplus::Graphics& g, const std::function<void()>& own) {
     }
     const RectF bounds = Lumo::Normalised(m_object.GetPosition());
     const PointF centre = Lumo::CentreOf(bounds) + PointF(m_look.centreX, m_look.centreY);
-    Lumo::GraphicsStateScope state(g);
+    GraphicsStateScope state(g);
     g.TranslateTransform(centre.X, centre.Y);
     g.RotateTransform(m_look.angle);
     g.TranslateTransform(-centre.X, -centre.Y);
@@ -325,7 +325,7 @@ void ObjectRun::DrawUpright(Gdiplus::Graphics& g, const std::function<void()>& o
 void ObjectRun::DrawFilled(Gdiplus::Graphics& g) {
     const CPrefFill& fill = m_extras.prefs.m_fill;
     const RectF bounds = Lumo::Normalised(m_object.GetPosition());
-    Lumo::GraphicsStateScope state(g);
+    GraphicsStateScope state(g);
     const bool round = m_object.GetDrawShape() == Lumo::DS_ELLIPSE;
     const DirectPaint direct(round ? nullptr : DirectPaint::Target());
     if (round) {

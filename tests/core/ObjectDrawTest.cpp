@@ -1,7 +1,7 @@
 #include <vector>
 
 #include "appearance/UIObjectRectangle.h"
-#include "core/GraphicsStateScope.h"
+#include "core/internal/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 #include "support/Geometry.h"
 #include "support/PaintScopes.h"

@@ -1,5 +1,6 @@
 // A host of the library: it overrides everything that can be overridden, draws a rectangle with the mouse,
-// saves and loads it. It knows the installed files only. Ends with 0 when every check passed.
+// saves and loads it, and has an extension DLL. It knows the installed files only. Ends with 0 when every
+// check passed.
 #include "Overrides.h"
 
 #include <afxadv.h>
@@ -326,11 +327,34 @@ void CheckPage() {
     delete canvas;
 }
 
+std::set<std::string> ExportsOf(HMODULE module) {
+    const auto* image = reinterpret_cast<const BYTE*>(module);
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(image);
+    const auto* header = reinterpret_cast<const IMAGE_NT_HEADERS*>(image + dos->e_lfanew);
+    const auto& place = header->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
+    const auto* exports = reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(image + place.VirtualAddress);
+    const auto* names = reinterpret_cast<const DWORD*>(image + exports->AddressOfNames);
+    std::set<std::string> found;
+    for (DWORD i = 0; place.Size != 0 && i < exports->NumberOfNames; ++i)
+        found.insert(reinterpret_cast<const char*>(image + names[i]));
+    return found;
+}
+
+// What a DLL of the host exports is the host's: it imports the library and does not export it once more.
+void CheckExtension() {
+    const std::set<std::string> own = ExportsOf(::LoadLibrary(L"extension.dll"));
+    Check(!own.empty(), "the exports of an extension DLL");
+    for (const wchar_t* name : {L"TesselCtrls.dll", L"TesselAfx.dll", L"MarrowLog.dll"})
+        for (const std::string& symbol : ExportsOf(::GetModuleHandle(name)))
+            Check(own.count(symbol) == 0, ("not exported by an extension DLL: " + symbol).c_str());
+}
+
 class HostApp : public CWinApp {
 public:
     BOOL InitInstance() override {
         CheckOverrides();
         CheckPage();
+        CheckExtension();
         return FALSE;
     }
     int ExitInstance() override {

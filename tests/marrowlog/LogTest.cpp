@@ -28,9 +28,10 @@ TEST(Log, AppendsLinesInUtf8WithTimeAndLevel) {
     {
         const LogTo log(file.Path());
         ::SetLastError(1234);
-        CLoggable::AddLogLine(5, 0, L"[\xC608\xC678] %s of %hs: %d, %.1f", name, "CPage", 42, 0.5);
+        CLoggable::AddLogLine(5, 0, L"[\xC608\xC678] %s of %hs: %d, %.1f", name.GetString(), "CPage", 42,
+                              0.5);
         EXPECT_EQ(1234u, ::GetLastError());
-        CLoggable::AddLogLine(-1, 0, L"%s", CString(L'x', 5000));
+        CLoggable::AddLogLine(-1, 0, L"%s", CString(L'x', 5000).GetString());
         CLoggable::AddLogLine(0, 0, nullptr);
     }
     CLoggable::AddLogLine(5, 0, L"not in the file");
@@ -63,7 +64,7 @@ TEST(Log, LinesOfSeveralThreadsDoNotMix) {
     for (int t = 0; t < 4; ++t)
         threads.emplace_back([t] {
             for (int i = 0; i < 100; ++i)
-                CLoggable::AddLogLine(t, 0, L"%s", CString(wchar_t(L'a' + t), 100));
+                CLoggable::AddLogLine(t, 0, L"%s", CString(wchar_t(L'a' + t), 100).GetString());
         });
     for (std::thread& thread : threads)
         thread.join();
