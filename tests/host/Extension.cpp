@@ -1,6 +1,8 @@
 // An extension DLL of the host, with an object class that it exports as such DLLs do.
 #include "AllHeaders.h"
 
+#include <Loggable.h>
+
 class AFX_EXT_CLASS HostGauge : public Lumo::CUIObjectRectangle {
 public:
     using CUIObjectRectangle::CUIObjectRectangle;
