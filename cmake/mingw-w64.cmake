@@ -1,4 +1,5 @@
-# Cross build for Windows with the posix-threads flavour of MinGW-w64. CMAKE_SYSTEM_PROCESSOR says for which processor.
+# Cross build for Windows with the posix-threads flavour of MinGW-w64; programs run through Wine. CMAKE_SYSTEM_PROCESSOR
+# says for which processor.
 set(CMAKE_SYSTEM_NAME Windows)
 
 set(TESSEL_TRIPLET ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
@@ -12,3 +13,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 
 set(CMAKE_CXX_FLAGS_DEBUG_INIT "-Og -g1")
+
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/wine-launcher.sh")
