@@ -3,6 +3,7 @@
 #include "stress/monkey/Clock.h"
 #include "stress/monkey/Journal.h"
 
+#include <climits>
 #include <vector>
 
 namespace monkey {
@@ -26,10 +27,17 @@ constexpr Button kMiddle = {WM_MBUTTONDOWN,         WM_MBUTTONUP,         WM_MBU
 constexpr ULONG_PTR kOwnInput = 0x6D6F6E6B;  // marks what SystemMouse sends
 
 UINT g_held = 0;
+const CPoint kNowhere(LONG_MIN, LONG_MIN);
+CPoint g_awaited = kNowhere;  // the point on the screen of the own input that did not arrive yet
 
+// The pointer that own input moved comes back as a move of the screen, and the system may merge the two: what
+// arrives then has no mark.
 LRESULT CALLBACK DropForeign(int code, WPARAM wParam, LPARAM lParam) {
-    if (code >= 0 && reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam)->dwExtraInfo != kOwnInput)
+    const auto& mouse = *reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam);
+    if (code >= 0 && mouse.dwExtraInfo != kOwnInput && CPoint(mouse.pt) != g_awaited)
         return 1;
+    if (code == HC_ACTION)
+        g_awaited = kNowhere;
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
@@ -54,6 +62,7 @@ void SystemMouse(CPoint screen, DWORD event) {
     input.mi.dy = static_cast<LONG>((screen.y * 65536LL + 32768) / ::GetSystemMetrics(SM_CYSCREEN));
     input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | event;
     input.mi.dwExtraInfo = kOwnInput;
+    g_awaited = screen;
     ::SendInput(1, &input, sizeof input);
 }
 
