@@ -1,5 +1,7 @@
 #include "stress/endurance/Meter.h"
 
+#include "tests/support/Holdings.h"
+
 #include <psapi.h>
 
 #include <algorithm>
@@ -21,27 +23,6 @@ BOOL CALLBACK CountChild(HWND, LPARAM count) {
 BOOL CALLBACK CountWindow(HWND window, LPARAM count) {
     ::EnumChildWindows(window, &CountChild, count);
     return CountChild(window, count);
-}
-
-// Where the system does not tell the number, the table of all graphics objects does, which it shows to every
-// process.
-int GraphicsObjects() {
-    if (const DWORD count = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS))
-        return static_cast<int>(count);
-    struct Entry {
-        ULONGLONG object;
-        USHORT owner, uses, generation;
-        BYTE type, flags;
-        ULONGLONG user;
-    };
-    constexpr size_t kTableInBlock = 0xF8;
-    constexpr int kEntries = 0x10000;
-    const auto* block = reinterpret_cast<const BYTE*>(__readgsqword(0x60));
-    const auto* table = *reinterpret_cast<const Entry* const*>(block + kTableInBlock);
-    int count = 0;
-    for (int i = 0; table && i < kEntries; ++i)
-        count += table[i].type != 0;
-    return count;
 }
 
 int Handles() {

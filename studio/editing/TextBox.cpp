@@ -13,6 +13,8 @@ using Gdiplus::RectF;
 namespace {
 
 constexpr float kPadding = 4.0f;
+// No page is as high. The graphics library takes sizes that are no numbers, draws nothing and loses a font.
+constexpr float kLargestFont = 32767.0f;
 
 }  // namespace
 
@@ -48,7 +50,8 @@ void TextBox::DrawGround(Gdiplus::Graphics& g, const RectF& bounds) const {
 void TextBox::DrawText(Gdiplus::Graphics& g, const RectF& bounds) {
     const auto& format = m_coordinate.Format<Lumo::CUIShapeFormatText>();
     const RectF room = Lumo::Inflated(bounds, -kPadding);
-    if (!format.m_bEnabled || format.m_strText.IsEmpty() || room.Width <= 0.0f || room.Height <= 0.0f)
+    if (!format.m_bEnabled || format.m_strText.IsEmpty() || room.Width <= 0.0f || room.Height <= 0.0f ||
+        !(format.m_fFontSize > 0.0f && format.m_fFontSize <= kLargestFont))
         return;
     const Gdiplus::FontFamily family(GetTextFontName());
     const Gdiplus::Font font(&family, format.m_fFontSize, format.m_nFontStyle,

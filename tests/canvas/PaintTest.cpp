@@ -106,16 +106,4 @@ TEST_F(PaintTest, RemovedObjectsAreNotDrawnUnlessTheyAreTheFocus) {
     EXPECT_EQ(object->drawn, 1);
 }
 
-TEST_F(PaintTest, PaintingManyTimesLeaksNoHandles) {
-    AddRectangle(10, 10, 100, 100);
-    m_canvas->Invalidate();
-    m_canvas->UpdateWindow();
-    const DWORD before = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
-    for (int i = 0; i < 200; ++i) {
-        m_canvas->Invalidate();
-        m_canvas->UpdateWindow();
-    }
-    EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), before + 2);
-}
-
 }  // namespace
