@@ -14,8 +14,8 @@ public:
 
     HMENU m_hMenu = nullptr;  ///< the handle, null when there is none
 
-    operator HMENU() const { return m_hMenu; }
-    HMENU GetSafeHmenu() const { return m_hMenu; }
+    operator HMENU() const;
+    HMENU GetSafeHmenu() const;  ///< the handle, null also when called on no object
     /// The object of a menu, a temporary one when no object owns it; null for null.
     static CMenu* PASCAL FromHandle(HMENU hMenu);
     static CMenu* PASCAL FromHandlePermanent(HMENU hMenu);

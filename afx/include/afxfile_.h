@@ -107,6 +107,7 @@ class AFX_CLASS_EXPORT CMemFile : public CFile {
     ULONGLONG GetPosition() const override;
     ULONGLONG GetLength() const override;
     ULONGLONG Seek(LONGLONG lOff, UINT nFrom) override;
+    /// Cuts the file or extends it with zeros; the position stays unless it would lie behind the new end.
     void SetLength(ULONGLONG dwNewLen) override;
     UINT Read(void* lpBuf, UINT nCount) override;
     void Write(const void* lpBuf, UINT nCount) override;

@@ -19,8 +19,8 @@ public:
 
     HGDIOBJ m_hObject = nullptr;  ///< the handle, null when there is none
 
-    operator HGDIOBJ() const { return m_hObject; }
-    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+    operator HGDIOBJ() const;
+    HGDIOBJ GetSafeHandle() const;  ///< the handle, null also when called on no object
 
     /// The wrapper of a handle, a temporary one when no object owns the handle; null for null.
     static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
@@ -45,7 +45,7 @@ public:
     CPen() = default;
     CPen(int nPenStyle, int nWidth, COLORREF crColor) { CreatePen(nPenStyle, nWidth, crColor); }
 
-    operator HPEN() const { return static_cast<HPEN>(m_hObject); }
+    operator HPEN() const;
     static CPen* PASCAL FromHandle(HPEN hPen) { return static_cast<CPen*>(CGdiObject::FromHandle(hPen)); }
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
         return Attach(::CreatePen(nPenStyle, nWidth, crColor));
@@ -63,7 +63,7 @@ public:
     explicit CBrush(COLORREF crColor) { CreateSolidBrush(crColor); }
     CBrush(int nIndex, COLORREF crColor) { CreateHatchBrush(nIndex, crColor); }
 
-    operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
+    operator HBRUSH() const;
     static CBrush* PASCAL FromHandle(HBRUSH hBrush) {
         return static_cast<CBrush*>(CGdiObject::FromHandle(hBrush));
     }
@@ -84,7 +84,7 @@ class AFX_CLASS_EXPORT CFont : public CGdiObject {
 public:
     CFont() = default;
 
-    operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+    operator HFONT() const;
     static CFont* PASCAL FromHandle(HFONT hFont) {
         return static_cast<CFont*>(CGdiObject::FromHandle(hFont));
     }
@@ -102,7 +102,7 @@ class AFX_CLASS_EXPORT CBitmap : public CGdiObject {
 public:
     CBitmap() = default;
 
-    operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
+    operator HBITMAP() const;
     static CBitmap* PASCAL FromHandle(HBITMAP hBitmap) {
         return static_cast<CBitmap*>(CGdiObject::FromHandle(hBitmap));
     }
@@ -120,7 +120,7 @@ class AFX_CLASS_EXPORT CRgn : public CGdiObject {
 public:
     CRgn() = default;
 
-    operator HRGN() const { return static_cast<HRGN>(m_hObject); }
+    operator HRGN() const;
     static CRgn* PASCAL FromHandle(HRGN hRgn) { return static_cast<CRgn*>(CGdiObject::FromHandle(hRgn)); }
     BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
     BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
@@ -158,8 +158,8 @@ public:
     HDC m_hAttribDC = nullptr;
     BOOL m_bPrinting = FALSE;
 
-    operator HDC() const { return m_hDC; }
-    HDC GetSafeHdc() const { return m_hDC; }
+    operator HDC() const;
+    HDC GetSafeHdc() const;  ///< the output handle, null also when called on no object
     BOOL IsPrinting() const { return m_bPrinting; }
 
     /// The wrapper of a handle, a temporary one when no object owns the handle; null for null.
@@ -225,7 +225,8 @@ public:
     CPoint GetWindowOrg() const;
     CSize GetWindowExt() const;
 
-    /// Device to logical and back; sizes are converted by the extents alone and come out positive.
+    /// Device to logical and back; sizes are converted by the extents alone and keep their
+    /// signs.
     void DPtoLP(LPPOINT lpPoints, int nCount = 1) const { ::DPtoLP(m_hAttribDC, lpPoints, nCount); }
     void DPtoLP(LPRECT lpRect) const { ::DPtoLP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2); }
     void DPtoLP(LPSIZE lpSize) const;

@@ -36,4 +36,7 @@ public:
 
 protected:
     TCHAR m_szFileName[MAX_PATH] = {};
+
+private:
+    UINT ShowNarrow();
 };

@@ -43,10 +43,11 @@ public:
     CString() noexcept : m_pszData(Nil()) {}
     CString(const CString& other) noexcept : m_pszData(Share(other.m_pszData)) {}
     CString(CString&& other) noexcept : m_pszData(other.m_pszData) { other.m_pszData = Nil(); }
+    /// Also MAKEINTRESOURCE of a string resource's number: its text, empty when there is none.
     CString(LPCWSTR psz);
     /// The first `nLength` characters at `pch`, which may contain zeros.
     CString(const wchar_t* pch, int nLength);
-    /// Converts from the ANSI code page.
+    /// Converts from the ANSI code page; takes the number of a string resource, too.
     CString(LPCSTR psz);
     /// Converts `nLength` bytes from the ANSI code page.
     CString(const char* pch, int nLength);
@@ -72,6 +73,11 @@ public:
     CString& operator=(wchar_t ch);
     void SetString(LPCWSTR psz);
     void SetString(LPCWSTR pch, int nLength);
+
+    /// Takes the text of a string resource, looked for where AfxLoadString looks, or in one module. FALSE,
+    /// and the old text stays, when there is none.
+    BOOL LoadString(UINT nID);
+    BOOL LoadString(HINSTANCE hInstance, UINT nID);
 
     int GetLength() const noexcept { return Data(m_pszData)->nDataLength; }
     bool IsEmpty() const noexcept { return GetLength() == 0; }
@@ -222,6 +228,7 @@ private:
         m_pszData[length] = 0;
     }
     LPWSTR PrepareWrite(ptrdiff_t capacity);
+    bool LoadNumbered(const void* text);
     void Convert(const char* pch, int nLength);
     void FormatArguments(LPCWSTR pszFormat, ...);
 };

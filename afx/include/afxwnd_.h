@@ -23,8 +23,8 @@ public:
     /// Places in the order of windows for SetWindowPos; no windows.
     static const CWnd wndTop, wndBottom, wndTopMost, wndNoTopMost;
 
-    operator HWND() const { return m_hWnd; }
-    HWND GetSafeHwnd() const { return m_hWnd; }
+    operator HWND() const;
+    HWND GetSafeHwnd() const;  ///< the handle, null also when called on no object
 
     /// The object of a window, a temporary one when no object is attached to it; null for null.
     static CWnd* PASCAL FromHandle(HWND hWnd);

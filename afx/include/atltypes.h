@@ -12,7 +12,10 @@ public:
     CSize() noexcept : tagSIZE{0, 0} {}
     CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
     CSize(SIZE initSize) noexcept : tagSIZE(initSize) {}
-    explicit CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
+    CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
+    /// As some functions of the system return it: signed width in the low word, signed height in the high
+    /// word.
+    CSize(DWORD dwSize) noexcept : tagSIZE{short(LOWORD(dwSize)), short(HIWORD(dwSize))} {}
 
     void SetSize(int CX, int CY) noexcept { cx = CX, cy = CY; }
 
@@ -32,9 +35,9 @@ public:
     CPoint() noexcept : tagPOINT{0, 0} {}
     CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
     CPoint(POINT initPt) noexcept : tagPOINT(initPt) {}
-    explicit CPoint(SIZE initSize) noexcept : tagPOINT{initSize.cx, initSize.cy} {}
+    CPoint(SIZE initSize) noexcept : tagPOINT{initSize.cx, initSize.cy} {}
     /// A message parameter: signed x in the low word, signed y in the high word.
-    explicit CPoint(LPARAM dwPoint) noexcept : tagPOINT{short(LOWORD(dwPoint)), short(HIWORD(dwPoint))} {}
+    CPoint(LPARAM dwPoint) noexcept : tagPOINT{short(LOWORD(dwPoint)), short(HIWORD(dwPoint))} {}
 
     void SetPoint(int X, int Y) noexcept { x = X, y = Y; }
     void Offset(int xOffset, int yOffset) noexcept { x += xOffset, y += yOffset; }

@@ -74,8 +74,8 @@ void CWinApp::SetInstance(HINSTANCE hInstance, LPTSTR lpCmdLine, int nCmdShow) {
     m_pszExeName = m_strExeName;
     if (m_pszAppName)
         return;
-    TCHAR title[256];
-    m_strAppName = AfxLoadString(AFX_IDS_APP_TITLE, title, ARRAYSIZE(title)) ? CString(title) : m_strExeName;
+    if (!m_strAppName.LoadString(AFX_IDS_APP_TITLE))
+        m_strAppName = m_strExeName;
     m_pszAppName = m_strAppName;
 }
 
@@ -176,7 +176,7 @@ int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp) {
 }
 
 int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp) {
-    TCHAR text[1024];
-    AfxLoadString(nIDPrompt, text, ARRAYSIZE(text));
+    CString text;
+    text.LoadString(nIDPrompt);
     return AfxMessageBox(text, nType, nIDHelp == static_cast<UINT>(-1) ? nIDPrompt : nIDHelp);
 }

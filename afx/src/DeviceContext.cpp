@@ -18,9 +18,9 @@ auto OnBoth(const CDC& dc, Step step) {
     return result;
 }
 
-/// Scales a length by two extents; a length has no sign in the other system.
+/// Scales a length by two extents, whose signs are the directions of the axes and no matter of a length.
 LONG ScaleLength(LONG length, LONG to, LONG from) {
-    return std::abs(::MulDiv(length, to, from));
+    return ::MulDiv(length, std::abs(to), std::abs(from));
 }
 
 }  // namespace

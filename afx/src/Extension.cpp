@@ -2,6 +2,7 @@
 #include <afxdllx.h>
 
 #include "HandleMap.h"
+#include "Resources.h"
 #include "WindowClasses.h"
 
 namespace {
@@ -18,8 +19,19 @@ CDynLinkLibrary* FindLibrary(HMODULE module) {
     return library;
 }
 
-bool HasResource(HMODULE module, LPCTSTR name, LPCTSTR type) {
-    return ::FindResource(module, name, type) != nullptr;
+/// The first module that `has` what is wanted: the resource handle's, then the extension DLLs, newest first;
+/// the resource handle's when none has it.
+template <class Has>
+HINSTANCE FindModule(Has has) {
+    HINSTANCE first = AfxGetResourceHandle();
+    if (has(first))
+        return first;
+    SharedLock lock(chainLock);
+    for (CDynLinkLibrary* library = newest; library; library = library->m_pNextDLL) {
+        if (library->m_hResource && has(library->m_hResource))
+            return library->m_hResource;
+    }
+    return first;
 }
 
 }  // namespace
@@ -66,22 +78,20 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL) {
 }
 
 HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
-    HINSTANCE first = AfxGetResourceHandle();
-    if (HasResource(first, lpszName, lpszType))
-        return first;
-    SharedLock lock(chainLock);
-    for (CDynLinkLibrary* library = newest; library; library = library->m_pNextDLL) {
-        if (library->m_hResource && HasResource(library->m_hResource, lpszName, lpszType))
-            return library->m_hResource;
-    }
-    return first;
+    return FindModule(
+        [=](HINSTANCE module) { return ::FindResource(module, lpszName, lpszType) != nullptr; });
+}
+
+HINSTANCE FindStringModule(UINT id) {
+    return FindModule([id](HINSTANCE module) {
+        LPCWSTR text;
+        return ::LoadStringW(module, id, reinterpret_cast<LPWSTR>(&text), 0) > 0;
+    });
 }
 
 int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf) {
     if (nMaxBuf == 0)
         return 0;
     lpszBuf[0] = 0;
-    // String resources lie in blocks of 16 that are numbered from 1.
-    HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE((nIDS >> 4) + 1), RT_STRING);
-    return ::LoadString(module, nIDS, lpszBuf, static_cast<int>(nMaxBuf));
+    return ::LoadString(FindStringModule(nIDS), nIDS, lpszBuf, static_cast<int>(nMaxBuf));
 }

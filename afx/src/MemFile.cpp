@@ -72,7 +72,8 @@ void CMemFile::SetLength(ULONGLONG dwNewLen) {
     GrowFile(SIZE_T(dwNewLen));
     if (dwNewLen > m_nFileSize)
         std::memset(m_lpBuffer + m_nFileSize, 0, SIZE_T(dwNewLen) - m_nFileSize);
-    m_nFileSize = m_nPosition = SIZE_T(dwNewLen);
+    m_nFileSize = SIZE_T(dwNewLen);
+    m_nPosition = std::min(m_nPosition, m_nFileSize);
 }
 
 UINT CMemFile::Read(void* lpBuf, UINT nCount) {

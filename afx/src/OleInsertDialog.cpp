@@ -11,26 +11,34 @@ COleInsertDialog::COleInsertDialog(DWORD dwFlags, CWnd* pParentWnd) : COleDialog
 }
 
 INT_PTR COleInsertDialog::DoModal() {
-    // The wide form of the dialog is not everywhere there, the narrow one is.
+    m_io.hWndOwner = OwnerWindow();
+    m_nLastError = ::OleUIInsertObjectW(&m_io);
+    // Some systems have no wide form and answer so at once, without a dialog.
+    if (m_nLastError == OLEUI_FALSE)
+        m_nLastError = ShowNarrow();
+    if (m_nLastError == OLEUI_OK)
+        return IDOK;
+    // The same systems answer a cancelled dialog with FALSE.
+    return m_nLastError == OLEUI_CANCEL || m_nLastError == OLEUI_FALSE ? IDCANCEL : -1;
+}
+
+/// The form whose paths are in the ANSI code page.
+UINT COleInsertDialog::ShowNarrow() {
     char file[MAX_PATH] = {};
     OLEUIINSERTOBJECTA io{};
     io.cbStruct = sizeof(io);
     io.dwFlags = m_io.dwFlags;
-    io.hWndOwner = OwnerWindow();
+    io.hWndOwner = m_io.hWndOwner;
     io.lpszFile = file;
     io.cchFile = ARRAYSIZE(file);
     io.cClsidExclude = m_io.cClsidExclude;
     io.lpClsidExclude = m_io.lpClsidExclude;
-    m_nLastError = ::OleUIInsertObjectA(&io);
+    const UINT answer = ::OleUIInsertObjectA(&io);
     m_io.dwFlags = io.dwFlags;
     m_io.clsid = io.clsid;
+    m_io.hMetaPict = io.hMetaPict;
     ::MultiByteToWideChar(CP_ACP, 0, file, -1, m_szFileName, ARRAYSIZE(m_szFileName));
-    if (io.hMetaPict)
-        m_io.hMetaPict = io.hMetaPict;
-    if (m_nLastError == OLEUI_OK)
-        return IDOK;
-    // Some systems answer a cancelled dialog with FALSE.
-    return m_nLastError == OLEUI_CANCEL || m_nLastError == OLEUI_FALSE ? IDCANCEL : -1;
+    return answer;
 }
 
 UINT COleInsertDialog::GetSelectionType() const {

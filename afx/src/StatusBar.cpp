@@ -90,9 +90,8 @@ BOOL CStatusBar::SetIndicators(const UINT* lpIDArray, int nIDCount) {
     for (int i = 0; i < nIDCount; ++i) {
         Pane& pane = m_pPanes[i];
         pane.id = lpIDArray ? lpIDArray[i] : ID_SEPARATOR;
-        TCHAR text[256];
-        if (pane.id != ID_SEPARATOR && AfxLoadString(pane.id, text, ARRAYSIZE(text)))
-            pane.text = text;
+        if (pane.id != ID_SEPARATOR)
+            pane.text.LoadString(pane.id);
         pane.width = TextWidth(*this, pane.text);
         if (i == 0 && pane.id == ID_SEPARATOR) {
             pane.style = SBPS_STRETCH | SBPS_NOBORDERS;

@@ -1,6 +1,8 @@
 // The text's memory: sharing, growing, assigning and appending.
 #include <afx.h>
 
+#include "Resources.h"
+
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
@@ -58,7 +60,8 @@ LPWSTR CString::PrepareWrite(ptrdiff_t capacity) {
 }
 
 CString::CString(LPCWSTR psz) : CString() {
-    SetString(psz);
+    if (!LoadNumbered(psz))
+        SetString(psz);
 }
 
 CString::CString(const wchar_t* pch, int nLength) : CString() {
@@ -66,7 +69,8 @@ CString::CString(const wchar_t* pch, int nLength) : CString() {
 }
 
 CString::CString(LPCSTR psz) : CString() {
-    *this = psz;
+    if (!LoadNumbered(psz))
+        *this = psz;
 }
 
 CString::CString(const char* pch, int nLength) : CString() {
@@ -76,6 +80,27 @@ CString::CString(const char* pch, int nLength) : CString() {
 CString::CString(wchar_t ch, int nRepeat) : CString() {
     if (nRepeat > 0)
         std::wmemset(GetBufferSetLength(nRepeat), ch, nRepeat);
+}
+
+bool CString::LoadNumbered(const void* text) {
+    const auto number = reinterpret_cast<ULONG_PTR>(text);
+    if (number == 0 || !IS_INTRESOURCE(text))
+        return false;
+    LoadString(UINT(number));
+    return true;
+}
+
+BOOL CString::LoadString(UINT nID) {
+    return LoadString(FindStringModule(nID), nID);
+}
+
+BOOL CString::LoadString(HINSTANCE hInstance, UINT nID) {
+    LPCWSTR text = nullptr;
+    const int length = ::LoadStringW(hInstance, nID, reinterpret_cast<LPWSTR>(&text), 0);
+    if (length <= 0)
+        return FALSE;
+    SetString(text, length);
+    return TRUE;
 }
 
 CString& CString::operator=(LPCWSTR psz) {

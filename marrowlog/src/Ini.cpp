@@ -3,7 +3,9 @@
 
 #include "IniText.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cwchar>
 #include <exception>
 
 namespace {
@@ -36,10 +38,41 @@ bool ReadBytes(const CString& path, std::string& bytes) {
     return true;
 }
 
-CString TemporaryBeside(const CString& path) {
+CString TemporaryBeside(const CString& path, DWORD process, DWORD thread) {
     CString temporary;
-    temporary.Format(L"%s.%lu-%lu.tmp", path, ::GetCurrentProcessId(), ::GetCurrentThreadId());
+    temporary.Format(L"%s.%lu-%lu.tmp", path, process, thread);
     return temporary;
+}
+
+/// Whether another process with that number may still be writing.
+bool IsOther(DWORD process) {
+    if (process == ::GetCurrentProcessId())
+        return false;  // the threads of this one take turns
+    const HANDLE handle = ::OpenProcess(SYNCHRONIZE, FALSE, process);
+    if (!handle)
+        return ::GetLastError() != ERROR_INVALID_PARAMETER;
+    const bool runs = ::WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
+    ::CloseHandle(handle);
+    return runs;
+}
+
+/// Deletes what processes left beside the file that were killed while they replaced it.
+void DeleteAbandoned(const CString& path) {
+    const CString folder = path.Left(std::max(path.ReverseFind(L'\\'), path.ReverseFind(L'/')) + 1);
+    WIN32_FIND_DATAW found;
+    const HANDLE search = ::FindFirstFileW(path + L".*-*.tmp", &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return;
+    do {
+        const CString file = folder + found.cFileName;
+        DWORD process = 0, thread = 0;
+        const int numbers = ::swscanf(file.GetString() + path.GetLength(), L".%lu-%lu", &process, &thread);
+        // Only what this class has named so: anything else is somebody's file.
+        if (numbers == 2 && file.CompareNoCase(TemporaryBeside(path, process, thread)) == 0 &&
+            !IsOther(process))
+            ::DeleteFileW(file);
+    } while (::FindNextFileW(search, &found));
+    ::FindClose(search);
 }
 
 void WriteTemporary(const CString& temporary, const std::string& bytes) {
@@ -52,7 +85,7 @@ void WriteTemporary(const CString& temporary, const std::string& bytes) {
 
 /// Puts the bytes in the file's place in one step, so that it is complete at every moment.
 bool ReplaceWhole(const CString& path, const std::string& bytes) {
-    const CString temporary = TemporaryBeside(path);
+    const CString temporary = TemporaryBeside(path, ::GetCurrentProcessId(), ::GetCurrentThreadId());
     bool replaced = false;
     try {
         WriteTemporary(temporary, bytes);
@@ -62,6 +95,7 @@ bool ReplaceWhole(const CString& path, const std::string& bytes) {
     }
     if (!replaced)
         ::DeleteFileW(temporary);
+    DeleteAbandoned(path);
     return replaced;
 }
 

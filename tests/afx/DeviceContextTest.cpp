@@ -41,6 +41,9 @@ TEST(DeviceContext, AnisotropicMappingConvertsBothWays) {
     EXPECT_EQ(CSize(50, 20), size) << "the sign of the extent does not reach a size";
     dc.LPtoDP(&size);
     EXPECT_EQ(CSize(25, 40), size);
+    size = CSize(-10, 21);
+    dc.LPtoDP(&size);
+    EXPECT_EQ(CSize(-5, 42), size) << "its own sign stays";
     int saved = dc.SaveDC();
     dc.SetMapMode(MM_TEXT);
     dc.RestoreDC(saved);
@@ -64,6 +67,18 @@ TEST(DeviceContext, DrawsPixels) {
     dc.DrawFocusRect(CRect(5, 5, 50, 50));
     dc.DrawFocusRect(CRect(5, 5, 50, 50));
     EXPECT_EQ(RGB(1, 2, 3), dc.GetPixel(5, 6));
+    const int saved = dc.SaveDC();
+    dc.IntersectClipRect(CRect(2, 3, 30, 40));
+    dc.ExcludeClipRect(CRect(4, 5, 10, 30));
+    dc.FillSolidRect(0, 0, 64, 64, RGB(7, 7, 7));
+    const struct {
+        CPoint at;
+        bool painted;
+    } clipped[] = {{{3, 4}, true},  {{4, 5}, false}, {{9, 29}, false}, {{10, 29}, true},
+                   {{9, 30}, true}, {{1, 4}, false}, {{29, 39}, true}, {{30, 39}, false}};
+    for (const auto& c : clipped)
+        EXPECT_EQ(c.painted, dc.GetPixel(c.at) == RGB(7, 7, 7)) << c.at.x << ' ' << c.at.y;
+    dc.RestoreDC(saved);
     dc.Draw3dRect(CRect(0, 0, 64, 64), RGB(9, 9, 9), RGB(8, 8, 8));
     EXPECT_EQ(RGB(9, 9, 9), dc.GetPixel(0, 10));
     EXPECT_EQ(RGB(8, 8, 8), dc.GetPixel(63, 10));

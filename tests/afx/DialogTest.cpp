@@ -4,6 +4,7 @@
 #include "WindowSupport.h"
 
 #include <functional>
+#include <set>
 #include <vector>
 
 namespace {
@@ -34,20 +35,21 @@ public:
         ::KillTimer(nullptr, m_timer);
         current = nullptr;
     }
-    bool HasActed() const { return m_hasActed; }
+    /// How many dialogs were shown meanwhile.
+    size_t Shown() const { return m_shown.size(); }
 
 private:
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
         HWND dialog = current ? FindDialog() : nullptr;
         if (!dialog)
             return;
-        current->m_hasActed = true;
+        current->m_shown.insert(dialog);
         current->m_act(dialog);
     }
     static DialogUser* current;
     std::function<void(HWND)> m_act;
     UINT_PTR m_timer = 0;
-    bool m_hasActed = false;
+    std::set<HWND> m_shown;
 };
 
 DialogUser* DialogUser::current = nullptr;
@@ -102,21 +104,33 @@ TEST(Dialog, RunsUntilItIsAnswered) {
     EXPECT_EQ(-1, noResource.DoModal());
 }
 
-TEST(Dialog, ModalOwnerIsDisabledOnlyMeanwhile) {
-    CWnd owner;
-    ASSERT_TRUE(CreateHidden(owner));
-    owner.ShowWindow(SW_SHOW);
+TEST(Dialog, BelongsToTheMainWindowUnlessToldOtherwise) {
+    CWinApp program(_T("Dialogs"));
+    CFrameWnd main;
+    CWnd other;
+    ASSERT_TRUE(CreateHidden(main));
+    ASSERT_TRUE(CreateHidden(other));
+    program.m_pMainWnd = &main;
     EmptyTemplate memory;
-    AskDialog dialog;
-    dialog.InitModalIndirect(&memory.header, &owner);
-    bool wasDisabled = false;
-    DialogUser user([&](HWND window) {
-        wasDisabled = !owner.IsWindowEnabled();
-        ::PostMessage(window, WM_CLOSE, 0, 0);
-    });
-    EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    EXPECT_TRUE(wasDisabled);
-    EXPECT_TRUE(owner.IsWindowEnabled());
+    for (CWnd* parent : {static_cast<CWnd*>(nullptr), &other}) {
+        CWnd& owner = parent ? *parent : main;
+        AskDialog modeless;
+        ASSERT_TRUE(modeless.Create(MAKEINTRESOURCE(700), parent));
+        EXPECT_EQ(&owner, modeless.GetOwner());
+        EXPECT_TRUE(modeless.GetDlgItem(710) && modeless.starts == 1);
+        modeless.DestroyWindow();
+        EXPECT_FALSE(modeless.Create(MAKEINTRESOURCE(701), parent)) << "no such template";
+        AskDialog modal;
+        modal.InitModalIndirect(&memory.header, parent);
+        bool wasDisabled = false;
+        DialogUser user([&](HWND window) {
+            wasDisabled = !owner.IsWindowEnabled();
+            ::PostMessage(window, WM_COMMAND, IDOK, 0);
+        });
+        EXPECT_EQ(IDOK, modal.DoModal());
+        EXPECT_TRUE(wasDisabled && owner.IsWindowEnabled());
+    }
+    program.m_pMainWnd = nullptr;
 }
 
 /// A folder of its own, gone with the object.
@@ -140,7 +154,7 @@ TEST_P(FileDialogTest, GivesTheChosenPath) {
                        _T("Pages (*.cbf)|*.cbf|All (*.*)|*.*||"), nullptr, 0, GetParam());
     DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDOK, 0); });
     ASSERT_EQ(IDOK, dialog.DoModal());
-    EXPECT_TRUE(user.HasActed());
+    EXPECT_EQ(1u, user.Shown());
     EXPECT_EQ(0, wanted.CompareNoCase(dialog.GetPathName()));
     EXPECT_EQ(CString(_T("새 page.cbf")), dialog.GetFileName());
     EXPECT_EQ(CString(_T("새 page")), dialog.GetFileTitle());
@@ -153,7 +167,7 @@ TEST_P(FileDialogTest, CanBeCancelled) {
     CFileDialog dialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST, nullptr, nullptr, 0, GetParam());
     DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDCANCEL, 0); });
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    EXPECT_TRUE(user.HasActed());
+    EXPECT_EQ(1u, user.Shown());
     EXPECT_TRUE(dialog.GetPathName().IsEmpty());
 }
 

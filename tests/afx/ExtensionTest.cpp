@@ -73,9 +73,35 @@ TEST(ResourceChain, IsSearchedNewestFirstAfterTheProgram) {
         EXPECT_EQ(gdi, AfxFindResourceHandle(name, RT_VERSION));
     }
     EXPECT_EQ(program, AfxFindResourceHandle(name, RT_VERSION));
-    TCHAR text[8] = _T("left");
-    EXPECT_EQ(0, AfxLoadString(60000, text, 8));
-    EXPECT_EQ(0, text[0]);
+}
+
+TEST(ResourceChain, StringsComeByTheirNumbers) {
+    const CString korean(_T("\xD55C\xAE00 5001"));
+    CString text(_T("kept"));
+    EXPECT_FALSE(text.LoadString(5002)) << "its neighbours lie in the same block";
+    EXPECT_EQ(text, _T("kept"));
+    EXPECT_TRUE(text.LoadString(5001));
+    EXPECT_EQ(text, korean);
+    EXPECT_EQ(korean, CString(MAKEINTRESOURCEW(5001)));
+    EXPECT_EQ(korean, CString(MAKEINTRESOURCEA(5001)));
+    EXPECT_TRUE(CString(MAKEINTRESOURCE(5002)).IsEmpty());
+    EXPECT_FALSE(text.LoadString(::GetModuleHandle(_T("gdi32.dll")), 5003));
+    TCHAR cut[4] = _T("old");
+    EXPECT_EQ(3, AfxLoadString(5003, cut, 4));
+    EXPECT_STREQ(_T("thi"), cut);
+    EXPECT_EQ(0, AfxLoadString(5002, cut, 4));
+    EXPECT_EQ(0, cut[0]);
+
+    // Found behind a program without it.
+    HMODULE program = AfxGetResourceHandle();
+    AfxSetResourceHandle(::GetModuleHandle(_T("gdi32.dll")));
+    EXPECT_FALSE(text.LoadString(5003));
+    {
+        CDynLinkLibrary chained(program, program);
+        EXPECT_TRUE(text.LoadString(5003));
+    }
+    AfxSetResourceHandle(program);
+    EXPECT_EQ(text, _T("third"));
 }
 
 }  // namespace

@@ -80,7 +80,14 @@ TEST(File, ShareModesHoldAgainstOtherOpens) {
 TEST(File, RefusesWhatItCannotDo) {
     TemporaryFile temporary("data");
     CFile file(temporary.Path(), kLoad);
+    char byte;
     EXPECT_EQ(CFileException::accessDenied, CauseOf<CFileException>([&] { file.Write("x", 1); }));
+    EXPECT_NE(-1, CauseOf<CFileException>([&] { file.SetLength(2); }));
+    {
+        CFile writer(TemporaryFile("more").Path(), CFile::modeCreate | CFile::modeWrite);
+        EXPECT_EQ(CFileException::accessDenied, CauseOf<CFileException>([&] { writer.Read(&byte, 1); }));
+        EXPECT_EQ(0u, writer.Read(&byte, 0));
+    }
     EXPECT_EQ(CFileException::badSeek, CauseOf<CFileException>([&] { file.Seek(-1, CFile::begin); }));
     file.Abort();
     file.Abort();
@@ -130,6 +137,15 @@ TEST(MemFile, GrowsReadsAndFillsGapsWithZeros) {
     EXPECT_EQ(0u, file.Read(bytes, sizeof(bytes)));
     EXPECT_EQ(CFileException::badSeek, CauseOf<CFileException>([&] { file.Seek(-1, CFile::begin); }));
 
+    file.Seek(3, CFile::begin);
+    file.SetLength(106);
+    EXPECT_EQ(3u, file.GetPosition()) << "a longer file leaves the position where it is";
+    file.SetLength(2);
+    EXPECT_EQ(2u, file.GetPosition()) << "a shorter one takes it along";
+    file.SetLength(4);
+    ASSERT_EQ(2u, file.Read(bytes, sizeof(bytes)));
+    EXPECT_TRUE(bytes[0] == 0 && bytes[1] == 0) << "what was cut off does not come back";
+
     BYTE fixed[4] = {1, 2, 3, 4};
     CMemFile attached(fixed, sizeof(fixed));
     EXPECT_EQ(4u, attached.GetLength());
@@ -160,7 +176,9 @@ TEST(SharedFile, HandsItsGlobalMemoryOnAndTakesItBack) {
     EXPECT_EQ(0, bytes[1]);
     reader.SeekToEnd();
     EXPECT_TRUE(Throws<CMemoryException>([&] { reader.Write("x", 1); }));
+    EXPECT_EQ(1u, ::GlobalFlags(memory) & GMEM_LOCKCOUNT);
     reader.Close();
+    EXPECT_EQ(0u, ::GlobalFlags(memory) & GMEM_LOCKCOUNT);
     EXPECT_EQ(nullptr, ::GlobalFree(memory));
 }
 

@@ -213,6 +213,44 @@ TEST(MenuUpdate, PopupShowsWhatTheHandlersSay) {
     EXPECT_TRUE(frame.isGone);
 }
 
+TEST(MenuUpdate, MenusAreFoundByTheirHandles) {
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    HMENU handle = menu.m_hMenu;
+    EXPECT_EQ(&menu, CMenu::FromHandlePermanent(handle));
+    EXPECT_EQ(&menu, CMenu::FromHandle(handle));
+    EXPECT_EQ(handle, menu.Detach());
+    EXPECT_EQ(nullptr, CMenu::FromHandlePermanent(handle));
+    EXPECT_NE(&menu, CMenu::FromHandle(handle));
+    EXPECT_EQ(nullptr, CMenu::FromHandlePermanent(nullptr));
+    ::DestroyMenu(handle);
+}
+
+TEST(MenuUpdate, ControlsShowWhatTheHandlersSay) {
+    /// Counts the texts that it is given.
+    struct Label : CStatic {
+        int texts = 0;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            texts += message == WM_SETTEXT;
+            return CStatic::WindowProc(message, wParam, lParam);
+        }
+    } label;
+    CWnd parent;
+    ASSERT_TRUE(CreateHidden(parent));
+    ASSERT_TRUE(label.Create(_T("old"), WS_CHILD, CRect(0, 0, 9, 9), &parent, 7));
+    CCmdUI ui;
+    ui.m_pOther = &label;
+    ui.SetText(_T("old"));
+    EXPECT_EQ(0, label.texts) << "the same text would only flicker";
+    ui.SetText(_T("new"));
+    CString text;
+    label.GetWindowText(text);
+    EXPECT_EQ(CString(_T("new")), text);
+    EXPECT_EQ(1, label.texts);
+    ui.Enable(FALSE);
+    EXPECT_FALSE(label.IsWindowEnabled());
+}
+
 TEST(MenuUpdate, CommandThatIsDisabledDoesNotRun) {
     MenuFrame frame;
     ASSERT_TRUE(frame.Create(nullptr, _T("frame")));

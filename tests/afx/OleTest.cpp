@@ -120,7 +120,7 @@ TEST_F(Ole, FlushedDataOutlivesItsSource) {
 
 TEST_F(Ole, DataSourceListsItsFormats) {
     COleDataSource source;
-    source.CacheGlobalData(ownFormat, Memory("x"));
+    source.CacheGlobalData(ownFormat, Memory("xy"));
     IEnumFORMATETC* formats = nullptr;
     ASSERT_EQ(S_OK, source.GetDataObject()->EnumFormatEtc(DATADIR_GET, &formats));
     FORMATETC format;
@@ -128,9 +128,26 @@ TEST_F(Ole, DataSourceListsItsFormats) {
     EXPECT_EQ(ownFormat, format.cfFormat);
     EXPECT_EQ(S_FALSE, formats->Next(1, &format, nullptr));
     formats->Release();
+    STGMEDIUM room{};
+    room.tymed = TYMED_HGLOBAL;
+    room.hGlobal = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 5000);
+    EXPECT_EQ(S_OK, source.GetDataObject()->GetDataHere(&format, &room));
+    EXPECT_EQ("xy", Content(room.hGlobal, 2));
+    ::GlobalFree(room.hGlobal);
+    room.hGlobal = ::GlobalAlloc(GMEM_MOVEABLE, 1);
+    EXPECT_EQ(STG_E_MEDIUMFULL, source.GetDataObject()->GetDataHere(&format, &room));
+    ::GlobalFree(room.hGlobal);
     format = {ownFormat, nullptr, DVASPECT_CONTENT, -1, TYMED_ISTREAM};
     EXPECT_EQ(DV_E_FORMATETC, source.GetDataObject()->QueryGetData(&format)) << "memory is no stream";
+    STGMEDIUM streamed{};
+    streamed.tymed = TYMED_ISTREAM;
+    ASSERT_EQ(S_OK, ::CreateStreamOnHGlobal(nullptr, TRUE, &streamed.pstm));
+    IStream* stream = streamed.pstm;
+    stream->AddRef();
+    source.CacheData(ownFormat, &streamed);
+    EXPECT_EQ(S_OK, source.GetDataObject()->QueryGetData(&format));
     source.Empty();
+    EXPECT_EQ(0u, stream->Release()) << "the source let go of it";
     format.tymed = TYMED_HGLOBAL;
     EXPECT_EQ(DV_E_FORMATETC, source.GetDataObject()->QueryGetData(&format));
 }
@@ -163,24 +180,26 @@ TEST_F(Ole, ClientItemHoldsARealObject) {
 }
 
 TEST_F(Ole, InsertDialogOpensAndCanBeCancelled) {
-    static bool wasShown;
-    wasShown = false;
+    static HWND owner;
+    owner = nullptr;
     UINT_PTR timer = ::SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
         auto cancel = [](HWND window, LPARAM) -> BOOL {
             TCHAR name[32];
             ::GetClassName(window, name, 32);
             if (::lstrcmp(name, _T("#32770")) != 0 || !::IsWindowVisible(window))
                 return TRUE;
-            wasShown = true;
+            owner = ::GetWindow(window, GW_OWNER);
             ::PostMessage(window, WM_COMMAND, IDCANCEL, 0);
             return FALSE;
         };
         ::EnumThreadWindows(::GetCurrentThreadId(), cancel, 0);
     });
-    COleInsertDialog dialog(IOF_SELECTCREATENEW);
+    CWnd parent;
+    ASSERT_TRUE(CreateHidden(parent));
+    COleInsertDialog dialog(IOF_SELECTCREATENEW, &parent);
     EXPECT_EQ(IDCANCEL, dialog.DoModal()) << dialog.GetLastError();
     ::KillTimer(nullptr, timer);
-    EXPECT_TRUE(wasShown);
+    EXPECT_EQ(parent.m_hWnd, owner) << "it was shown over its parent";
     EXPECT_EQ(static_cast<UINT>(COleInsertDialog::createNewItem), dialog.GetSelectionType());
     EXPECT_FALSE(dialog.CreateItem(nullptr));
 }

@@ -40,6 +40,14 @@ TEST(Rect, JoinsAndCutsAlsoWithItself) {
 TEST(Rect, PointsFromMessagesAreSigned) {
     EXPECT_EQ(CPoint(LPARAM(0xFFFE0005)), CPoint(5, -2));
     EXPECT_EQ(CPoint(3, 4) - CPoint(1, 1), CSize(2, 3));
+    CPoint point = LPARAM(0x0007FFFD);
+    EXPECT_EQ(CPoint(-3, 7), point);
+    CSize size = point;
+    EXPECT_EQ(CSize(-3, 7), size);
+    point = CSize(8, -9);
+    EXPECT_EQ(CPoint(8, -9), point);
+    size = DWORD(0xFFFB0006);
+    EXPECT_EQ(CSize(6, -5), size);
 }
 
 }  // namespace

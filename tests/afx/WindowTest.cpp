@@ -127,6 +127,32 @@ TEST(WindowLifetime, ObjectThatGoesTakesItsWindowAlong) {
     EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
 }
 
+/// Calls a member on no object, as hosts do.
+template <class Object, class Handle>
+__attribute__((noinline, no_sanitize("undefined"))) Handle OnNone(Handle (Object::*member)() const) {
+    Object* volatile none = nullptr;
+    return (none->*member)();
+}
+
+TEST(NullObjects, HaveNoHandle) {
+    EXPECT_EQ(nullptr, OnNone(&CWnd::GetSafeHwnd));
+    EXPECT_EQ(nullptr, OnNone(&CWnd::operator HWND));
+    EXPECT_EQ(nullptr, OnNone(&CMenu::GetSafeHmenu));
+    EXPECT_EQ(nullptr, OnNone(&CMenu::operator HMENU));
+    EXPECT_EQ(nullptr, OnNone(&CDC::GetSafeHdc));
+    EXPECT_EQ(nullptr, OnNone(&CDC::operator HDC));
+    EXPECT_EQ(nullptr, OnNone(&CGdiObject::GetSafeHandle));
+    EXPECT_EQ(nullptr, OnNone(&CGdiObject::operator HGDIOBJ));
+    EXPECT_EQ(nullptr, OnNone(&CPen::operator HPEN));
+    EXPECT_EQ(nullptr, OnNone(&CBrush::operator HBRUSH));
+    EXPECT_EQ(nullptr, OnNone(&CFont::operator HFONT));
+    EXPECT_EQ(nullptr, OnNone(&CBitmap::operator HBITMAP));
+    EXPECT_EQ(nullptr, OnNone(&CRgn::operator HRGN));
+    CWnd window;
+    ASSERT_TRUE(CreateHidden(window));
+    EXPECT_TRUE(window.m_hWnd == window.GetSafeHwnd() && window.m_hWnd == static_cast<HWND>(window));
+}
+
 TEST(WindowLifetime, DestroyingTheParentEmptiesTheChildObject) {
     CWnd parent;
     CEdit child;
@@ -279,6 +305,42 @@ TEST(WindowMembers, TextStyleAndFamily) {
     EXPECT_TRUE(text.IsEmpty());
     button.SetCheck(1);
     EXPECT_EQ(1, button.GetCheck());
+}
+
+TEST(WindowMembers, SelectingTextScrollsThereUnlessToldNotTo) {
+    struct Edit : CEdit {
+        int scrolls = 0;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            scrolls += message == EM_SCROLLCARET;
+            return CEdit::WindowProc(message, wParam, lParam);
+        }
+    } edit;
+    CWnd parent;
+    ASSERT_TRUE(CreateHidden(parent));
+    ASSERT_TRUE(edit.Create(WS_CHILD, CRect(0, 0, 80, 30), &parent, 62));
+    edit.SetWindowText(_T("abcdef"));
+    edit.SetSel(2, 5, TRUE);
+    EXPECT_EQ(0, edit.scrolls);
+    int start, end;
+    edit.GetSel(start, end);
+    EXPECT_TRUE(start == 2 && end == 5);
+    edit.SetSel(1, 1);
+    EXPECT_EQ(1, edit.scrolls);
+}
+
+TEST(WaitCursorRequests, GoThroughTheProgram) {
+    struct Program : CWinApp {
+        std::vector<int> codes;
+        void DoWaitCursor(int code) override { codes.push_back(code); }
+    } program;
+    {
+        CWaitCursor wait;
+        wait.Restore();
+    }
+    program.BeginWaitCursor();
+    program.RestoreWaitCursor();
+    program.EndWaitCursor();
+    EXPECT_EQ(std::vector<int>({1, 0, -1, 1, 0, -1}), program.codes);
 }
 
 TEST(WindowMembers, CombosAndListsKeepTheirItems) {

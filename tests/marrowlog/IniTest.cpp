@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tlhelp32.h>
+
 #include <limits>
 #include <string>
 #include <thread>
@@ -146,6 +148,46 @@ TEST(Ini, LeavesTheFileAsItWasWhenItCannotReplaceIt) {
         file.Write(broken);
         EXPECT_FALSE(ini.SetString(L"s", L"k", L"new"));
         EXPECT_EQ(broken, file.Read());
+    }
+}
+
+CString Numbered(LPCWSTR format, DWORD number) {
+    CString text;
+    text.Format(format, number);
+    return text;
+}
+
+/// A process that runs and is not this one.
+DWORD OtherProcess() {
+    const HANDLE all = ::CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+    PROCESSENTRY32W entry = {};
+    entry.dwSize = sizeof(entry);
+    DWORD other = 0;
+    for (BOOL more = ::Process32FirstW(all, &entry); more && !other; more = ::Process32NextW(all, &entry))
+        other = entry.th32ProcessID == ::GetCurrentProcessId() ? 0 : entry.th32ProcessID;
+    ::CloseHandle(all);
+    return other;
+}
+
+TEST(Ini, RemovesWhatKilledProgramsLeftAndNothingElse) {
+    constexpr DWORD kNoProcess = 0xFFFFFFF0;
+    const TemporaryFile file("[s]\nk=v\n");
+    const struct {
+        CString name;
+        bool stays;
+    } neighbours[] = {{Numbered(L".%lu-12.tmp", kNoProcess), false},
+                      {Numbered(L".%lu-4294967295.tmp", ::GetCurrentProcessId()), false},
+                      {Numbered(L".%lu-12.tmp", OtherProcess()), true},
+                      {Numbered(L".%lu-012.tmp", kNoProcess), true},
+                      {Numbered(L".%lu-12.tmp.tmp", kNoProcess), true},
+                      {L".old-notes.tmp", true},
+                      {L".tmp", true}};
+    for (const auto& neighbour : neighbours)
+        CFile(file.Path() + neighbour.name, CFile::modeCreate | CFile::modeWrite);
+    EXPECT_TRUE(CIni(file.Path()).SetString(L"s", L"k", L"new"));
+    for (const auto& neighbour : neighbours) {
+        const CString path = file.Path() + neighbour.name;
+        EXPECT_EQ(neighbour.stays, ::DeleteFileW(path) != FALSE) << &neighbour - neighbours;
     }
 }
 

@@ -221,6 +221,48 @@ TEST_F(Tabs, ButtonsAskTheHost) {
     EXPECT_TRUE(m_host.Got(TABN_CLOSE, 3));
 }
 
+TEST_F(Tabs, SignsAndTabsShowWhatThePointerDoes) {
+    /// Remembers how it was asked to draw.
+    struct Watching : FlatTabStyle {
+        explicit Watching(std::vector<TabState>& closes) : m_closes(closes) {}
+        void DrawSign(CDC&, TabSign sign, const CRect&, const TabState& state) const override {
+            if (sign == TabSign::kClose)
+                m_closes.push_back(state);
+        }
+        std::vector<TabState>& m_closes;
+    };
+    std::vector<TabState> closes;
+    m_tabs.SetCloseButtons(true);
+    m_tabs.SetStyle(std::make_unique<Watching>(closes));
+    const auto painted = [&](auto flag) {
+        closes.clear();
+        m_tabs.RedrawWindow();
+        std::string flags;
+        for (const TabState& state : closes)
+            flags += state.*flag ? '1' : '0';
+        return flags;
+    };
+    // The current one is painted last.
+    m_tabs.SetCurrent(1);
+    const CPoint close = m_tabs.GetPartRect(TabPart::kClose, 2).CenterPoint();
+    Mouse(WM_MOUSEMOVE, close);
+    EXPECT_EQ("0100", painted(&TabState::hover));
+    EXPECT_EQ("0000", painted(&TabState::pressed));
+    EXPECT_EQ("0001", painted(&TabState::current));
+    Mouse(WM_LBUTTONDOWN, close);
+    EXPECT_EQ("0100", painted(&TabState::pressed));
+    Mouse(WM_LBUTTONUP, Middle(3));
+}
+
+TEST_F(Tabs, AClickTakesTheKeyboardOnlyAsATabStop) {
+    ::SetFocus(m_host);
+    Click(Middle(1));
+    EXPECT_EQ(&m_host, CWnd::GetFocus());
+    m_tabs.ModifyStyle(0, WS_TABSTOP);
+    Click(Middle(2));
+    EXPECT_EQ(&m_tabs, CWnd::GetFocus());
+}
+
 TEST_F(Tabs, ScrollWhenTheyDoNotFit) {
     EXPECT_FALSE(m_tabs.IsScrolling());
     for (int i = 0; i < 12; ++i)
