@@ -5,6 +5,7 @@
 #include <afxstr.h>
 
 #include <cstring>
+#include <type_traits>
 
 class CFile;
 
@@ -41,6 +42,30 @@ public:
     /// Lets go of the file without flushing and without raising an exception.
     void Abort();
 
+    /// Writes the characters without an end mark.
+    void WriteString(LPCWSTR lpsz);
+    /// Reads characters up to the end of the line, which is taken but not given, or of the data. FALSE when
+    /// the data had ended before.
+    BOOL ReadString(CString& rString);
+    /// The same with at most `nMax` - 1 characters and a terminator; what does not fit stays in the archive.
+    /// Returns `lpsz`, null when the data had ended before.
+    LPWSTR ReadString(LPWSTR lpsz, UINT nMax);
+
+    /// Stores an object of a class with IMPLEMENT_SERIAL by its class and its Serialize, or null. An object
+    /// that is stored again comes as a reference to the first time, and as one object when loaded. It must
+    /// stay alive and in its place as long as the archive. Objects inside each other go 1,000 deep, as with
+    /// ReadObject; more raise genericException.
+    void WriteObject(const CObject* pOb);
+    /// Loads what WriteObject stored. New objects belong to the caller. badClass for an unknown class or one
+    /// that is not `pClass` or derived from it, badSchema for a schema that the class does not load, badIndex
+    /// for a reference to nothing. An object whose own loading fails is deleted, unless others got a
+    /// reference to it before.
+    CObject* ReadObject(const CRuntimeClass* pClass);
+    /// The schema with which the object being loaded was stored; to be asked once, in the Serialize of a
+    /// class with VERSIONABLE_SCHEMA. -1 otherwise.
+    UINT GetObjectSchema();
+    void SetObjectSchema(UINT nSchema) { m_nObjectSchema = nSchema; }
+
     CArchive& operator<<(BYTE value) { return Put(value); }
     CArchive& operator<<(char value) { return Put(value); }
     CArchive& operator<<(bool value) { return Put(BYTE(value ? 1 : 0)); }
@@ -55,9 +80,9 @@ public:
     CArchive& operator<<(ULONGLONG value) { return Put(value); }
     CArchive& operator<<(float value) { return Put(value); }
     CArchive& operator<<(double value) { return Put(value); }
-    // A pointer would otherwise be stored as a bool.
+    // Any other pointer than one to an object would be stored as a bool.
     template <class T>
-    CArchive& operator<<(T*) = delete;
+    requires(!std::is_convertible_v<T*, const CObject*>) CArchive& operator<<(T*) = delete;
 
     CArchive& operator>>(BYTE& value) { return Get(value); }
     CArchive& operator>>(char& value) { return Get(value); }
@@ -113,6 +138,15 @@ private:
     bool LoadBufferedText(CString& string);
     void LetGo();
 
+    struct ObjectTable;
+    class ObjectScope;
+    ObjectTable& Objects();
+    void ForgetObjects();
+    void WriteClass(const CRuntimeClass* pClass);
+    const CRuntimeClass* ReadClass(const CRuntimeClass* pClass, UINT& schema, DWORD& number);
+    CObject* LoadNew(const CRuntimeClass* pClass, UINT schema);
+    [[noreturn]] void Throw(int cause) const;
+
     UINT m_nMode;
     BOOL m_bUserBuf;
     CFile* m_pFile;
@@ -120,6 +154,8 @@ private:
     BYTE* m_lpBufStart;
     BYTE* m_lpBufCur;
     BYTE* m_lpBufMax;  // storing: end of the buffer, loading: end of what was read
+    ObjectTable* m_pObjects = nullptr;
+    UINT m_nObjectSchema = static_cast<UINT>(-1);
 };
 
 /// Stores the text as FF FE FF, its length (one byte below 255, else FF and two bytes below FFFE, else FF FF
@@ -128,3 +164,16 @@ AFX_API_EXPORT CArchive& AFXAPI operator<<(CArchive& ar, const CString& string);
 /// Loads that form, or the one without FF FE FF, whose characters are bytes of the ANSI code page. A length
 /// beyond the data that is left raises endOfFile before any memory is taken.
 AFX_API_EXPORT CArchive& AFXAPI operator>>(CArchive& ar, CString& string);
+
+inline CArchive& operator<<(CArchive& ar, const CObject* pOb) {
+    ar.WriteObject(pOb);
+    return ar;
+}
+inline CArchive& operator>>(CArchive& ar, CObject*& pOb) {
+    pOb = ar.ReadObject(nullptr);
+    return ar;
+}
+inline CArchive& operator>>(CArchive& ar, const CObject*& pOb) {
+    pOb = ar.ReadObject(nullptr);
+    return ar;
+}

@@ -51,11 +51,16 @@ enum AfxSig : UINT_PTR {
     AfxSig_v_hdrop,      ///< void (HDROP)
     AfxSig_v_u_input,    ///< void (UINT, HRAWINPUT)
     AfxSig_v_u_str,      ///< void (UINT, LPCTSTR): WM_SETTINGCHANGE
+    AfxSig_v_u_l,        ///< void (UINT, LPARAM): WM_SYSCOMMAND
+    AfxSig_v_u_u,        ///< void (UINT, UINT): reflected scrolling
+    AfxSig_h_DC_u,       ///< HBRUSH (CDC*, UINT): reflected WM_CTLCOLOR...
     AfxSig_l_w_l,        ///< LRESULT (WPARAM, LPARAM): ON_MESSAGE
     AfxSigCmd_v,         ///< void ()
     AfxSigCmd_RANGE,     ///< void (UINT)
     AfxSigCmd_EX,        ///< BOOL (UINT)
+    AfxSigCmd_b,         ///< BOOL ()
     AfxSigNotify_v,      ///< void (NMHDR*, LRESULT*)
+    AfxSigNotify_b,      ///< BOOL (NMHDR*, LRESULT*)
     AfxSigNotify_RANGE,  ///< void (UINT, NMHDR*, LRESULT*)
     AfxSigCmdUI,         ///< void (CCmdUI*)
 };

@@ -86,9 +86,12 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
-    /// Controls are there: true lets the system set the focus.
-    virtual BOOL OnInitDialog() { return TRUE; }
-    virtual void OnOK() { EndDialog(IDOK); }
+    /// Controls are there: true lets the system set the focus. Shows the members' values; the dialog ends
+    /// with -1 when that fails.
+    virtual BOOL OnInitDialog();
+    /// Takes the controls' values into the members and ends the dialog, which stays when an entry is not
+    /// valid.
+    virtual void OnOK();
     virtual void OnCancel() { EndDialog(IDCANCEL); }
     /// Handles the message as a dialog does, that is with what DefDlgProc makes of it.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

@@ -1,6 +1,10 @@
 // The macros that fill a message map. Every handler is checked against the signature its message needs.
 #pragma once
 
+/// What a control's parent gets goes to the control first, or when the parent has no handler of its own, as
+/// this number plus the message's: the macros with _REFLECT handle it there.
+#define WM_REFLECT_BASE 0xBC00
+
 // clang-format off
 
 #define ON_WM_PAINT() \
@@ -87,6 +91,10 @@
     {WM_MOUSEHOVER, 0, 0, 0, AfxSig_v_u_pt, AfxMessageHandler(static_cast<void (CWnd::*)(UINT, CPoint)>(&ThisClass::OnMouseHover))},
 #define ON_WM_MOUSEWHEEL() \
     {WM_MOUSEWHEEL, 0, 0, 0, AfxSig_b_u_s_pt, AfxMessageHandler(static_cast<BOOL (CWnd::*)(UINT, short, CPoint)>(&ThisClass::OnMouseWheel))},
+#define ON_WM_NCLBUTTONDOWN() \
+    {WM_NCLBUTTONDOWN, 0, 0, 0, AfxSig_v_u_pt, AfxMessageHandler(static_cast<void (CWnd::*)(UINT, CPoint)>(&ThisClass::OnNcLButtonDown))},
+#define ON_WM_SYSCOMMAND() \
+    {WM_SYSCOMMAND, 0, 0, 0, AfxSig_v_u_l, AfxMessageHandler(static_cast<void (CWnd::*)(UINT, LPARAM)>(&ThisClass::OnSysCommand))},
 #define ON_WM_NCHITTEST() \
     {WM_NCHITTEST, 0, 0, 0, AfxSig_l_pt, AfxMessageHandler(static_cast<LRESULT (CWnd::*)(CPoint)>(&ThisClass::OnNcHitTest))},
 #define ON_WM_TIMER() \
@@ -121,6 +129,28 @@
     {WM_INPUT, 0, 0, 0, AfxSig_v_u_input, AfxMessageHandler(static_cast<void (CWnd::*)(UINT, HRAWINPUT)>(&ThisClass::OnRawInput))},
 #define ON_WM_SETTINGCHANGE() \
     {WM_SETTINGCHANGE, 0, 0, 0, AfxSig_v_u_str, AfxMessageHandler(static_cast<void (CWnd::*)(UINT, LPCTSTR)>(&ThisClass::OnSettingChange))},
+
+#define ON_WM_CTLCOLOR_REFLECT() \
+    {WM_CTLCOLORMSGBOX + WM_REFLECT_BASE, 0, 0, 0, AfxSig_h_DC_u, AfxMessageHandler(static_cast<HBRUSH (CWnd::*)(CDC*, UINT)>(&ThisClass::CtlColor))},
+#define ON_WM_DRAWITEM_REFLECT() \
+    {WM_DRAWITEM + WM_REFLECT_BASE, 0, 0, 0, AfxSig_v_ptr, AfxMessageHandler(static_cast<void (CWnd::*)(LPDRAWITEMSTRUCT)>(&ThisClass::DrawItem))},
+#define ON_WM_MEASUREITEM_REFLECT() \
+    {WM_MEASUREITEM + WM_REFLECT_BASE, 0, 0, 0, AfxSig_v_ptr, AfxMessageHandler(static_cast<void (CWnd::*)(LPMEASUREITEMSTRUCT)>(&ThisClass::MeasureItem))},
+#define ON_WM_HSCROLL_REFLECT() \
+    {WM_HSCROLL + WM_REFLECT_BASE, 0, 0, 0, AfxSig_v_u_u, AfxMessageHandler(static_cast<void (CWnd::*)(UINT, UINT)>(&ThisClass::HScroll))},
+#define ON_WM_VSCROLL_REFLECT() \
+    {WM_VSCROLL + WM_REFLECT_BASE, 0, 0, 0, AfxSig_v_u_u, AfxMessageHandler(static_cast<void (CWnd::*)(UINT, UINT)>(&ThisClass::VScroll))},
+#define ON_CONTROL_REFLECT(wNotifyCode, memberFxn) \
+    {WM_COMMAND + WM_REFLECT_BASE, static_cast<WORD>(wNotifyCode), 0, 0, AfxSigCmd_v, static_cast<AFX_PMSG>(memberFxn)},
+#define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn) \
+    {WM_COMMAND + WM_REFLECT_BASE, static_cast<WORD>(wNotifyCode), 0, 0, AfxSigCmd_b, \
+     AfxMessageHandler(static_cast<BOOL (CCmdTarget::*)()>(memberFxn))},
+#define ON_NOTIFY_REFLECT(wNotifyCode, memberFxn) \
+    {WM_NOTIFY + WM_REFLECT_BASE, static_cast<WORD>(static_cast<int>(wNotifyCode)), 0, 0, AfxSigNotify_v, \
+     AfxMessageHandler(static_cast<void (CCmdTarget::*)(NMHDR*, LRESULT*)>(memberFxn))},
+#define ON_NOTIFY_REFLECT_EX(wNotifyCode, memberFxn) \
+    {WM_NOTIFY + WM_REFLECT_BASE, static_cast<WORD>(static_cast<int>(wNotifyCode)), 0, 0, AfxSigNotify_b, \
+     AfxMessageHandler(static_cast<BOOL (CCmdTarget::*)(NMHDR*, LRESULT*)>(memberFxn))},
 
 #define ON_COMMAND(id, memberFxn) \
     {WM_COMMAND, static_cast<WORD>(CN_COMMAND), static_cast<WORD>(id), static_cast<WORD>(id), AfxSigCmd_v, \

@@ -16,6 +16,14 @@ struct AFX_CLASS_EXPORT CRuntimeClass {
     CObject*(PASCAL* m_pfnCreateObject)();        ///< null unless the class can be created by name
     CRuntimeClass*(PASCAL* m_pfnGetBaseClass)();  ///< null for CObject
 
+    /// The class with that name among those with IMPLEMENT_SERIAL in the modules that are loaded, or null.
+    static CRuntimeClass* PASCAL FromName(LPCSTR lpszClassName);
+    /// Writes schema and name into an archive.
+    void Store(CArchive& ar) const;
+    /// Reads what Store wrote: the class, null when there is none of that name, and the schema that was
+    /// stored.
+    static CRuntimeClass* PASCAL Load(CArchive& ar, UINT* pwSchemaNum);
+
     /// A new default object, owned by the caller; null when the class cannot be created this way or memory
     /// is short.
     CObject* CreateObject() const;
@@ -37,6 +45,9 @@ public:
     /// TRUE when the object is of the class `pClass` or of one derived from it.
     BOOL IsKindOf(const CRuntimeClass* pClass) const;
 
+    /// TRUE when the class has IMPLEMENT_SERIAL, so that CArchive can store pointers to its objects.
+    BOOL IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF; }
+
     /// Reads or writes the object. The base does nothing.
     virtual void Serialize(CArchive& ar);
 
@@ -46,6 +57,21 @@ public:
 
 protected:
     CObject() = default;
+};
+
+/// Added to the schema of IMPLEMENT_SERIAL by a class that also loads what other schemas stored; see
+/// CArchive::GetObjectSchema.
+#define VERSIONABLE_SCHEMA 0x80000000U
+
+/// Makes a class known by its name for as long as the object lives; IMPLEMENT_SERIAL defines one.
+struct AFX_CLASS_EXPORT AFX_CLASSINIT {
+    explicit AFX_CLASSINIT(CRuntimeClass* pNewClass);
+    ~AFX_CLASSINIT();
+    AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
+    AFX_CLASSINIT& operator=(const AFX_CLASSINIT&) = delete;
+
+    CRuntimeClass* const m_pClass;
+    AFX_CLASSINIT* m_pNext;
 };
 
 #define _RUNTIME_CLASS(class_name) (const_cast<CRuntimeClass*>(&class_name::class##class_name))
@@ -64,6 +90,10 @@ public:                                           \
 #define DECLARE_DYNCREATE(class_name) \
     DECLARE_DYNAMIC(class_name)       \
     static CObject* PASCAL CreateObject();
+
+#define DECLARE_SERIAL(class_name) \
+    DECLARE_DYNCREATE(class_name)  \
+    friend CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
 
 // NOLINTBEGIN(bugprone-macro-parentheses): the arguments are names of classes
 // The base is asked for by a function, not by an address: the address of data in another DLL is no constant.
@@ -88,6 +118,18 @@ public:                                           \
         return new class_name;                           \
     }                                                    \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
+
+/// `wSchema` is the version of what the class's Serialize stores, 0 to 0xFFFE.
+#define IMPLEMENT_SERIAL(class_name, base_class_name, wSchema)                              \
+    CObject* PASCAL class_name::CreateObject() {                                            \
+        return new class_name;                                                              \
+    }                                                                                       \
+    IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, &class_name::CreateObject) \
+    static const AFX_CLASSINIT classInit##class_name(RUNTIME_CLASS(class_name));            \
+    CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb) {                           \
+        pOb = static_cast<class_name*>(ar.ReadObject(RUNTIME_CLASS(class_name)));           \
+        return ar;                                                                          \
+    }
 
 /// `object` as a `class_name*` when it is of that class, else null.
 #define DYNAMIC_DOWNCAST(class_name, object) \

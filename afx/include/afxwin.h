@@ -21,6 +21,7 @@
 #include <afxctl_.h>
 #include <afxapp_.h>
 #include <afxfrm_.h>
+#include <afxdd_.h>
 #pragma GCC diagnostic pop
 
 struct CPrintInfo;

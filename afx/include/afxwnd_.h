@@ -4,6 +4,7 @@
 #include <afxcmd_.h>
 #include <afxgdi_.h>
 
+class CDataExchange;
 class CFrameWnd;
 class CScrollBar;
 struct CCreateContext;
@@ -220,6 +221,13 @@ public:
     virtual BOOL ContinueModal();
     virtual void EndModalLoop(int nResult);
 
+    /// Moves values from the controls to the members, or with FALSE the other way. FALSE when an entry is not
+    /// valid, which the user has been told.
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+    /// Shows the parent's current message about this window to its own handlers with _REFLECT; true when one
+    /// took it.
+    BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
+
     /// Looks at a queued message before it is translated and dispatched; true swallows it.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     /// Offers pMsg to the objects from its window up to hWndStop; true when one of them swallowed it.
@@ -238,6 +246,15 @@ protected:
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// A message about this window that its parent got. True when a handler with _REFLECT in this window's
+    /// maps took it, whose answer is in `pResult` then, which may be null.
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    /// Shows the current message to the object of `hWndChild`, if there is one, through its OnChildNotify.
+    static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
+    /// Moves values between members and controls; an override calls DDX_ and DDV_ functions. Reached by
+    /// UpdateData.
+    virtual void DoDataExchange(CDataExchange* pDX);
     /// The window is gone and m_hWnd null; a window object made with new deletes itself here.
     virtual void PostNcDestroy();
 
@@ -249,16 +266,16 @@ protected:
     afx_msg void OnContextMenu(CWnd*, CPoint) { Default(); }
     afx_msg BOOL OnCopyData(CWnd*, COPYDATASTRUCT*) { return static_cast<BOOL>(Default()); }
     afx_msg int OnCreate(LPCREATESTRUCT) { return static_cast<int>(Default()); }
-    afx_msg HBRUSH OnCtlColor(CDC*, CWnd*, UINT) { return reinterpret_cast<HBRUSH>(Default()); }
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnDestroy() { Default(); }
-    afx_msg void OnDrawItem(int, LPDRAWITEMSTRUCT) { Default(); }
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnDropFiles(HDROP) { Default(); }
     afx_msg void OnEnable(BOOL) { Default(); }
     afx_msg void OnEndSession(BOOL) { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return static_cast<BOOL>(Default()); }
     afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
     afx_msg void OnGetMinMaxInfo(MINMAXINFO*) { Default(); }
-    afx_msg void OnHScroll(UINT, UINT, CScrollBar*) { Default(); }
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnInitMenuPopup(CMenu*, UINT, BOOL) { Default(); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
     afx_msg void OnKeyUp(UINT, UINT, UINT) { Default(); }
@@ -269,7 +286,7 @@ protected:
     afx_msg void OnMButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnMButtonDown(UINT, CPoint) { Default(); }
     afx_msg void OnMButtonUp(UINT, CPoint) { Default(); }
-    afx_msg void OnMeasureItem(int, LPMEASUREITEMSTRUCT) { Default(); }
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     afx_msg void OnMenuSelect(UINT, UINT, HMENU) { Default(); }
     afx_msg int OnMouseActivate(CWnd*, UINT, UINT) { return static_cast<int>(Default()); }
     afx_msg void OnMouseHover(UINT, CPoint) { Default(); }
@@ -281,6 +298,7 @@ protected:
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return static_cast<BOOL>(Default()); }
     afx_msg void OnNcDestroy();
     afx_msg LRESULT OnNcHitTest(CPoint) { return Default(); }
+    afx_msg void OnNcLButtonDown(UINT, CPoint) { Default(); }
     afx_msg void OnNcPaint() { Default(); }
     afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnQueryEndSession() { return static_cast<BOOL>(Default()); }
@@ -294,10 +312,11 @@ protected:
     afx_msg void OnShowWindow(BOOL, UINT) { Default(); }
     afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg void OnSysChar(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnSysCommand(UINT, LPARAM) { Default(); }
     afx_msg void OnSysKeyDown(UINT, UINT, UINT) { Default(); }
     afx_msg void OnSysKeyUp(UINT, UINT, UINT) { Default(); }
     afx_msg void OnTimer(UINT_PTR) { Default(); }
-    afx_msg void OnVScroll(UINT, UINT, CScrollBar*) { Default(); }
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     DECLARE_MESSAGE_MAP()
 
     WNDPROC m_pfnSuper;             ///< procedure the window had before it was taken over

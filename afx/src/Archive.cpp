@@ -34,6 +34,7 @@ CArchive::~CArchive() {
         TRACE(L"CArchive: data lost in %s\n", m_strFileName.GetString());
         e->Delete();
     }
+    ForgetObjects();
     if (!m_bUserBuf)
         delete[] m_lpBufStart;
 }

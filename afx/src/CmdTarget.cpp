@@ -56,6 +56,10 @@ BOOL Dispatch(CCmdTarget* target, const AFX_MSGMAP_ENTRY& entry, UINT id, void* 
             return TRUE;
         case AfxSigCmd_EX:
             return Invoke<BOOL, UINT>(target, entry.pfn, id);
+        case AfxSigCmd_b:
+            return Invoke<BOOL>(target, entry.pfn);
+        case AfxSigNotify_b:
+            return Invoke<BOOL, NMHDR*, LRESULT*>(target, entry.pfn, notify->header, notify->result);
         case AfxSigNotify_v:
             Invoke<void, NMHDR*, LRESULT*>(target, entry.pfn, notify->header, notify->result);
             return TRUE;

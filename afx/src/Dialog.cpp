@@ -100,6 +100,18 @@ void CDialog::EndDialog(int nResult) {
     EndModalLoop(nResult);
 }
 
+BOOL CDialog::OnInitDialog() {
+    const BOOL isShown = UpdateData(FALSE);
+    if (!isShown)
+        EndDialog(-1);
+    return isShown;
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     // The dialog's own start comes first, so that the system's choice of focus stands when asked for.
     BOOL takesFocus = OnInitDialog();

@@ -7,7 +7,8 @@ struct ThreadState {
     CWinThread* thread = nullptr;  ///< the thread's object
     CWnd* creating = nullptr;      ///< object whose window is about to be created
     HHOOK creationHook = nullptr;
-    MSG message{};             ///< the message being handled
+    HWND exchanging = nullptr;  ///< window whose UpdateData is at work
+    MSG message{};              ///< the message being handled
     int dispatchDepth = 0;     ///< handlers running inside each other
     MSG pumped{};              ///< message of a pump without thread object
     POINT idleCursor{-1, -1};  ///< where the last mouse message was that gave idle work

@@ -92,6 +92,12 @@ bool DeliverSimple(const Delivery& to, UINT_PTR signature, LRESULT& result) {
             to.Call<void, CMenu*, UINT, BOOL>(CMenu::FromHandle(reinterpret_cast<HMENU>(to.wParam)),
                                               to.LowL(), static_cast<BOOL>(to.HighL()));
             break;
+        case AfxSig_v_u_l:
+            to.Call<void, UINT, LPARAM>(static_cast<UINT>(to.wParam), to.lParam);
+            break;
+        case AfxSig_v_u_u:
+            to.Call<void, UINT, UINT>(to.LowW(), to.HighW());
+            break;
         case AfxSig_v_hdrop:
             to.Call<void, HDROP>(reinterpret_cast<HDROP>(to.wParam));
             break;
@@ -138,13 +144,20 @@ bool Deliver(const Delivery& to, UINT_PTR signature, LRESULT& result) {
             result = reinterpret_cast<LRESULT>(to.Call<HBRUSH, CDC*, CWnd*, UINT>(
                 to.ContextW(), to.WindowL(), to.message - WM_CTLCOLORMSGBOX));
             return result != 0;
+        case AfxSig_h_DC_u:
+            result = reinterpret_cast<LRESULT>(
+                to.Call<HBRUSH, CDC*, UINT>(to.ContextW(), to.message - WM_REFLECT_BASE - WM_CTLCOLORMSGBOX));
+            return result != 0;
         default:
             return DeliverSimple(to, signature, result);
     }
 }
 
-bool IsControlColour(UINT message) {
-    return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
+/// The number that stands for the message in message maps: one for all controls' colours, reflected or not.
+UINT NumberInMaps(UINT message) {
+    const UINT base = message >= WM_REFLECT_BASE ? WM_REFLECT_BASE : 0;
+    const bool isColour = message - base >= WM_CTLCOLORMSGBOX && message - base <= WM_CTLCOLORSTATIC;
+    return isColour ? base + WM_CTLCOLORMSGBOX : message;
 }
 
 /// The entry of a registered message, whose number is known only at run time.
@@ -172,8 +185,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         const AFX_MSGMAP_ENTRY* entry = FindRegistered(GetMessageMap(), message);
         isHandled = entry && Deliver({this, entry->pfn, message, wParam, lParam}, AfxSig_l_w_l, result);
     } else {
-        UINT wanted = IsControlColour(message) ? WM_CTLCOLORMSGBOX : message;
-        const AFX_MSGMAP_ENTRY* entry = FindMessageEntry(GetMessageMap(), wanted, 0, 0);
+        const AFX_MSGMAP_ENTRY* entry = FindMessageEntry(GetMessageMap(), NumberInMaps(message), 0, 0);
         isHandled = entry && Deliver({this, entry->pfn, message, wParam, lParam}, entry->nSig, result);
     }
     if (isHandled && pResult)
@@ -183,4 +195,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
+    ON_WM_CTLCOLOR()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
 END_MESSAGE_MAP()

@@ -132,10 +132,14 @@ private:
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
     UINT id = LOWORD(wParam);
+    if (lParam) {
+        // Values that are being moved are not the user's entries.
+        if (GetThreadState().exchanging == m_hWnd || ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
+            return TRUE;
+        return id != 0 && OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr);
+    }
     if (id == 0)
         return FALSE;
-    if (lParam)
-        return OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr);
     // The accelerator of a command that is disabled by now does nothing.
     EnabledTest test;
     test.m_nID = id;
@@ -147,6 +151,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
     auto* header = reinterpret_cast<NMHDR*>(lParam);
+    if (GetThreadState().exchanging == m_hWnd || ReflectLastMsg(header->hwndFrom, pResult))
+        return TRUE;
     UINT id = static_cast<UINT>(::GetDlgCtrlID(header->hwndFrom));
     NotifyMessage notify{pResult, header};
     return OnCmdMsg(id, static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);

@@ -32,6 +32,8 @@ protected:
         Note(Text("cursor", hit, message));
         return TRUE;
     }
+    void OnNcLButtonDown(UINT hit, CPoint p) { Note(Text("nc", hit, p.x, p.y)); }
+    void OnSysCommand(UINT id, LPARAM lParam) { Note(Text("system", id, lParam)); }
     void OnHScroll(UINT code, UINT position, CScrollBar*) { Note(Text("hscroll", code, position)); }
     void OnActivate(UINT state, CWnd*, BOOL minimized) { Note(Text("activate", state, minimized)); }
     BOOL OnEraseBkgnd(CDC* dc) {
@@ -79,6 +81,8 @@ BEGIN_MESSAGE_MAP(Recorder, CWnd)
     ON_WM_CAPTURECHANGED()
     ON_WM_CONTEXTMENU()
     ON_WM_SETCURSOR()
+    ON_WM_NCLBUTTONDOWN()
+    ON_WM_SYSCOMMAND()
     ON_WM_HSCROLL()
     ON_WM_ACTIVATE()
     ON_WM_ERASEBKGND()
@@ -134,6 +138,8 @@ TEST(MessageMap, HandsEveryMessageItsArguments) {
         {WM_SETCURSOR, self, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), 1, "cursor 1 512;"},
         {WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 50000), 0, 0, "hscroll 5 50000;"},
         {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1), 0, 0, "activate 2 1;"},
+        {WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(-7, 8), 0, "nc 2 -7 8;"},
+        {WM_SYSCOMMAND, SC_MINIMIZE, MAKELPARAM(5, 6), 0, "system 61472 393221;"},
         {WM_ERASEBKGND, context, 0, 7, "erase 1;"},
         {WM_CTLCOLORSTATIC, context, 0, reinterpret_cast<LRESULT>(::GetStockObject(GRAY_BRUSH)), "colour 6;"},
         {WM_COMMAND, 101, 0, 1, "command1;"},
@@ -159,6 +165,119 @@ TEST(MessageMap, DerivedHandlerComesFirstAndTheBaseServesTheRest) {
     window.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(1, 2));
     window.SendMessage(WM_COMMAND, 101);
     EXPECT_EQ("derived;mouse 0 1 2;command1;", window.log);
+}
+
+/// A control that handles what its parent is told about it, or lets the parent.
+class Reflecting : public CWnd {
+public:
+    std::string log;
+    bool passesOn = false;
+    static inline const HBRUSH brush = static_cast<HBRUSH>(::GetStockObject(LTGRAY_BRUSH));
+
+protected:
+    void OnChange() { log += "change;"; }
+    BOOL OnUpdate() {
+        log += "update;";
+        return !passesOn;
+    }
+    void OnHit(NMHDR*, LRESULT* result) {
+        log += "hit;";
+        *result = 21;
+    }
+    BOOL OnMaybe(NMHDR*, LRESULT* result) {
+        log += "maybe;";
+        *result = 22;
+        return !passesOn;
+    }
+    HBRUSH CtlColor(CDC*, UINT kind) {
+        log += "colour " + std::to_string(kind) + ";";
+        return passesOn ? nullptr : brush;
+    }
+    void HScroll(UINT code, UINT position) {
+        log += "scroll " + std::to_string(code) + " " + std::to_string(position) + ";";
+    }
+    void DrawItem(LPDRAWITEMSTRUCT item) { log += "draw " + std::to_string(item->itemID) + ";"; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Reflecting, CWnd)
+    ON_CONTROL_REFLECT(EN_CHANGE, &Reflecting::OnChange)
+    ON_CONTROL_REFLECT_EX(EN_UPDATE, &Reflecting::OnUpdate)
+    ON_NOTIFY_REFLECT(-12, &Reflecting::OnHit)
+    ON_NOTIFY_REFLECT_EX(-13, &Reflecting::OnMaybe)
+    ON_WM_CTLCOLOR_REFLECT()
+    ON_WM_HSCROLL_REFLECT()
+    ON_WM_DRAWITEM_REFLECT()
+END_MESSAGE_MAP()
+
+/// A parent with handlers for the same.
+class Reflected : public CWnd {
+public:
+    std::string log;
+
+protected:
+    void OnChange() { log += "change;"; }
+    void OnUpdate() { log += "update;"; }
+    void OnKillFocusOf() { log += "focus;"; }
+    void OnHit(NMHDR*, LRESULT*) { log += "hit;"; }
+    void OnMaybe(NMHDR*, LRESULT* result) {
+        log += "maybe;";
+        *result = 32;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Reflected, CWnd)
+    ON_EN_CHANGE(51, &Reflected::OnChange)
+    ON_EN_UPDATE(51, &Reflected::OnUpdate)
+    ON_EN_KILLFOCUS(51, &Reflected::OnKillFocusOf)
+    ON_NOTIFY(-12, 51, &Reflected::OnHit)
+    ON_NOTIFY(-13, 51, &Reflected::OnMaybe)
+END_MESSAGE_MAP()
+
+TEST(Reflection, ShowsTheControlWhatItsParentIsTold) {
+    Reflected parent;
+    Reflecting control;
+    ASSERT_TRUE(CreateHidden(parent));
+    ASSERT_TRUE(control.Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 9, 9), &parent, 51));
+    const auto window = reinterpret_cast<LPARAM>(control.m_hWnd);
+    NMHDR hit{control.m_hWnd, 51, static_cast<UINT>(-12)}, maybe = hit;
+    maybe.code = static_cast<UINT>(-13);
+    DRAWITEMSTRUCT item{};
+    item.itemID = 6;
+    item.hwndItem = control;
+    CClientDC dc(&control);
+    const auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
+    const struct {
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+        const char *control, *parent, *passedOn;
+        LRESULT answer, passedAnswer;
+    } cases[] = {
+        {WM_COMMAND, MAKEWPARAM(51, EN_CHANGE), window, "change;", "", "", 1, 1},
+        {WM_COMMAND, MAKEWPARAM(0, EN_CHANGE), window, "change;", "", "", 1, 1},
+        {WM_COMMAND, MAKEWPARAM(51, EN_UPDATE), window, "update;", "", "update;", 1, 1},
+        {WM_COMMAND, MAKEWPARAM(51, EN_KILLFOCUS), window, "", "focus;", "focus;", 1, 1},
+        {WM_NOTIFY, 51, reinterpret_cast<LPARAM>(&hit), "hit;", "", "", 21, 21},
+        {WM_NOTIFY, 51, reinterpret_cast<LPARAM>(&maybe), "maybe;", "", "maybe;", 22, 32},
+        {WM_CTLCOLOREDIT, context, window, "colour 1;", "", "", reinterpret_cast<LRESULT>(Reflecting::brush),
+         -1},
+        {WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 70), window, "scroll 5 70;", "", "", 0, 0},
+        {WM_DRAWITEM, 51, reinterpret_cast<LPARAM>(&item), "draw 6;", "", "", 1, 1},
+    };
+    for (bool passesOn : {false, true}) {
+        control.passesOn = passesOn;
+        for (const auto& c : cases) {
+            control.log.clear();
+            parent.log.clear();
+            const LRESULT answer = parent.SendMessage(c.message, c.wParam, c.lParam);
+            EXPECT_EQ(c.control, control.log) << &c - cases;
+            EXPECT_EQ(passesOn ? c.passedOn : c.parent, parent.log) << &c - cases;
+            const LRESULT expected = passesOn ? c.passedAnswer : c.answer;
+            EXPECT_TRUE(expected == -1 || expected == answer) << &c - cases << ": " << answer;
+        }
+    }
 }
 
 /// A frame whose commands change what the menu shows.
