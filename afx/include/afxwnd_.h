@@ -211,11 +211,11 @@ public:
 
     /// Lays the bars among the children (identifiers nIDFirst to nIDLast) along the edges and gives the
     /// rest of the client area to the child nIDLeftOver. reposQuery: only computes the rest in lpRectParam.
-    enum RepositionFlags { reposDefault = 0, reposQuery = 1, reposExtra = 2 };
+    enum RepositionFlags { reposDefault = 0, reposQuery = 1 };
     void RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nFlags = reposDefault,
                         LPRECT lpRectParam = nullptr, LPCRECT lpRectClient = nullptr, BOOL bStretch = TRUE);
 
-    enum ModalLoopFlags { MLF_NOIDLEMSG = 1, MLF_NOKICKIDLE = 2, MLF_SHOWONIDLE = 4 };
+    enum ModalLoopFlags { MLF_SHOWONIDLE = 4 };
     /// Pumps messages until EndModalLoop; returns its result.
     int RunModalLoop(DWORD dwFlags = 0);
     virtual BOOL ContinueModal();

@@ -6,7 +6,6 @@
 constexpr UINT WM_QUERYAFXWNDPROC = 0x0360;  ///< answered with 1 by every window of the class library
 constexpr UINT WM_SIZEPARENT = 0x0361;       ///< to bars: take your strip of BarLayout::rect
 constexpr UINT WM_IDLEUPDATECMDUI = 0x0363;  ///< wParam: disable what has no handler
-constexpr UINT WM_KICKIDLE = 0x036A;         ///< idle time in a modal loop
 
 /// What a frame asks its bars with WM_SIZEPARENT.
 struct BarLayout {
