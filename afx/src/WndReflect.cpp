@@ -38,7 +38,7 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT) {
     LRESULT brush = 0;
-    if (!ReflectLastMsg(pWnd->m_hWnd, &brush))
+    if (!pWnd || !ReflectLastMsg(pWnd->m_hWnd, &brush))
         brush = Default();
     return reinterpret_cast<HBRUSH>(brush);
 }
