@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cwchar>
 #include <limits>
-#include <type_traits>
 #include <utility>
 
 namespace {
@@ -44,9 +43,10 @@ void SetText(HWND control, const CString& text) {
 template <class Value>
 CString Shown(Value value) {
     CString text;
-    if constexpr (std::is_floating_point_v<Value>)
-        text.Format(_T("%.*g"), std::numeric_limits<Value>::digits10, double(value));
-    else if constexpr (std::is_signed_v<Value>)
+    using Limits = std::numeric_limits<Value>;
+    if constexpr (!Limits::is_integer)
+        text.Format(_T("%.*g"), Limits::digits10, double(value));
+    else if constexpr (Limits::is_signed)
         text.Format(_T("%ld"), static_cast<long>(value));
     else
         text.Format(_T("%lu"), static_cast<unsigned long>(value));
@@ -55,26 +55,27 @@ CString Shown(Value value) {
 
 template <class Value>
 LPCTSTR Wanted() {
-    if (std::is_floating_point_v<Value>)
+    using Limits = std::numeric_limits<Value>;
+    if (!Limits::is_integer)
         return _T("Please enter a number.");
-    if (std::is_same_v<Value, BYTE>)
+    if (Limits::max() == 0xFF)
         return _T("Please enter an integer between 0 and 255.");
-    return std::is_signed_v<Value> ? _T("Please enter an integer.") : _T("Please enter a positive integer.");
+    return Limits::is_signed ? _T("Please enter an integer.") : _T("Please enter a positive integer.");
 }
 
 /// The number that the whole text is, white space around it aside; false when it is none of the type.
 template <class Value>
 bool Parse(const CString& entered, Value& value) {
     const CString text = CString(entered).Trim();
+    using Limits = std::numeric_limits<Value>;
     wchar_t* end = nullptr;
     errno = 0;
     const auto number = [&] {
-        if constexpr (std::is_floating_point_v<Value>)
+        if constexpr (!Limits::is_integer)
             return std::wcstod(text, &end);
         else
             return std::wcstoll(text, &end, 10);
     }();
-    using Limits = std::numeric_limits<Value>;
     const bool isInside = number >= Limits::lowest() && number <= Limits::max();  // not so for "nan"
     if (text.IsEmpty() || *end || errno == ERANGE || !isInside)
         return false;
@@ -95,8 +96,8 @@ template <class Value>
 void CheckBounds(CDataExchange* pDX, Value value, Value low, Value high) {
     if (!pDX->m_bSaveAndValidate || (value >= low && value <= high))
         return;
-    Refuse(*pDX, (std::is_floating_point_v<Value> ? _T("Please enter a number between ")
-                                                  : _T("Please enter an integer between ")) +
+    Refuse(*pDX, (std::numeric_limits<Value>::is_integer ? _T("Please enter an integer between ")
+                                                         : _T("Please enter a number between ")) +
                      Shown(low) + _T(" and ") + Shown(high) + _T("."));
 }
 

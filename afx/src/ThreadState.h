@@ -9,9 +9,9 @@ struct ThreadState {
     HHOOK creationHook = nullptr;
     HWND exchanging = nullptr;  ///< window whose UpdateData is at work
     MSG message{};              ///< the message being handled
-    int dispatchDepth = 0;     ///< handlers running inside each other
-    MSG pumped{};              ///< message of a pump without thread object
-    POINT idleCursor{-1, -1};  ///< where the last mouse message was that gave idle work
+    int dispatchDepth = 0;      ///< handlers running inside each other
+    MSG pumped{};               ///< message of a pump without thread object
+    POINT idleCursor{-1, -1};   ///< where the last mouse message was that gave idle work
     bool oleStarted = false;
 
     TemporaryMap<CWnd> windows;

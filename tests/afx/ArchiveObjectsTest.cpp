@@ -183,7 +183,7 @@ TEST(ArchiveObjects, NeedNamesAndTheRightDirection) {
     EXPECT_EQ(CArchiveException::readOnly, CauseOf<CArchiveException>([&] { loader.ar << &node; }));
     EXPECT_EQ(CArchiveException::writeOnly, CauseOf<CArchiveException>([&] {
                   Stored([&](CArchive& ar) {
-                      CNode* loaded;
+                      CNode* loaded = nullptr;
                       ar >> loaded;
                   });
               }));
