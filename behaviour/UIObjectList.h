@@ -7,14 +7,12 @@
 
 namespace Lumo {
 
-class CUIDocument;
-
 /// A group. While an object is a child, the X and Y of its position are measured from the group's position
 /// point; its width and height stay as they are.
 ///
-/// Lifetime: `Release` destroys the children and leaves the group itself alive, unlike the base object's; the
-/// document deletes the emptied group afterwards, unless an override of `Release` has. The destructor and the
-/// copies destroy no child.
+/// Lifetime: `Release` destroys the children and leaves the group itself alive, unlike the base object's.
+/// When the group is being destroyed, it is deleted afterwards, unless an override of `Release` has done so
+/// or has not called the group's own. The destructor and the copies destroy no child.
 class TESSEL_API CUIObjectList : public CUIObject {
 public:
     /// A group on `bounds` (page units), marked as grouped although it has no children yet; the shape name is
@@ -84,10 +82,7 @@ protected:
     void SetInitialSize(const Gdiplus::RectF& bounds);
 
 private:
-    friend class CUIDocument;
-
-    // Takes an object that is about to go out of every group. For one in no group it costs one look-up.
-    static void ForgetChild(CUIObject* object);
+    friend class Destruction;
 
     bool Holds(const CUIObject* object) const;
     void StoreChildren(CArchive& ar);

@@ -49,6 +49,15 @@ void DestroyOne(Page& page) {
     page.document->RemoveObject(page.document->GetCanvasObjectList()->front(), 1);
 }
 
+// As many as the page holds, none of them on it.
+void DestroyOthers(Page& page) {
+    std::vector<CUIObject*> others;
+    for (size_t i = page.document->GetCanvasObjectList()->size(); i-- > 0;)
+        others.push_back(CUIToolBase::CreateUIObject({3, 5, 8, 4}, DS_RECTANGLE));
+    for (CUIObject* object : others)
+        CUIDocument::DestroyObject(object);
+}
+
 // In this order on one page; what changes the selection is followed by selecting again.
 constexpr Operation kOperations[] = {
     {"select each object", SelectEach},
@@ -66,6 +75,7 @@ constexpr Operation kOperations[] = {
     {"name one object", NameOne},
     {"find an object by name", FindNothing},
     {"destroy one object", DestroyOne},
+    {"destroy as many others", DestroyOthers},
     {"clear the page", [](Page& page) { page.document->ClearCanvasObject(); }},
 };
 

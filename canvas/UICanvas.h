@@ -5,7 +5,6 @@
 
 #include <deque>
 #include <map>
-#include <unordered_set>
 #include <vector>
 
 namespace Lumo {
@@ -229,14 +228,13 @@ protected:
 
 private:
     friend class CUIDocument;
+    friend class Destruction;
     class RepaintBatch;
 
     CUIToolBase* FindModeTool() const;
     void BuildContextMenu();
     void Repaint(const CUIObject& object, bool tracked);
     void InvalidateObjects(const std::deque<CUIObject*>& objects);
-    void ForgetObject(CUIObject* object);
-    void ForgetObjects(const std::unordered_set<CUIObject*>& doomed);
     template <class Shift>
     void AlignSelection(Shift shift);
     void RotateSelection(float angle);

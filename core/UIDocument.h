@@ -6,7 +6,7 @@
 
 #include <deque>
 #include <map>
-#include <unordered_set>
+#include <vector>
 
 namespace Lumo {
 
@@ -148,21 +148,16 @@ protected:
 
 private:
     friend class CUICanvas;
-    friend class CUIObject;
-    friend class CUIObjectList;
+    friend class Destruction;
 
-    // The one way to make an object unreachable, and the roads to destruction that pass through it.
-    static void ForgetObject(CUIObject* object);
-    static void ForgetObjects(const std::unordered_set<CUIObject*>& doomed);
-    static void ForgetDestroyed(CUIObject* object);
-    static void ReleaseForgotten(CUIObject* object);
+    static std::vector<CUIDocument*>& Documents();
     static void ForgetCanvas(CUICanvas* canvas);
 
     bool RegisterCanvasClass();
     void LeaveObjects();
     void FreeLists();
     bool HasList(const CUIObjectDeque* objects) const;
-    void DropPage(CUIPageMap::iterator page);
+    void DropPage(CUICanvas* canvas);
     CUIPageMap::iterator CurrentPage();
     template <class Action>
     void ActOnFirstObject(CUIObject* object, Action action);

@@ -135,9 +135,10 @@ public:
     CUIDocument* GetDocument() const { return m_pDocument; }
     void SetDocument(CUIDocument* document) { m_pDocument = document; }
 
-    /// The canvas that shows the object, null when none does; not owned.
+    /// The canvas that shows the object, null when none does; not owned. An object that a host puts into a
+    /// page's list by hand needs it set: there the object is looked for when it is destroyed.
     CUICanvas* GetCanvas() const { return m_pCanvas; }
-    void SetCanvas(CUICanvas* canvas) { m_pCanvas = canvas; }
+    void SetCanvas(CUICanvas* canvas);
 
     /// The user-visible name; unique on its page once the document has named the object.
     CString& GetShapeName() { return m_strShapeName; }

@@ -1,24 +1,13 @@
 #include "behaviour/UIObjectList.h"
 
 #include <algorithm>
-#include <unordered_map>
-#include <unordered_set>
 
 #include "core/Geometry.h"
+#include "core/internal/Destruction.h"
 #include "core/internal/GraphicsStateScope.h"
-#include "core/UIDocument.h"
 
 namespace Lumo {
 namespace {
-
-/// Which groups hold an object, one entry for every time that it is held. With it an object that is destroyed
-/// leaves its groups without a search through all of them.
-using GroupsOfChild = std::unordered_multimap<CUIObject*, CUIObjectList*>;
-
-GroupsOfChild& Groups() {
-    static GroupsOfChild groups;
-    return groups;
-}
 
 Gdiplus::RectF Moved(Gdiplus::RectF rect, float dx, float dy) {
     rect.Offset(dx, dy);
@@ -77,30 +66,13 @@ void CUIObjectList::AppendChild(CUIObject* child) {
     if (!child)
         return;
     m_children.push_back(child);
-    Groups().emplace(child, this);
+    Destruction::Note(child, this);
 }
 
 void CUIObjectList::DetachChildren() {
-    for (CUIObject* child : m_children) {
-        auto [entry, end] = Groups().equal_range(child);
-        entry = std::find_if(entry, end, [this](const auto& held) { return held.second == this; });
-        if (entry != end)
-            Groups().erase(entry);
-    }
+    for (CUIObject* child : m_children)
+        Destruction::Unnote(child, this);
     std::deque<CUIObject*>().swap(m_children);
-}
-
-void CUIObjectList::ForgetChild(CUIObject* object) {
-    const auto [first, last] = Groups().equal_range(object);
-    if (first == last)
-        return;
-    for (auto entry = first; entry != last; ++entry) {
-        std::deque<CUIObject*>& children = entry->second->m_children;
-        const auto place = std::find(children.begin(), children.end(), object);
-        if (place != children.end())
-            children.erase(place);
-    }
-    Groups().erase(first, last);
 }
 
 bool CUIObjectList::Holds(const CUIObject* object) const {
@@ -179,18 +151,12 @@ void CUIObjectList::DrawDragImage(Gdiplus::Graphics* g, POINT) {
     g->DrawRectangle(&pen, GetPosition());
 }
 
-// kept: the group itself is not destroyed, unlike any other object.
+// Kept: the group itself is not destroyed, unlike any other object.
 void CUIObjectList::Release() {
-    if (m_children.empty())
-        return;
     const std::deque<CUIObject*> children = m_children;
-    std::unordered_set<CUIObject*> doomed(children.begin(), children.end());
     DetachChildren();
-    CUIDocument::ForgetObjects(doomed);
-    for (CUIObject* child : children) {
-        if (doomed.erase(child))
-            CUIDocument::ReleaseForgotten(child);
-    }
+    Destruction::DestroyAll(children);
+    Destruction::NoteEmptied(this);
 }
 
 }  // namespace Lumo

@@ -59,7 +59,7 @@ void CUIObjectList::SkipStoredChildren(CArchive& ar) {
         // kept: the object only consumes its data, the group takes no children from an archive.
         const std::unique_ptr<CUIObject, void (*)(CUIObject*)> child(
             CUIToolBase::CreateUIObject(Gdiplus::RectF(0, 0, 0, 0), static_cast<DrawShape>(kind)),
-            &CUIDocument::ReleaseForgotten);
+            &CUIDocument::DestroyObject);
         child->Serialize(ar);
     }
 }

@@ -3,6 +3,7 @@
 
 #include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UIEdit.h"
+#include "core/internal/Destruction.h"
 
 namespace Lumo {
 
@@ -14,6 +15,7 @@ void CUICanvas::EditText(CUIObjectTextEdit* obj) {
     }
     if (obj == nullptr)
         return;
+    Destruction::Note(obj, this);
     m_pEdit = new CUIEdit;
     if (!m_pEdit->Create(this, &m_pEdit, obj))
         return;

@@ -3,6 +3,7 @@
 
 #include "core/Geometry.h"
 #include "core/UIObject.h"
+#include "core/internal/Destruction.h"
 
 #include <algorithm>
 
@@ -36,6 +37,7 @@ void CUICanvas::Select(CUIObject* obj, int add) {
     if (obj == nullptr || IsSelected(obj))
         return;
     m_selection.push_front(obj);
+    Destruction::Note(obj, this);
     InvalidateObject(obj);
 }
 

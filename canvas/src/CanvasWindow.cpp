@@ -123,19 +123,6 @@ void CUICanvas::OnCanvasScale(UINT step) {
         Invalidate(TRUE);
 }
 
-// Takes a doomed object out of the selection and closes an editor that is open on it, without saving.
-void CUICanvas::ForgetObject(CUIObject* object) {
-    std::erase(m_selection, object);
-    if (m_pEdit && m_pEdit->GetEditedObject() == object)
-        m_pEdit->DestroyWindow();
-}
-
-void CUICanvas::ForgetObjects(const std::unordered_set<CUIObject*>& doomed) {
-    std::erase_if(m_selection, [&](CUIObject* object) { return doomed.contains(object); });
-    if (m_pEdit && doomed.contains(m_pEdit->GetEditedObject()))
-        m_pEdit->DestroyWindow();
-}
-
 int CUICanvas::RegisterRawInput(HWND target) {
     constexpr USHORT kGenericDesktop = 1;
     constexpr USHORT kKeyboard = 6;

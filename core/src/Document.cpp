@@ -1,30 +1,20 @@
-// Life of documents, and the one way in which an object becomes unreachable: its destruction takes it out of
-// all page lists, selections and groups, whatever document or canvas holds it.
+// Life of documents and of their pages.
 #include "core/UIDocument.h"
 
-#include "behaviour/UIObjectList.h"
 #include "canvas/UICanvas.h"
 #include "core/UIObject.h"
+#include "core/internal/Destruction.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <memory>
 #include <utility>
-#include <vector>
 
 namespace Lumo {
 
-namespace {
-
-std::vector<CUIDocument*>& Documents() {
+std::vector<CUIDocument*>& CUIDocument::Documents() {
     static std::vector<CUIDocument*> documents;
     return documents;
 }
-
-// The object that is being released after everybody has forgotten it, null as soon as it is destroyed. Its
-// destructor need not search for it again, so destroying a whole page takes one walk and not one per object.
-CUIObject* s_pForgotten = nullptr;
-
-}  // namespace
 
 CUIDocument::CUIDocument() {
     Documents().push_back(this);
@@ -93,88 +83,39 @@ bool CUIDocument::HasList(const CUIObjectDeque* objects) const {
                        [&](const auto& page) { return page.second == objects; });
 }
 
-void CUIDocument::ForgetObject(CUIObject* object) {
-    for (CUIDocument* document : Documents())
-        for (auto& [canvas, objects] : document->m_pages)
-            if (objects)
-                std::erase(*objects, object);
-    for (CUICanvas* canvas : CUICanvas::Canvases())
-        canvas->ForgetObject(object);
-    CUIObjectList::ForgetChild(object);
-}
-
-void CUIDocument::ForgetObjects(const std::unordered_set<CUIObject*>& doomed) {
-    const auto isDoomed = [&](CUIObject* object) { return doomed.contains(object); };
-    for (CUIDocument* document : Documents())
-        for (auto& [canvas, objects] : document->m_pages)
-            if (objects)
-                std::erase_if(*objects, isDoomed);
-    for (CUICanvas* canvas : CUICanvas::Canvases())
-        canvas->ForgetObjects(doomed);
-    for (CUIObject* object : doomed)
-        CUIObjectList::ForgetChild(object);
-}
-
-void CUIDocument::DestroyObject(CUIObject* object) {
-    if (!object)
-        return;
-    ForgetObject(object);
-    ReleaseForgotten(object);
-}
-
-void CUIDocument::ForgetDestroyed(CUIObject* object) {
-    if (object == s_pForgotten)
-        s_pForgotten = nullptr;
-    else
-        ForgetObject(object);
-}
-
-// A group's Release destroys its children and leaves the group itself, which is then deleted here, unless a
-// host's override has done so.
-void CUIDocument::ReleaseForgotten(CUIObject* object) {
-    CUIObject* const outer = std::exchange(s_pForgotten, object);
-    auto* group = dynamic_cast<CUIObjectList*>(object);
-    object->Release();
-    if (s_pForgotten == object)
-        delete group;
-    s_pForgotten = outer;
-}
-
+// By index: what the objects of a page do as they end may make and end documents.
 void CUIDocument::ForgetCanvas(CUICanvas* canvas) {
+    for (size_t i = 0; i < Documents().size(); ++i)
+        Documents()[i]->DropPage(canvas);
     for (CUIDocument* document : Documents()) {
-        const auto page = document->m_pages.find(canvas);
-        if (page != document->m_pages.end())
-            document->DropPage(page);
         if (document->m_pCurrent == canvas)
             document->m_pCurrent = nullptr;
         std::erase(document->m_auxiliary, canvas);
     }
 }
 
-void CUIDocument::ClearObject(CUIObjectDeque* objects) {
-    if (!objects || objects->empty())
-        return;
-    const CUIObjectDeque cleared = std::move(*objects);
-    objects->clear();
-    std::unordered_set<CUIObject*> doomed(cleared.begin(), cleared.end());
-    doomed.erase(nullptr);
-    ForgetObjects(doomed);
-    for (CUIObject* object : cleared) {
-        if (doomed.erase(object))
-            ReleaseForgotten(object);
-    }
+void CUIDocument::DestroyObject(CUIObject* object) {
+    if (object)
+        Destruction::Destroy(object);
 }
 
-// Destroys the objects of a page and removes its list here and in every copy of the document.
-void CUIDocument::DropPage(CUIPageMap::iterator page) {
-    CUIObjectDeque* objects = page->second;
-    ClearObject(objects);
+void CUIDocument::ClearObject(CUIObjectDeque* objects) {
+    if (objects && !objects->empty())
+        Destruction::DestroyAll(std::exchange(*objects, {}));
+}
+
+// Removes a page here and in every copy of the document, then destroys its objects.
+void CUIDocument::DropPage(CUICanvas* canvas) {
+    const auto page = m_pages.find(canvas);
+    if (page == m_pages.end())
+        return;
+    const std::unique_ptr<CUIObjectDeque> objects(page->second);
     m_pages.erase(page);
     if (!objects)
         return;
     for (CUIDocument* document : Documents())
-        std::erase_if(document->m_pages, [&](const auto& entry) { return entry.second == objects; });
-    delete objects;
+        std::erase_if(document->m_pages, [&](const auto& entry) { return entry.second == objects.get(); });
+    Destruction::DestroyAll(*objects);
 }
 
 }  // namespace Lumo

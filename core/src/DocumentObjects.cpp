@@ -4,6 +4,7 @@
 #include "canvas/UICanvas.h"
 #include "core/Geometry.h"
 #include "core/UIObject.h"
+#include "core/internal/Destruction.h"
 #include "core/src/ForEachObject.h"
 #include "core/internal/ObjectFactory.h"
 
@@ -68,6 +69,7 @@ void CUIDocument::AppendObject(CUIObject* object, CUICanvas* canvas) {
         if (!page->first || !page->second)
             return;
         page->second->push_back(object);
+        Destruction::Note(object, page->first);
     }
     m_bModified = 1;
 }

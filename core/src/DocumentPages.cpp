@@ -45,24 +45,22 @@ int CUIDocument::CreateCanvas(DWORD style, CString&, CRect& rect, HWND parent) {
 void CUIDocument::AppendCanvas(CUICanvas* canvas) {
     if (!canvas)
         return;
-    const auto page = m_pages.find(canvas);
-    if (page != m_pages.end())
-        DropPage(page);
-    m_pages[canvas] = new CUIObjectDeque;
+    DropPage(canvas);
+    auto& objects = m_pages[canvas];
+    if (!objects)  // unless an object that has just ended brought it back
+        objects = new CUIObjectDeque;
     m_pCurrent = canvas;
     m_bModified = 1;
 }
 
 void CUIDocument::DeleteCanvas(CUICanvas* canvas) {
-    const auto page = m_pages.find(canvas);
-    if (page != m_pages.end())
-        DropPage(page);
+    DropPage(canvas);
     m_bModified = 1;
 }
 
 void CUIDocument::ClearCanvas() {
     while (!m_pages.empty())
-        DropPage(m_pages.begin());
+        DropPage(m_pages.begin()->first);
     m_bModified = 0;
 }
 

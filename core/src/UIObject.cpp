@@ -4,7 +4,7 @@
 
 #include "appearance/internal/ArchiveFields.h"
 #include "core/Geometry.h"
-#include "core/UIDocument.h"
+#include "core/internal/Destruction.h"
 
 namespace Lumo {
 
@@ -16,7 +16,7 @@ CUIObject::CUIObject(const Gdiplus::RectF& rect, DrawShape shape)
 }
 
 CUIObject::~CUIObject() {
-    CUIDocument::ForgetDestroyed(this);
+    Destruction::NoteEnded(this);
 }
 
 void CUIObject::Init(DrawShape shape, Gdiplus::RectF& rect) {
@@ -24,6 +24,12 @@ void CUIObject::Init(DrawShape shape, Gdiplus::RectF& rect) {
     m_strShapeName = GetDrawShapeName(shape);
     m_bRectMode = 1;
     m_coordinate.SetPosition(rect);
+}
+
+void CUIObject::SetCanvas(CUICanvas* canvas) {
+    m_pCanvas = canvas;
+    if (canvas)
+        Destruction::Note(this, canvas);
 }
 
 void CUIObject::Release() {

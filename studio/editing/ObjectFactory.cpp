@@ -101,7 +101,7 @@ void ReleaseObject(CUIObject* object) {
 }
 
 void ReleaseObjects(Lumo::CUIObjectDeque& objects) {
-    // A group would look for its own children on every page: they go with the others instead.
+    // Each group would look for its own children on their page: they go with the others instead.
     for (size_t i = 0; i < objects.size(); ++i) {
         const bool isGroup = objects[i] && objects[i]->GetDrawShape() == Lumo::DS_GROUP;
         if (auto* group = isGroup ? dynamic_cast<GroupObject*>(objects[i]) : nullptr) {

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
+#include <vector>
 
 using namespace Lumo;
 
@@ -232,71 +234,113 @@ TEST_F(DocumentTest, ThePointFindsTheTopmostVisibleBody) {
     EXPECT_EQ(m_document->ObjectAt(none), nullptr);
 }
 
-TEST_F(DocumentTest, AGroupIsDestroyedWithItsChildren) {
-    m_document->AppendCanvas(Canvas(0));
-    auto* group = static_cast<CUIObjectList*>(m_document->CreateObject(DS_LIST, CRect(0, 0, 50, 50)));
-    group->MakeGroup(new Counted);
-    group->MakeGroup(new Counted);
-    Canvas(0)->m_selection = {group};
-    CUIDocument::DestroyObject(group);
-    EXPECT_EQ(g_alive, 0);
-    EXPECT_TRUE(m_document->GetCanvasObjectList()->empty());
-    EXPECT_TRUE(Canvas(0)->m_selection.empty());
-}
-
-TEST_F(DocumentTest, AGroupMayDestroyItselfWhenReleased) {
-    struct Whole : CUIObjectList {
-        Whole() : CUIObjectList({0, 0, 50, 50}, DS_LIST) { ++g_alive; }
-        ~Whole() override { --g_alive; }
-        void Release() override {
-            CUIObjectList::Release();
-            delete this;
+// Whether a host's class may end otherwise: its own `Release` decides, once for each object.
+TEST_F(DocumentTest, AReleaseOfTheHostsDecidesWhetherAnObjectEnds) {
+    struct Group : CUIObjectList {
+        enum class Way { kBase, kWhole, kStay };
+        explicit Group(Way way) : CUIObjectList({7, 3, 50, 40}, DS_LIST), m_way(way) {
+            ++g_alive;
+            MakeGroup(new Counted);
         }
+        ~Group() override { --g_alive; }
+        void Release() override {
+            ++m_released;
+            if (m_way != Way::kStay)
+                CUIObjectList::Release();
+            if (m_way == Way::kWhole)
+                delete this;
+        }
+        Way m_way;
+        int m_released = 0;
+    };
+    struct Stayer : Counted {
+        void Release() override { ++m_released; }
+        int m_released = 0;
     };
     m_document->AppendCanvas(Canvas(0));
-    auto* group = new Whole;
-    group->MakeGroup(new Counted);
-    m_document->AppendObject(group, nullptr);
-    m_document->DeleteObject(group);
+    auto* stayer = new Stayer;
+    auto* group = new Group(Group::Way::kStay);
+    for (CUIObject* object : {static_cast<CUIObject*>(stayer), static_cast<CUIObject*>(group),
+                              static_cast<CUIObject*>(new Group(Group::Way::kBase)),
+                              static_cast<CUIObject*>(new Group(Group::Way::kWhole))})
+        m_document->AppendObject(object, nullptr);
+    m_document->ClearObject(m_document->GetCanvasObjectList());
+    EXPECT_EQ(g_alive, 3);  // the two that stay, and a child
+    EXPECT_EQ(stayer->m_released, 1);
+    EXPECT_EQ(group->m_released, 1);
+    EXPECT_EQ(group->GetChildren().size(), 1u);
+    delete stayer;
+    group->m_way = Group::Way::kBase;
+    CUIDocument::DestroyObject(group);
     EXPECT_EQ(g_alive, 0);
 }
 
-TEST_F(DocumentTest, AnObjectDestroyedByItsHostLeavesPageSelectionAndGroup) {
+TEST_F(DocumentTest, AnObjectThatEndsLeavesWhateverHoldsIt) {
     void (*const ways[])(CUIObject*) = {
         [](CUIObject* object) { object->Release(); },
         [](CUIObject* object) { delete object; },
         [](CUIObject* object) { CUIDocument::DestroyObject(object); },
     };
+    m_document->AppendCanvas(Canvas(1));
     m_document->AppendCanvas(Canvas(0));
-    CUIObjectList group({0, 0, 50, 50}, DS_LIST);
+    CUIObjectList group({7, 3, 50, 40}, DS_LIST);
     for (const auto destroy : ways) {
-        CUIObject* object = Append();
-        group.MakeGroup(object);
-        Canvas(0)->m_selection = {object};
-        destroy(object);
+        auto* appended = Append(Canvas(1));
+        auto* child = new Counted;
+        group.MakeGroup(child);
+        group.MakeGroup(child);
+        auto* selected = new Counted;
+        Canvas(1)->Select(selected, 0);
+        auto* put = new Counted;  // by hand, with its canvas as it should be
+        put->SetCanvas(Canvas(0));
+        m_document->GetCanvasObjectList()->push_back(put);
+        Canvas(2)->m_selection = {appended};
+        for (CUIObject* object : {appended, child, selected, put})
+            destroy(object);
         EXPECT_EQ(g_alive, 0);
+        EXPECT_TRUE(m_document->GetCanvasObjectList(Canvas(1))->empty());
         EXPECT_TRUE(m_document->GetCanvasObjectList()->empty());
-        EXPECT_TRUE(Canvas(0)->m_selection.empty());
+        EXPECT_TRUE(Canvas(1)->m_selection.empty());
+        EXPECT_TRUE(Canvas(2)->m_selection.empty());
         EXPECT_TRUE(group.GetChildren().empty());
     }
 }
 
+// Each road over an owner and its two labels, of which one is destroyed together with it and one stands on
+// another page; the labels ask for the owner's destruction in turn.
 TEST_F(DocumentTest, AReleaseThatDestroysOthersLeavesNoneOfThemBehind) {
     struct Owner : Counted {
         void Release() override {
-            delete m_label;
-            Counted::Release();
+            for (CUIObject* other : std::exchange(m_others, {}))
+                CUIDocument::DestroyObject(other);
+            CUIObject::Release();
         }
-        CUIObject* m_label = nullptr;
+        std::vector<CUIObject*> m_others;
     };
-    m_document->AppendCanvas(Canvas(0));
-    auto* owner = new Owner;
-    m_document->AppendObject(owner, nullptr);
-    m_document->AppendCanvas(Canvas(1));
-    owner->m_label = Append();
-    m_document->DeleteCanvas(Canvas(0));
-    EXPECT_EQ(g_alive, 0);
-    EXPECT_TRUE(m_document->GetCanvasObjectList(Canvas(1))->empty());
+    void (*const roads[])(CUIDocument&, CUICanvas*) = {
+        [](CUIDocument& d, CUICanvas* c) { d.DeleteCanvas(c); },
+        [](CUIDocument& d, CUICanvas* c) { d.ClearObject(d.GetCanvasObjectList(c)); },
+        [](CUIDocument& d, CUICanvas* c) {
+            auto* group = new CUIObjectList({7, 3, 50, 40}, DS_LIST);
+            for (CUIObject* object : std::exchange(*d.GetCanvasObjectList(c), {}))
+                group->MakeGroup(object);
+            CUIDocument::DestroyObject(group);
+        },
+        [](CUIDocument& d, CUICanvas* c) { CUIDocument::DestroyObject(d.GetCanvasObjectList(c)->front()); },
+    };
+    for (const auto road : roads) {
+        m_document->AppendCanvas(Canvas(0));
+        auto* owner = new Owner;
+        auto* label = new Owner;
+        m_document->AppendObject(owner, nullptr);
+        m_document->AppendObject(label, nullptr);
+        m_document->AppendCanvas(Canvas(1));
+        owner->m_others = {Append(), label};
+        label->m_others = {owner};
+        road(*m_document, Canvas(0));
+        EXPECT_EQ(g_alive, 0);
+        EXPECT_TRUE(m_document->GetCanvasObjectList(Canvas(1))->empty());
+    }
 }
 
 TEST_F(DocumentTest, ADocumentThatGoesWithoutReleaseLeavesItsObjectsAlive) {
