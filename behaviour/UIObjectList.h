@@ -34,7 +34,8 @@ public:
     /// its coordinate record folded into its stored point.
     int HitTest(Gdiplus::RectF& rect) override;
     /// The base data, the number of children (32 bits), the grouped flag (16 bits), then kind (32 bits) and
-    /// data of each child. Loading consumes the children's data and keeps none of them.
+    /// data of each child. Loading consumes the children's data and keeps none of them. Raises the archive's
+    /// exception for groups that are nested deeper than `kDeepest`.
     void Serialize(CArchive& ar) override;
     /// Moves every child to page coordinates and draws it there; the child stays where it was drawn. Nothing
     /// is drawn for the group itself.
@@ -66,6 +67,11 @@ public:
     int GetInitialWidth() const { return m_nInitialWidth; }
     /// Height at construction, rounded to whole units.
     int GetInitialHeight() const { return m_nInitialHeight; }
+    /// How many groups are nested here, this one included.
+    int GetDepth() const;
+    /// The greatest depth that can be stored, read and made by the canvas's command; deeper archives are
+    /// refused.
+    static constexpr int kDeepest = 64;
     /// 1 from construction with a rectangle or the first child on, 0 after ungrouping.
     BOOL GetGrouped() const { return m_bGrouped; }
 

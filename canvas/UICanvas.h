@@ -162,7 +162,7 @@ public:
     /// Puts it on top of all others.
     void OnToolsPositionFront();
     /// Puts the selected objects into a new group whose rectangle reaches from the origin to their far
-    /// corner.
+    /// corner. Nothing happens when a selected group is as deep as groups may be.
     void OnToolsMakeGroup();
     /// Dissolves the group selected last; its children stay selected.
     void OnToolsMakeUngroup();

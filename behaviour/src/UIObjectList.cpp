@@ -75,6 +75,15 @@ void CUIObjectList::DetachChildren() {
     std::deque<CUIObject*>().swap(m_children);
 }
 
+int CUIObjectList::GetDepth() const {
+    int depth = 0;
+    for (const CUIObject* child : m_children) {
+        if (const auto* group = dynamic_cast<const CUIObjectList*>(child))
+            depth = std::max(depth, group->GetDepth());
+    }
+    return depth + 1;
+}
+
 bool CUIObjectList::Holds(const CUIObject* object) const {
     return std::any_of(m_children.begin(), m_children.end(), [object](const CUIObject* child) {
         const auto* group = dynamic_cast<const CUIObjectList*>(child);

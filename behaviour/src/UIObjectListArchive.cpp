@@ -8,11 +8,12 @@
 namespace Lumo {
 namespace {
 
-/// Counts how deep groups lie within groups while an archive is read, and refuses what no drawing needs.
+/// Counts how deep groups lie within groups while an archive is read or written, and refuses what no drawing
+/// needs.
 class NestingScope {
 public:
     NestingScope() {
-        if (s_depth >= kDeepest)
+        if (s_depth >= CUIObjectList::kDeepest)
             AfxThrowArchiveException(CArchiveException::badSchema);
         ++s_depth;
     }
@@ -21,7 +22,6 @@ public:
     NestingScope& operator=(const NestingScope&) = delete;
 
 private:
-    static constexpr int kDeepest = 64;
     static inline int s_depth = 0;
 };
 
@@ -29,6 +29,7 @@ private:
 
 void CUIObjectList::Serialize(CArchive& ar) {
     CUIObject::Serialize(ar);
+    const NestingScope scope;
     if (ar.IsStoring())
         StoreChildren(ar);
     else
@@ -52,7 +53,6 @@ void CUIObjectList::SkipStoredChildren(CArchive& ar) {
     m_bGrouped = grouped;
     if (count < 0)
         AfxThrowArchiveException(CArchiveException::badSchema);
-    const NestingScope scope;
     for (int i = 0; i < count; ++i) {
         int kind = 0;
         ar >> kind;

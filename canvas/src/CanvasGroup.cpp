@@ -6,6 +6,7 @@
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace Lumo {
@@ -17,6 +18,11 @@ CUIObjectList* NewGroup(const Gdiplus::RectF& bounds, CUIDocument* document) {
     group->SetDocument(document);
     group->SetCanvas(document->GetCurrentCanvas());
     return group;
+}
+
+bool CanGroup(const CUIObject* object) {
+    const auto* group = dynamic_cast<const CUIObjectList*>(object);
+    return !group || group->GetDepth() < CUIObjectList::kDeepest;
 }
 
 // Hands those of `objects` that are on the page to the group and takes them off the page.
@@ -37,7 +43,7 @@ void CUICanvas::OnToolsMakeGroup() {
     if (bounds.IsEmptyArea() || m_pDocument == nullptr)
         return;
     CUIObjectDeque* page = m_pDocument->GetCanvasObjectList();
-    if (page == nullptr)
+    if (page == nullptr || !std::all_of(m_selection.begin(), m_selection.end(), CanGroup))
         return;
     CWaitCursor wait;
     CUIObjectList* group = NewGroup(bounds, m_pDocument);

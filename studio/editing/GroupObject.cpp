@@ -65,15 +65,6 @@ std::deque<CUIObject*> GroupObject::TakeApart() {
     return children;
 }
 
-int GroupObject::Depth() const {
-    int depth = 0;
-    for (const CUIObject* child : GetChildren()) {
-        if (const auto* group = dynamic_cast<const GroupObject*>(child))
-            depth = std::max(depth, group->Depth());
-    }
-    return depth + 1;
-}
-
 void GroupObject::Draw(Gdiplus::Graphics* g) {
     const RectF group = GetPosition();
     GraphicsStateScope state(*g);

@@ -27,8 +27,6 @@ public:
     /// Lets the children go and gives them back where they stand on the page, in drawing order. The group is
     /// empty then, and lives on.
     std::deque<Lumo::CUIObject*> TakeApart();
-    /// How many groups are nested here, this one included.
-    int Depth() const;
 
     /// Draws the children where they stand.
     void Draw(Gdiplus::Graphics* g) override;

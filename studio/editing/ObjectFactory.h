@@ -37,7 +37,7 @@ constexpr bool IsControl(Lumo::DrawShape kind) {
 
 /// Destroys an object that is in no page list, a group with its children.
 void ReleaseObject(Lumo::CUIObject* object);
-/// Destroys many of them at once, and empties the list: one by one each would be looked for on every page.
+/// Destroys many of them at once, and empties the list: one by one each would be looked for on its page.
 void ReleaseObjects(Lumo::CUIObjectDeque& objects);
 
 struct ObjectReleaser {

@@ -106,7 +106,7 @@ bool CanGroup(const StudioCanvas& page) {
     return page.m_selection.size() >= 2 &&
            std::all_of(page.m_selection.begin(), page.m_selection.end(), [](CUIObject* object) {
                const GroupObject* group = AsGroup(object);
-               return !group || group->Depth() < kMaxGroupDepth;
+               return !group || group->GetDepth() < kMaxGroupDepth;
            });
 }
 

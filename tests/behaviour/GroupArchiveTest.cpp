@@ -73,14 +73,37 @@ TEST(GroupArchive, RefusesHostileData) {
         {GroupBase().I(0x7FFFFFFF).W(1), CArchiveException::endOfFile},
         {GroupBase().I(2).W(1).I(1).Add(Line(1, L"Line")), CArchiveException::endOfFile},
         {GroupBase().I(1).Raw("", 1), CArchiveException::endOfFile},
-        {Nested(100), CArchiveException::badSchema},
-        {Nested(60), -1},
+        {Nested(CUIObjectList::kDeepest), CArchiveException::badSchema},
+        {Nested(CUIObjectList::kDeepest - 1), -1},
     };
     for (size_t i = 0; i < std::size(cases); ++i) {
         CUIObjectList group(kRect, DS_LIST);
         EXPECT_EQ(cases[i].cause, LoadFailure(group, cases[i].data)) << "case " << i;
         EXPECT_TRUE(group.GetChildren().empty());
     }
+}
+
+TEST(GroupArchive, WhatCannotBeReadIsNotWritten) {
+    GroupOwner group(new CUIObjectList(kRect, DS_LIST));
+    while (group->GetDepth() < CUIObjectList::kDeepest) {
+        auto* outer = new CUIObjectList(kRect, DS_LIST);
+        outer->MakeGroup(new CUIObject(kRect, DS_ELLIPSE));
+        outer->MakeGroup(group.release());
+        group.reset(outer);
+    }
+    CUIObjectList read(kRect, DS_LIST);
+    EXPECT_EQ(-1, LoadFailure(read, Stored(*group)));
+    auto* tooDeep = new CUIObjectList(kRect, DS_LIST);
+    tooDeep->MakeGroup(group.release());
+    group.reset(tooDeep);
+    try {
+        Stored(*group);
+        ADD_FAILURE() << "written";
+    } catch (CArchiveException* error) {
+        EXPECT_EQ(CArchiveException::badSchema, error->m_cause);
+        error->Delete();
+    }
+    EXPECT_EQ(-1, LoadFailure(read, Stored(read))) << "the refusal leaves no depth behind";
 }
 
 }  // namespace

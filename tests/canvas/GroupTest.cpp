@@ -49,6 +49,16 @@ TEST_F(Group, NeedsASelectionThatCoversAnArea) {
     EXPECT_EQ(m_canvas->m_selection, (List{flat}));
 }
 
+TEST_F(Group, GrowsNoDeeperThanAFileHolds) {
+    CUIObject* inner = AddRectangle(13, 17, 20, 10);
+    for (int depth = 1; depth <= CUIObjectList::kDeepest; ++depth)
+        inner = MakeGroupOf({inner});
+    CUIObject* beside = AddRectangle(50, 40, 30, 10);
+    MakeGroupOf({beside, inner});
+    EXPECT_EQ(Objects(), (List{inner, beside}));
+    EXPECT_EQ(m_canvas->m_selection, (List{inner, beside}));
+}
+
 TEST_F(Group, SkipsSelectedObjectsOfAnotherPage) {
     CUICanvas* other = AddCanvas();
     CUIObject* foreign = AddRectangle(10, 10, 20, 20);
