@@ -26,39 +26,34 @@ bool AskForPath(CString& path) {
     return true;
 }
 
-void ReportError(LPCTSTR format, const CString& path, CException* error) {
+// Shows and deletes `error`; false.
+bool ReportError(LPCTSTR format, const CString& path, CException* error) {
     TCHAR text[kErrorTextLength] = {};
     error->GetErrorMessage(text, kErrorTextLength);
     error->Delete();
     CString message;
     message.Format(format, static_cast<LPCTSTR>(path), text);
     AfxMessageBox(message);
+    return false;
 }
 
-// Runs `transfer` on an archive over `file`, then `finish`; a class-library exception aborts the file and is
-// reported.
-template <class Transfer, class Finish>
-int Archive(CFile& file, UINT mode, const CString& path, LPCTSTR errorFormat, Transfer transfer,
-            Finish finish) {
+// Runs `transfer` on an archive over `file`. The class library's exception that ended it, or null.
+template <class Transfer>
+CException* Archive(CFile& file, UINT mode, Transfer transfer) {
     try {
         CArchive ar(&file, mode | CArchive::bNoFlushOnDelete, kArchiveBuffer);
         transfer(ar);
-        ar.Close();
-        finish();
-        return 1;
+        return nullptr;
     } catch (CException* error) {
-        file.Abort();
-        ReportError(errorFormat, path, error);
-        return 0;
+        return error;
     }
 }
 
-// The new file beside the old one; null, with the cause, when it cannot be made.
-std::unique_ptr<WholeFile> OpenBeside(const CString& path, int& cause) {
+// Null when the file cannot be written.
+std::unique_ptr<WholeFile> OpenTarget(LPCTSTR path) {
     try {
         return std::make_unique<WholeFile>(path);
     } catch (CFileException* error) {
-        cause = error->m_cause;
         error->Delete();
         return nullptr;
     }
@@ -74,46 +69,31 @@ void CUIDocument::Serialize(CArchive& ar) {
 }
 
 int CUIDocument::Save(CString& path) {
-    const auto store = [this](CArchive& ar) { Serialize(ar); };
-    const LPCTSTR errorFormat = L"파일(%s) 쓰기중 오류가 발생하였습니다.\n\n%s";
-    // The old file is held meanwhile: nobody else opens it.
-    CFile old;
-    CFileException reason;
-    if (WholeFile::IsReadOnly(path))
+    auto target = OpenTarget(path);
+    if (!target)
         return 0;
-    const bool exists = old.Open(path, CFile::shareExclusive | CFile::modeReadWrite, &reason);
-    if (!exists && reason.m_cause != CFileException::fileNotFound)
-        return 0;
-    int cause = CFileException::none;
-    if (const auto whole = OpenBeside(path, cause)) {
-        return Archive(whole->File(), CArchive::store, path, errorFormat, store, [&] {
-            old.Abort();
-            whole->Commit();
-        });
-    }
-    if (!exists || cause != CFileException::accessDenied)
-        return 0;
-    return Archive(
-        old, CArchive::store, path, errorFormat,
-        [&](CArchive& ar) {
-            old.SetLength(0);
-            store(ar);
-        },
-        [&] { old.Close(); });
+    CException* error = Archive(target->File(), CArchive::store, [&](CArchive& ar) {
+        Serialize(ar);
+        ar.Close();
+        target->Commit();
+    });
+    target.reset();  // nothing is held while the message shows
+    return !error || ReportError(L"파일(%s) 쓰기중 오류가 발생하였습니다.\n\n%s", path, error);
 }
 
 int CUIDocument::Load(CString& path) {
     CFile file;
     if (!file.Open(path, CFile::modeRead | CFile::shareDenyWrite))
         return 0;
-    // kept: with the pages go the objects that could read themselves; a host makes its own before it reads.
+    // Kept: with the pages go the objects that could read themselves; a host makes its own before it reads.
     ClearCanvas();
-    const auto read = [&](CArchive& ar) {
+    CException* error = Archive(file, CArchive::load, [&](CArchive& ar) {
         if (file.GetLength() != 0)
             Serialize(ar);
-    };
-    return Archive(file, CArchive::load, path, L"파일(%s) 형식을 알수 없습니다.\n\n%s", read,
-                   [&] { file.Close(); });
+        ar.Close();
+    });
+    file.Abort();
+    return !error || ReportError(L"파일(%s) 형식을 알수 없습니다.\n\n%s", path, error);
 }
 
 void CUIDocument::SaveDocument() {

@@ -1,6 +1,8 @@
 // Saving to a disk that is full, and to one that takes no writing. The environment names the folders:
 // TESSEL_SMALL_DISK a small file system of its own, TESSEL_SEALED_DISK one that is mounted for reading, with
-// the file page.cbf.
+// the files page.cbf and bound.dat, of which the second can be written, TESSEL_ODD_DISK one in which
+// bound.dat can be written, but not replaced (it lies on the small disk), and link.dat leads to
+// real\page.dat.
 #include "studio/StudioFixture.h"
 
 #include "studio/document/Autosave.h"
@@ -43,11 +45,11 @@ protected:
 
     CString Path(LPCWSTR name) const { return m_folder + L"\\" + name; }
 
-    // Names of the folder, but for what fills the disk.
-    CString Listing() const {
+    // Names of a folder, but for what fills the disk.
+    static CString Listing(const CString& folder) {
         CString names;
         WIN32_FIND_DATA data;
-        const HANDLE search = ::FindFirstFile(Path(L"*"), &data);
+        const HANDLE search = ::FindFirstFile(folder + L"\\*", &data);
         if (search == INVALID_HANDLE_VALUE)
             return names;
         do {
@@ -59,7 +61,26 @@ protected:
         return names;
     }
 
+    CString Listing() const { return Listing(m_folder); }
+
     const CString m_folder;
+    const CString m_odd = ::_wgetenv(L"TESSEL_ODD_DISK");
+};
+
+// A document of the library with so many rectangles.
+class Plain {
+public:
+    explicit Plain(int objects) {
+        m_document->AppendCanvas(&m_canvas);
+        for (int i = 0; i < objects; ++i)
+            m_document->CreateObject(Lumo::DS_RECTANGLE, CRect(2, 3, 5 + i, 9));
+    }
+    ~Plain() { m_document->Release(); }
+    int Save(CString path) { return m_document->Save(path); }
+
+private:
+    Lumo::CUICanvas m_canvas;
+    Lumo::CUIDocument* m_document = new Lumo::CUIDocument;
 };
 
 class FullDisk : public Disk {
@@ -174,22 +195,15 @@ TEST_F(FullDisk, PicturesAndSymbolsAreWholeOrNotThere) {
 }
 
 TEST_F(FullDisk, TheLibraryReportsAndKeepsTheOldFile) {
-    CString file = Path(L"page.dat");
-    Lumo::CUICanvas canvas;
-    auto* document = new Lumo::CUIDocument;
-    document->AppendCanvas(&canvas);
-    document->CreateObject(Lumo::DS_RECTANGLE, CRect(0, 0, 5, 5));
-    ASSERT_EQ(1, document->Save(file));
+    const CString file = Path(L"page.dat");
+    ASSERT_EQ(1, Plain(1).Save(file));
     const Bytes before = Read(file);
-    for (int i = 0; i < 200; ++i)
-        document->CreateObject(Lumo::DS_RECTANGLE, CRect(0, 0, 5, 5));
     const CString listing = Listing();
     for (ULONGLONG room : kRooms) {
         FillButFor(room);
-        CString other = Path(L"other.dat");
-        for (CString target : {file, other}) {
+        for (const CString& target : {file, Path(L"other.dat")}) {
             MessageBoxAnswerer boxes;
-            EXPECT_EQ(0, document->Save(target));
+            EXPECT_EQ(0, Plain(200).Save(target));
             ASSERT_EQ(1u, boxes.texts.size());
             CString text;
             text.Format(
@@ -201,8 +215,32 @@ TEST_F(FullDisk, TheLibraryReportsAndKeepsTheOldFile) {
         EXPECT_EQ(before, Read(file));
         EXPECT_EQ(listing, Listing());
     }
-    document->Release();
     RemoveAll({L"page.dat"});
+}
+
+TEST_F(FullDisk, WhatCannotBeReplacedIsWrittenOverOrKept) {
+    const CString file = m_odd + L"\\bound.dat";
+    const CString listing = Listing(m_odd);
+    ASSERT_EQ(1, Plain(5).Save(file));
+    const Bytes before = Read(file);
+    EXPECT_FALSE(before.empty());
+    FillButFor(0);
+    {
+        MessageBoxAnswerer boxes;
+        EXPECT_EQ(0, Plain(200).Save(file));
+        EXPECT_EQ(1u, boxes.texts.size());
+    }
+    EXPECT_EQ(before, Read(file));
+    ::DeleteFile(Path(L"filler"));
+    EXPECT_EQ(1, Plain(2).Save(file));
+    EXPECT_LT(Read(file).size(), before.size());
+    EXPECT_EQ(listing, Listing(m_odd));
+}
+
+TEST_F(FullDisk, ALinkIsWrittenThrough) {
+    ASSERT_EQ(1, Plain(5).Save(m_odd + L"\\link.dat"));
+    EXPECT_FALSE(Read(m_odd + L"\\real\\page.dat").empty());
+    EXPECT_EQ(CString(L"page.dat "), Listing(m_odd + L"\\real"));
 }
 
 TEST_F(FullDisk, SettingsKeepTheirValues) {
@@ -220,6 +258,17 @@ class SealedDisk : public Disk {
 protected:
     SealedDisk() : Disk(L"TESSEL_SEALED_DISK") {}
 };
+
+TEST_F(SealedDisk, AFileThatCanBeWrittenIsWrittenOver) {
+    const CString file = Path(L"bound.dat");
+    const CString listing = Listing();
+    for (int objects : {5, 2}) {
+        ASSERT_EQ(1, Plain(objects).Save(file));
+        EXPECT_EQ(1, Plain(objects).Save(m_odd + L"\\real\\page.dat"));
+        EXPECT_EQ(Read(m_odd + L"\\real\\page.dat"), Read(file));
+    }
+    EXPECT_EQ(listing, Listing());
+}
 
 TEST_F(SealedDisk, FilesAreReadAndNothingIsLost) {
     CString file = Path(L"page.cbf");

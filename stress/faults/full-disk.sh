@@ -18,14 +18,14 @@ fi
 # Wine's server opens the files, so one has to run in here: its prefix shares all but the registry with the usual one.
 usual=${WINEPREFIX:-$HOME/.wine}
 work=$(mktemp -d)
-mkdir "$work/prefix" "$work/small" "$work/sealed"
+mkdir -p "$work/prefix" "$work/small" "$work/sealed" "$work/odd/real"
 cp -a "$usual"/*.reg "$usual"/.update-timestamp "$usual"/dosdevices "$work/prefix"
 ln -s "$usual/drive_c" "$work/prefix/drive_c"
 export WINEPREFIX=$work/prefix
 finish() {
     wineserver -k >/dev/null 2>&1 || true
     wineserver -w >/dev/null 2>&1 || true
-    umount "$work/small" "$work/sealed" 2>/dev/null || true
+    umount "$work/odd/bound.dat" "$work/sealed/bound.dat" "$work/small" "$work/sealed" 2>/dev/null || true
     rm -rf "$work"
 }
 trap finish EXIT
@@ -33,9 +33,14 @@ wineserver -p
 
 mount -t tmpfs -o size=256k none "$work/small"
 mount -t tmpfs -o size=256k none "$work/sealed"
-export TESSEL_SMALL_DISK="Z:${work//\//\\}\\small" TESSEL_SEALED_DISK="Z:${work//\//\\}\\sealed"
+disks="Z:${work//\//\\}"
+export TESSEL_SMALL_DISK="$disks\\small" TESSEL_SEALED_DISK="$disks\\sealed" TESSEL_ODD_DISK="$disks\\odd"
 run="$root/cmake/wine-launcher.sh"
 "$run" "$1/Studio.exe" --make-symbols "$TESSEL_SEALED_DISK"
 mv "$work/sealed/Fader.cbf" "$work/sealed/page.cbf"
+touch "$work/small/bound" "$work/odd/bound.dat" "$work/sealed/bound.dat" "$work/bound" "$work/odd/real/page.dat"
+ln -s real/page.dat "$work/odd/link.dat"
+mount --bind "$work/small/bound" "$work/odd/bound.dat"
 mount -o remount,ro "$work/sealed"
+mount --bind "$work/bound" "$work/sealed/bound.dat"
 "$run" "$1/FullDisk.exe"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # kill-saving.sh PROGRAMS [--kills N] [--seed S]: kills a program that saves over and over, at random moments, in each
 # way of saving by turns. What is there afterwards must be one of both versions, byte for byte, with at most one
-# unfinished file beside it. Without --kills, 200.
+# unfinished file beside it, left in the moment of replacing. Without --kills, 200.
 set -euo pipefail
 
 programs=$(realpath "$1") kills=200 seed=$(date +%s)
@@ -64,11 +64,12 @@ for ((kill = 0; kill < kills; ++kill)); do
     beside=$(find . -name '*.saving' | wc -l)
     others=$(find . -type f ! -name '*.saving' ! -name '*.ref' ! -name ready ! -name page.cbf ! -name "$file" | wc -l)
     [ "$beside" -le 1 ] && [ "$others" -eq 0 ] || fail "there are files that nobody wants"
+    rm -f ./*.saving
     unfinished[$way]=$((${unfinished[$way]:-0} + beside))
 done
 
 for way in "${ways[@]}"; do
-    echo "$way: older version ${kept[$way]:-0}, newer version ${newer[$way]:-0}, killed while writing ${unfinished[$way]:-0}"
+    echo "$way: older version ${kept[$way]:-0}, newer version ${newer[$way]:-0}, unfinished files ${unfinished[$way]:-0}"
     [ "$way" = library ] || [ ! -d "$folder/$way" ] || for version in old new; do
         cp "$folder/$way/$version.ref" "$folder/version.cbf"
         wine "$programs/Studio.exe" --check "Z:${folder//\//\\}\\version.cbf" >"$folder/report" 2>&1 </dev/null ||

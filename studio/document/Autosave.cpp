@@ -9,7 +9,7 @@ namespace Studio {
 namespace {
 
 constexpr WCHAR kUntitledPattern[] = L"untitled-*.autosave";
-constexpr WCHAR kUnfinishedPattern[] = L"untitled-*.autosave.saving";
+constexpr WCHAR kUnfinishedPattern[] = L"untitled-*.saving";
 
 std::vector<CString> FilesIn(const CString& folder, LPCWSTR pattern) {
     std::vector<CString> found;

@@ -53,9 +53,8 @@ void WriteHeader(CFile& file) {
 }  // namespace
 
 void WriteWholeFile(const CString& path, const std::function<void(CFile& file)>& write) {
-    Lumo::WholeFile target(FullPath(path));
+    Lumo::WholeFile target(path);
     write(target.File());
-    target.File().Flush();
     target.Commit();
 }
 

@@ -4,6 +4,8 @@
 #include "support/MessageBoxAnswerer.h"
 #include "support/TemporaryFile.h"
 
+#include <sddl.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -121,18 +123,22 @@ TEST_F(DocumentFileTest, AFailedSaveIsReportedAndLeavesTheOldFile) {
     m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
     ASSERT_EQ(m_document->Save(m_path), 1);
     const std::vector<uint8_t> before = Bytes();
-    const CString beside = m_path + L".saving";
     auto* breaking = new Breaking;
     MessageBoxAnswerer boxes;
-    EXPECT_EQ(breaking->Save(m_path), 0);
+    bool isFree = false;
+    boxes.onBox = [&] { isFree = CFile().Open(m_path, CFile::modeReadWrite | CFile::shareExclusive); };
+    ::SetCurrentDirectory(m_path.Left(m_path.ReverseFind(L'\\')));
+    CString name = m_path.Mid(m_path.ReverseFind(L'\\') + 1);
+    EXPECT_EQ(breaking->Save(name), 0);
+    EXPECT_TRUE(isFree) << "held while the message shows";
     ASSERT_EQ(boxes.texts.size(), 1u);
     CString text;
     text.Format(
         L"파일(%s) 쓰기중 오류가 발생하였습니다.\n\n\"%s\" could not be written because the disk is full.",
-        m_path.GetString(), m_path.GetString());
+        name.GetString(), m_path.GetString());
     EXPECT_STREQ(boxes.texts[0], text);
     EXPECT_EQ(Bytes(), before);
-    EXPECT_EQ(::GetFileAttributes(beside), INVALID_FILE_ATTRIBUTES);
+    EXPECT_EQ(::GetFileAttributes(m_path + L".saving"), INVALID_FILE_ATTRIBUTES);
 
     CString fresh = m_path + L".new";
     EXPECT_EQ(breaking->Save(fresh), 0);
@@ -159,11 +165,60 @@ TEST_F(DocumentFileTest, TargetsThatCannotBeWrittenAreRefusedQuietly) {
     EXPECT_TRUE(::RemoveDirectory(folder)) << "something was left in it";
     EXPECT_TRUE(boxes.texts.empty());
     EXPECT_EQ(m_document->GetCanvasObjectList()->size(), 1u);
-    // What an interrupted save left beside is longer than the new file.
-    CFile(m_path + L".saving", CFile::modeCreate | CFile::modeWrite).SetLength(100000);
+}
+
+TEST_F(DocumentFileTest, WhatLiesBesideStaysAsItIs) {
+    const CString besides[] = {m_path + L".saving", m_path + L".2.saving", m_path + L".before"};
+    for (const CString& beside : besides)
+        CFile(beside, CFile::modeCreate | CFile::modeWrite).SetLength(7);
+    m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
     EXPECT_EQ(m_document->Save(m_path), 1);
-    EXPECT_EQ(Bytes(), before);
-    EXPECT_EQ(::GetFileAttributes(m_path + L".saving"), INVALID_FILE_ATTRIBUTES);
+    EXPECT_FALSE(Bytes().empty());
+    EXPECT_EQ(::GetFileAttributes(m_path + L".3.saving"), INVALID_FILE_ATTRIBUTES);
+    for (const CString& beside : besides) {
+        EXPECT_EQ(CFile(beside, CFile::modeRead).GetLength(), 7u);
+        ::DeleteFile(beside);
+    }
+}
+
+TEST_F(DocumentFileTest, NamesMayBeAsLongAsTheSystemTakesThem) {
+    const CString folder = m_path.Left(m_path.ReverseFind(L'\\') + 1);
+    for (int length : {247, 255}) {
+        m_path = L"\\\\?\\" + folder + CString(L'n', length);
+        for (int round = 0; round < 2; ++round) {
+            EXPECT_EQ(m_document->Save(m_path), 1) << length;
+            EXPECT_TRUE(Bytes().empty() == (round == 0));
+            m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
+        }
+        m_document->ClearObject(m_document->GetCanvasObjectList());
+        EXPECT_TRUE(::DeleteFile(m_path));
+    }
+}
+
+std::vector<uint8_t> AccessTo(const CString& path) {
+    DWORD size = 0;
+    ::GetFileSecurity(path, DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<uint8_t> access(size);
+    EXPECT_TRUE(::GetFileSecurity(path, DACL_SECURITY_INFORMATION, access.data(), size, &size));
+    return access;
+}
+
+TEST_F(DocumentFileTest, TheNewFileTakesOverAttributesAndAccessRights) {
+    ASSERT_EQ(m_document->Save(m_path), 1);
+    const std::vector<uint8_t> usual = AccessTo(m_path);
+    PSECURITY_DESCRIPTOR onlyOwner = nullptr;
+    ASSERT_TRUE(::ConvertStringSecurityDescriptorToSecurityDescriptor(L"D:P(A;;FA;;;BA)", SDDL_REVISION_1,
+                                                                      &onlyOwner, nullptr));
+    EXPECT_TRUE(::SetFileSecurity(m_path, DACL_SECURITY_INFORMATION, onlyOwner));
+    ::LocalFree(onlyOwner);
+    ::SetFileAttributes(m_path, FILE_ATTRIBUTE_HIDDEN);
+    const std::vector<uint8_t> access = AccessTo(m_path);
+    EXPECT_NE(access, usual);
+    m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, 5));
+    EXPECT_EQ(m_document->Save(m_path), 1);
+    EXPECT_FALSE(Bytes().empty());
+    EXPECT_NE(::GetFileAttributes(m_path) & FILE_ATTRIBUTE_HIDDEN, 0u);
+    EXPECT_EQ(AccessTo(m_path), access);
 }
 
 TEST_F(DocumentFileTest, AFileHeldByAnotherIsNotTouched) {

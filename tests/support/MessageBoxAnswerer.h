@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <functional>
 #include <vector>
 
 class MessageBoxAnswerer {
@@ -16,6 +17,7 @@ public:
         s_current = m_outer;
     }
 
+    std::function<void()> onBox;  // called while a box is open
     std::vector<CString> captions;
     std::vector<CString> texts;
 
@@ -40,6 +42,8 @@ private:
                 ::GetWindowText(child, text, 1024);
         }
         texts.emplace_back(text);
+        if (onBox)
+            onBox();
         ::PostMessage(box, WM_COMMAND, m_answer, 0);
     }
 
