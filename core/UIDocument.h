@@ -35,7 +35,7 @@ public:
     /// cannot be opened leaves the document as it was.
     virtual int Load(CString& path);
     /// Writes the document to `path` through `Serialize`, whole or not at all. 1 on success, 0 on failure; an
-    /// older file is as it was then. Only where the folder takes no new file is the old one written over.
+    /// older file is as it was then. See `WholeFile`.
     virtual int Save(CString& path);
     /// Frees the lists but not the objects in them; see `Release`.
     virtual ~CUIDocument();
@@ -133,7 +133,8 @@ public:
     /// every canvas of the auxiliary list. Other hints do nothing.
     void UpdateAllCanvas(CUICanvas* canvas, long hint, void* data);
 
-    /// 1 when the document was changed since it was saved, loaded or cleared.
+    /// 1 after pages or objects came, went or were restacked. Clearing and loading set it to 0. Saving leaves
+    /// it as it is, and moves and changes of style do not set it: that is for the host.
     int GetModifiedFlag() const { return m_bModified; }
     /// Sets or clears the modified flag.
     void SetModifiedFlag(int modified) { m_bModified = modified; }
@@ -143,7 +144,7 @@ protected:
     std::deque<CUICanvas*> m_auxiliary;
     CUIPageMap m_pages;               ///< the pages; the lists and their objects are owned
     ATOM m_atomCanvas = 0;            ///< the canvases' window class, 0 unless this document registered it
-    int m_bModified = 0;              ///< 1 when changed since saved, loaded or cleared
+    int m_bModified = 0;              ///< see `GetModifiedFlag`
     CUICanvas* m_pCurrent = nullptr;  ///< the current page's canvas, or null
 
 private:
