@@ -49,6 +49,11 @@ CString TemporaryFolder() {
     return AnyLength(folder);
 }
 
+// A file closes by itself only when it was opened by its own means.
+struct ClosingFile : CFile {
+    ~ClosingFile() override { Abort(); }
+};
+
 bool IsOpen(const CFile& file) {
     return file.m_hFile != CFile::hFileNull;
 }
@@ -169,7 +174,8 @@ void WholeFile::Commit() {
     WriteOver();
 }
 
-// What the system's own replacing takes over is more on some systems and nothing on others.
+// Not by the system's call that replaces and merges: where it moves the old file aside first, a process that
+// ends in between leaves none.
 DWORD WholeFile::Replace() {
     std::vector<BYTE> access;
     if (IsOpen(m_old)) {
@@ -181,8 +187,7 @@ DWORD WholeFile::Replace() {
     m_old.Abort();
     if (!access.empty())
         ::SetFileSecurity(m_beside, DACL_SECURITY_INFORMATION, access.data());
-    if (!::ReplaceFile(m_target, m_beside, nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) &&
-        !::MoveFileEx(m_beside, m_target, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+    if (!::MoveFileEx(m_beside, m_target, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
         return ::GetLastError();
     m_beside.Empty();
     return ERROR_SUCCESS;
@@ -190,7 +195,7 @@ DWORD WholeFile::Replace() {
 
 // The copy of the old contents goes when they are no longer needed, or back in their place.
 void WholeFile::WriteOver() {
-    CFile before;
+    ClosingFile before;
     if (MakeBeside(before, FolderOf(m_beside), m_target, L".before").IsEmpty())
         CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), m_old.GetFilePath());
     before.SetFilePath(m_old.GetFilePath());

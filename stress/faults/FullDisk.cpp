@@ -234,7 +234,7 @@ TEST_F(FullDisk, WhatCannotBeReplacedIsWrittenOverOrKept) {
     ::DeleteFile(Path(L"filler"));
     EXPECT_EQ(1, Plain(2).Save(file));
     EXPECT_LT(Read(file).size(), before.size());
-    EXPECT_EQ(listing, Listing(m_odd));
+    EXPECT_EQ(listing, Listing(m_odd)) << Listing(m_odd).GetString();
 }
 
 TEST_F(FullDisk, ALinkIsWrittenThrough) {
