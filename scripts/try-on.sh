@@ -83,12 +83,13 @@ mount -t proc proc "$system/proc"
 mount -t sysfs -o ro sysfs "$system/sys"
 mount --rbind /dev "$system/dev"
 
+commit=$(git -C "$system/$tree" rev-parse --short HEAD)
 failed=0
 try() {
     local started=$SECONDS code=0 result=passed
     inside "$@" || code=$?
     [ "$code" = 0 ] || { result="failed with $code" && failed=1; }
-    echo "Debian $suite, $(git rev-parse --short HEAD): $* $result after $((SECONDS - started)) s"
+    echo "Debian $suite, $commit: $* $result after $((SECONDS - started)) s"
 }
 
 if [ $# -gt 0 ]; then
