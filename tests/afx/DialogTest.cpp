@@ -9,18 +9,19 @@
 
 namespace {
 
+BOOL CALLBACK TakeVisibleDialog(HWND window, LPARAM found) {
+    TCHAR name[32];
+    ::GetClassName(window, name, 32);
+    if (::lstrcmp(name, _T("#32770")) != 0 || !::IsWindowVisible(window))
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
 /// The visible dialog of this thread, or null.
 HWND FindDialog() {
     HWND found = nullptr;
-    auto look = [](HWND window, LPARAM data) -> BOOL {
-        TCHAR name[32];
-        ::GetClassName(window, name, 32);
-        if (::lstrcmp(name, _T("#32770")) != 0 || !::IsWindowVisible(window))
-            return TRUE;
-        *reinterpret_cast<HWND*>(data) = window;
-        return FALSE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&found));
+    ::EnumThreadWindows(::GetCurrentThreadId(), &TakeVisibleDialog, reinterpret_cast<LPARAM>(&found));
     return found;
 }
 
