@@ -18,9 +18,14 @@ inline int GraphicsObjects() {
         BYTE type, flags;
         ULONGLONG user;
     };
-    constexpr size_t kTableInBlock = 0xF8;
     constexpr int kEntries = 0x10000;
+#ifdef _WIN64
+    constexpr size_t kTableInBlock = 0xF8;
     const auto* block = reinterpret_cast<const BYTE*>(__readgsqword(0x60));
+#else
+    constexpr size_t kTableInBlock = 0x94;
+    const auto* block = reinterpret_cast<const BYTE*>(__readfsdword(0x30));
+#endif
     const auto* table = *reinterpret_cast<const Entry* const*>(block + kTableInBlock);
     int count = 0;
     for (int i = 0; table && i < kEntries; ++i)
