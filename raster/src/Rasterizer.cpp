@@ -1,0 +1,442 @@
+#include "raster/Rasterizer.h"
+
+#include <bit>
+#include <numeric>
+
+namespace raster {
+
+namespace {
+
+constexpr int kUnit = 256;                  // of a coordinate to a pixel
+constexpr int kWhole = 2 * kUnit * kUnit;   // a cell wholly covered
+constexpr int kBlock = 8;                   // cells that share a bit
+constexpr int kBandCells = 1 << 16;         // 256 kB: stays in the second cache
+constexpr size_t kManyEdges = 48;           // in one row: cut into 16 strips at most
+constexpr int64_t kOne = int64_t{1} << 32;  // fraction of positions that go down an edge
+
+// The pixel in which a coordinate lies.
+int PixelOf(int fixed) {
+    return fixed >> 8;
+}
+int64_t FloorDivide(int64_t a, int64_t b) {
+    const int64_t quotient = a / b;
+    return quotient * b > a ? quotient - 1 : quotient;
+}
+
+int ToFixed(double value) {
+    return static_cast<int>(std::lrint(value * kUnit));
+}
+
+// x of an edge at a height, in 1/256.
+template <class Edge>
+int At(const Edge& edge, int y) {
+    if (y <= edge.y0)
+        return edge.x0;
+    if (y >= edge.y1)
+        return edge.x1;
+    return edge.x0 + static_cast<int>(FloorDivide(
+                         static_cast<int64_t>(edge.x1 - edge.x0) * (y - edge.y0) * 2 + (edge.y1 - edge.y0),
+                         int64_t{2} * (edge.y1 - edge.y0)));
+}
+
+uint8_t Smooth(int cell) {
+    return static_cast<uint8_t>((std::min(std::abs(cell), kWhole) * 255 + kWhole / 2) / kWhole);
+}
+
+bool Inside(int winding, FillRule rule) {
+    return rule == FillRule::Winding ? winding != 0 : (winding & 1) != 0;
+}
+
+// How often a chain turns back in one coordinate.
+class Reversals {
+public:
+    void Add(int direction) {
+        if (direction == 0)
+            return;
+        if (m_last == 0)
+            m_first = direction;
+        else if (direction != m_last)
+            ++m_count;
+        m_last = direction;
+    }
+    int Count() const { return m_count + (m_first != m_last ? 1 : 0); }
+
+private:
+    int m_first = 0, m_last = 0, m_count = 0;
+};
+
+// Whether the chain turns in one direction only, and once: it has no point that is inside twice.
+bool IsConvex(std::span<const Chains::Vertex> chain) {
+    const auto sign = [](double value, double least) { return value > least ? 1 : value < -least ? -1 : 0; };
+    const size_t count = chain.size();
+    Point before = chain[0].at - chain[count - 1].at;
+    int turn = 0;
+    Reversals across, down;
+    for (size_t i = 0; i < count; ++i) {
+        const Point after = chain[i + 1 < count ? i + 1 : 0].at - chain[i].at;
+        // What rounding to the grid may turn the other way is straight.
+        const double straight =
+            (std::abs(before.x) + std::abs(before.y) + std::abs(after.x) + std::abs(after.y)) / kUnit;
+        const int turned = sign(Cross(before, after), straight);
+        if (turned * turn < 0 || (turned == 0 && Dot(before, after) < 0))
+            return false;
+        if (turned != 0)
+            turn = turned;
+        across.Add(sign(after.x, 0));
+        down.Add(sign(after.y, 0));
+        before = after;
+    }
+    return across.Count() <= 2 && down.Count() <= 2;
+}
+
+}  // namespace
+
+void Rasterizer::Begin(const IntRect& clip) {
+    m_clip = Intersect(clip, {-kFarthestPixel, -kFarthestPixel, kFarthestPixel, kFarthestPixel});
+    m_edges.clear();
+    m_minX = m_minY = kFarthestPixel * kUnit;
+    m_maxX = m_maxY = -kFarthestPixel * kUnit;
+    m_chains = 0;
+    m_simple = true;
+}
+
+void Rasterizer::Add(const Chains& chains, Point offset, bool apart) {
+    if (m_clip.Empty())
+        return;
+    m_simple = m_simple && (m_chains == 0 || apart);
+    for (const Chains::Chain& chain : chains.chains) {
+        if (chain.count < 2)
+            continue;
+        const std::span<const Chains::Vertex> vertices = chains.Of(chain);
+        ++m_chains;
+        if (!apart)
+            m_simple = m_simple && m_chains == 1 && IsConvex(vertices);
+        AddChain(vertices, offset);
+    }
+}
+
+void Rasterizer::AddChain(std::span<const Chains::Vertex> chain, Point offset) {
+    Point before = chain.back().at + offset;
+    for (const Chains::Vertex& vertex : chain) {
+        const Point at = vertex.at + offset;
+        AddSegment(before, at);
+        before = at;
+    }
+}
+
+// Edges stay whole, so that a part of a shape is drawn as in the whole; only what is very far away is cut
+// off.
+void Rasterizer::AddSegment(Point a, Point b) {
+    if (!(std::max(a.y, b.y) > m_clip.top && std::min(a.y, b.y) < m_clip.bottom &&
+          std::min(a.x, b.x) < m_clip.right))
+        return;
+    if (std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)}) <= kFarthestPixel) {
+        AddEdge(ToFixed(a.x), ToFixed(a.y), ToFixed(b.x), ToFixed(b.y));
+        return;
+    }
+    const auto cut = [](Point& end, Point other) {
+        const double y = std::clamp<double>(end.y, -kFarthestPixel, kFarthestPixel);
+        if (y != end.y)
+            end = {end.x + (other.x - end.x) * ((y - end.y) / (other.y - end.y)), y};
+    };
+    const Point whole = a;
+    cut(a, b);
+    cut(b, whole);
+    AddFar(a, b);
+}
+
+// A line within the height that can be, of any width: what lies to the left still counts, the right does not.
+void Rasterizer::AddFar(Point a, Point b) {
+    constexpr double far = kFarthestPixel;
+    constexpr int left = -kFarthestPixel * kUnit;
+    const auto crossing = [&](double x) {
+        const double y = a.y + (b.y - a.y) * ((x - a.x) / (b.x - a.x));
+        return ToFixed(std::clamp(y, std::min(a.y, b.y), std::max(a.y, b.y)));
+    };
+    int fromY = ToFixed(a.y), toY = ToFixed(b.y);
+    if (a.x > far && b.x > far)
+        return;
+    if (a.x < -far && b.x < -far) {
+        AddEdge(left, fromY, left, toY);
+        return;
+    }
+    if (std::abs(a.x) > far) {
+        const int y = crossing(std::copysign(far, a.x));
+        if (a.x < 0)
+            AddEdge(left, fromY, left, y);
+        fromY = y;
+    }
+    if (std::abs(b.x) > far) {
+        const int y = crossing(std::copysign(far, b.x));
+        if (b.x < 0)
+            AddEdge(left, y, left, toY);
+        toY = y;
+    }
+    AddEdge(ToFixed(std::clamp(a.x, -far, far)), fromY, ToFixed(std::clamp(b.x, -far, far)), toY);
+}
+
+void Rasterizer::AddEdge(int x0, int y0, int x1, int y1) {
+    if (y0 == y1)
+        return;
+    m_minX = std::min(m_minX, std::min(x0, x1));
+    m_maxX = std::max(m_maxX, std::max(x0, x1));
+    if (y0 < y1) {
+        m_edges.push_back({x0, y0, x1, y1, 1});
+        m_minY = std::min(m_minY, y0);
+        m_maxY = std::max(m_maxY, y1);
+    } else {
+        m_edges.push_back({x1, y1, x0, y0, -1});
+        m_minY = std::min(m_minY, y1);
+        m_maxY = std::max(m_maxY, y0);
+    }
+}
+
+void Rasterizer::Finish(FillRule rule, Edges edges, RowSink& sink) {
+    if (m_edges.empty())
+        return;
+    const bool sweep = edges == Edges::Smooth && !m_simple;
+    if (sweep) {
+        std::sort(m_edges.begin(), m_edges.end(), [](const Edge& a, const Edge& b) { return a.y0 < b.y0; });
+        m_active.clear();
+        m_next = 0;
+    }
+    m_left = std::max(m_clip.left, PixelOf(m_minX));
+    m_columns = std::min(m_clip.right, std::max(m_left, PixelOf(m_maxX)) + 1) - m_left;
+    m_stride = (m_columns + kBlock) / kBlock * kBlock;  // a cell more, for the change behind the last pixel
+    m_top = std::max(m_clip.top, PixelOf(m_minY));
+    const int end = std::min(m_clip.bottom, PixelOf(m_maxY + kUnit - 1));
+    while (m_top < end && m_columns > 0) {
+        m_words = (m_stride / kBlock + 63) / 64;
+        m_bottom = std::min(end, m_top + std::max(1, kBandCells / m_stride));
+        const size_t rows = static_cast<size_t>(m_bottom - m_top);
+        if (m_cells.size() < rows * m_stride)
+            m_cells.resize(rows * m_stride);
+        if (m_touched.size() < rows * m_words)
+            m_touched.resize(rows * m_words);
+        if (m_coverage.size() < static_cast<size_t>(m_stride))
+            m_coverage.resize(m_stride);
+        if (sweep) {
+            SweepBand(rule);
+        } else {
+            for (const Edge& edge : m_edges) {
+                if (edges == Edges::Smooth)
+                    AddSmooth(edge);
+                else
+                    AddSharp(edge);
+            }
+        }
+        for (int row = m_top; row < m_bottom; ++row)
+            EmitRow(row, edges == Edges::Sharp && rule == FillRule::Alternate, sink);
+        m_top = m_bottom;
+    }
+    m_edges.clear();
+}
+
+void Rasterizer::Mark(int row, int first, int last) {
+    uint64_t* words = &m_touched[static_cast<size_t>(row - m_top) * m_words];
+    for (int block = first / kBlock; block <= last / kBlock; ++block)
+        words[block / 64] |= uint64_t{1} << (block % 64);
+}
+
+// Adds the area to the right of a line within one row, heights 0 to kUnit from the row's top.
+void Rasterizer::Cover(int row, int x0, int y0, int x1, int y1, int direction) {
+    // From left to right, whichever way the line goes down.
+    if (x0 > x1)
+        std::swap(x0, x1);
+    x0 -= m_left * kUnit;
+    x1 -= m_left * kUnit;
+    int* cells = &m_cells[static_cast<size_t>(row - m_top) * m_stride];
+    const int height = (y1 - y0) * direction;
+    const auto add = [cells](int cell, int high, int inset) {
+        const int area = high * inset;
+        cells[cell] += high * (2 * kUnit) - area;
+        cells[cell + 1] += area;
+    };
+    if (x1 <= 0) {
+        add(0, height, 0);
+        Mark(row, 0, 0);
+        return;
+    }
+    int cell = PixelOf(x0);
+    const int last = PixelOf(x1);
+    if (cell >= m_columns)
+        return;
+    if (cell == last) {
+        add(cell, height, x0 + x1 - 2 * cell * kUnit);
+        Mark(row, cell, cell + 1);
+        return;
+    }
+    const int64_t slope = height * kOne / (x1 - x0);
+    const auto reached = [&](int x) { return static_cast<int>(slope * (x - x0) / kOne); };
+    int done = 0;
+    int entry = x0 - cell * kUnit;
+    if (cell < 0) {
+        done = reached(0);
+        add(0, done, 0);
+        cell = entry = 0;
+    }
+    const int end = std::min(last, m_columns);
+    Mark(row, cell, std::min(last + 1, m_columns));
+    for (; cell < end; ++cell) {
+        const int now = reached((cell + 1) * kUnit);
+        add(cell, now - done, entry + kUnit);
+        done = now;
+        entry = 0;
+    }
+    if (last < m_columns)
+        add(last, height - done, x1 - last * kUnit);
+}
+
+void Rasterizer::AddSmooth(const Edge& edge) {
+    const int top = std::max(edge.y0, m_top * kUnit), bottom = std::min(edge.y1, m_bottom * kUnit);
+    if (top >= bottom)
+        return;
+    int row = PixelOf(top);
+    if (edge.y1 <= (row + 1) * kUnit && edge.y0 == top) {
+        Cover(row, edge.x0, edge.y0 - row * kUnit, edge.x1, edge.y1 - row * kUnit, edge.direction);
+        return;
+    }
+    const int64_t slope = (edge.x1 - edge.x0) * kOne / (edge.y1 - edge.y0);
+    const auto at = [&](int y) {
+        return static_cast<int>((edge.x0 * kOne + kOne / 2 + slope * (y - edge.y0)) >> 32);
+    };
+    int x = top == edge.y0 ? edge.x0 : at(top);
+    for (int y = top; y < bottom; ++row) {
+        const int next = std::min(bottom, (row + 1) * kUnit);
+        const int nextX = next == edge.y1 ? edge.x1 : at(next);
+        Cover(row, x, y - row * kUnit, nextX, next - row * kUnit, edge.direction);
+        x = nextX;
+        y = next;
+    }
+}
+
+void Rasterizer::AddSharp(const Edge& edge) {
+    constexpr int half = kUnit / 2;
+    const int first = std::max(m_top, PixelOf(edge.y0 + half - 1));
+    const int end = std::min(m_bottom, PixelOf(edge.y1 + half - 1));
+    if (first >= end)
+        return;
+    // Rounded down, so that a centre right on the edge stays on its right.
+    const int64_t slope = FloorDivide((edge.x1 - edge.x0) * kOne, int64_t{edge.y1 - edge.y0});
+    const int64_t start = edge.x0 * kOne + (kUnit - half) * kOne - 1;
+    for (int row = first; row < end; ++row) {
+        const int64_t position = start + slope * (row * kUnit + half - edge.y0);
+        const int cell = std::max(0, static_cast<int>(position >> 40) - m_left);
+        if (cell >= m_columns)
+            continue;
+        m_cells[static_cast<size_t>(row - m_top) * m_stride + cell] += edge.direction * kWhole;
+        Mark(row, cell, cell);
+    }
+}
+
+// Where figures overlap areas do not add up. Going down strip by strip, only those edges count that lead
+// from outside to inside or back.
+void Rasterizer::SweepBand(FillRule rule) {
+    for (int row = m_top; row < m_bottom; ++row) {
+        const int top = row * kUnit, bottom = top + kUnit;
+        std::erase_if(m_active, [&](size_t edge) { return m_edges[edge].y1 <= top; });
+        for (; m_next < m_edges.size() && m_edges[m_next].y0 < bottom; ++m_next)
+            m_active.push_back(m_next);
+        if (!m_active.empty())
+            SweepRow(row, rule);
+    }
+}
+
+void Rasterizer::SweepRow(int row, FillRule rule) {
+    const int top = row * kUnit, bottom = top + kUnit;
+    const int least = m_active.size() > kManyEdges ? kUnit / 16 : 1;
+    m_heights.assign({top, bottom});
+    for (const size_t active : m_active) {
+        for (const int y : {m_edges[active].y0, m_edges[active].y1}) {
+            if (y > top && y < bottom)
+                m_heights.push_back(y - (y - top) % least);
+        }
+    }
+    std::sort(m_heights.begin(), m_heights.end());
+    m_heights.erase(std::unique(m_heights.begin(), m_heights.end()), m_heights.end());
+    for (size_t i = 0; i + 1 < m_heights.size(); ++i)
+        SweepStrip(row, m_heights[i], m_heights[i + 1], least, rule);
+}
+
+void Rasterizer::SweepStrip(int row, int top, int bottom, int least, FillRule rule) {
+    m_pieces.clear();
+    for (const size_t active : m_active) {
+        const Edge& edge = m_edges[active];
+        if (2 * edge.y0 <= top + bottom && 2 * edge.y1 > top + bottom)
+            m_pieces.push_back({At(edge, top), At(edge, bottom), edge.direction});
+    }
+    std::sort(m_pieces.begin(), m_pieces.end(),
+              [](const Piece& a, const Piece& b) { return a.top + a.bottom < b.top + b.bottom; });
+    if (bottom - top > least) {
+        for (size_t i = 0; i + 1 < m_pieces.size(); ++i) {
+            const int above = m_pieces[i + 1].top - m_pieces[i].top;
+            const int below = m_pieces[i + 1].bottom - m_pieces[i].bottom;
+            if (above >= 0 && below >= 0)
+                continue;
+            // They cross in this strip: once more, above and below that.
+            const int height = static_cast<int>(static_cast<int64_t>(bottom - top) * std::abs(above) /
+                                                (std::abs(above) + std::abs(below)));
+            const int middle =
+                top + std::clamp(height / least * least, least, std::max(least, bottom - top - least));
+            if (middle >= bottom)
+                break;
+            SweepStrip(row, top, middle, least, rule);
+            SweepStrip(row, middle, bottom, least, rule);
+            return;
+        }
+    }
+    int winding = 0;
+    for (const Piece& piece : m_pieces) {
+        const bool before = Inside(winding, rule);
+        winding += piece.direction;
+        const bool after = Inside(winding, rule);
+        if (before != after)
+            Cover(row, piece.top, top - row * kUnit, piece.bottom, bottom - row * kUnit, after ? 1 : -1);
+    }
+}
+
+void Rasterizer::EmitRow(int row, bool alternate, RowSink& sink) {
+    uint64_t* words = &m_touched[static_cast<size_t>(row - m_top) * m_words];
+    int* cells = &m_cells[static_cast<size_t>(row - m_top) * m_stride];
+    const auto convert = [alternate](int cell) -> uint8_t {
+        return alternate ? ((cell / kWhole) & 1 ? 255 : 0) : Smooth(cell);
+    };
+    m_runs.clear();
+    int sum = 0;
+    int at = 0;  // the first cell not yet handled
+    const auto even = [&](int end) {
+        const uint8_t value = end > at ? convert(sum) : 0;
+        if (value != 0)
+            m_runs.push_back({m_left + at, end - at, nullptr, value});
+    };
+    for (int word = 0; word < m_words; ++word) {
+        for (uint64_t bits = words[word]; bits != 0;) {
+            const int skip = std::countr_zero(bits);
+            const int blocks = std::countr_one(bits >> skip);
+            bits = skip + blocks < 64 ? bits >> (skip + blocks) << (skip + blocks) : 0;
+            const int first = (word * 64 + skip) * kBlock, end = first + blocks * kBlock;
+            even(first);
+            for (int i = first; i < end; ++i) {
+                sum += cells[i];
+                cells[i] = 0;
+                m_coverage[i] = convert(sum);
+            }
+            m_runs.push_back({m_left + first, end - first, &m_coverage[first], 255});
+            at = end;
+        }
+        words[word] = 0;
+    }
+    // Edges to the right of the clip are missing: what they would end goes on to there.
+    if (m_left + at < m_clip.right)
+        even(m_clip.right - m_left);
+    if (!m_runs.empty()) {
+        Run& last = m_runs.back();
+        last.length = std::min(last.length, m_clip.right - last.x);
+        if (last.length <= 0)
+            m_runs.pop_back();
+    }
+    if (!m_runs.empty())
+        sink.Row(row, m_runs);
+}
+
+}  // namespace raster
