@@ -6,7 +6,7 @@
 namespace raster {
 
 /// How far, in pixels, a chain of lines may be from its curve: 6 of 255 along an edge in the worst place.
-inline constexpr double kTolerance = 0.02;
+inline constexpr double kTolerance = 1.0 / 64;
 
 /// Chains of straight lines.
 struct Chains {
@@ -35,9 +35,9 @@ struct Chains {
 };
 
 /// Adds the figures of `path`, mapped by `matrix`, to `out`. No line is farther than `tolerance` (units after
-/// the mapping) from its curve, except where a curve is a million times longer than that. Where `clip` is
-/// given, what lies wholly beside it may be cut short without changing a fill inside it. Points that are not
-/// finite are left out.
+/// the mapping) from its curve as long as a curve does not need more than 2,000 lines. Where `clip` is given
+/// it may have a million times as many; what lies wholly beside the clip is cut short, which changes nothing
+/// of a fill inside it. Points that are not finite are left out.
 void Flatten(const Path& path, const Matrix& matrix, double tolerance, const Rect* clip, Chains& out);
 
 }  // namespace raster

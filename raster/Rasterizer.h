@@ -21,6 +21,9 @@ struct Run {
     uint8_t value = 255;
 };
 
+/// Whether a closed chain (pixels) turns one way only and once, so that no point is inside twice.
+bool IsConvex(std::span<const Chains::Vertex> chain);
+
 /// Takes the rows of a shape, downwards. A row without runs is left out; runs are in order and apart.
 class RowSink {
 public:

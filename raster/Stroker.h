@@ -5,7 +5,8 @@
 
 namespace raster {
 
-/// Where two lines meet. Beyond the miter limit `Miter` is cut off at the limit and `MiterOrBevel` is a bevel.
+/// Where two lines meet. Beyond the miter limit `Miter` is cut off at the limit and `MiterOrBevel` is a
+/// bevel.
 enum class Join { Miter, Bevel, Round, MiterOrBevel };
 
 /// Where a line ends. All but `Flat` go half the width beyond the end.
@@ -34,8 +35,8 @@ struct Pen {
 class Stroker {
 public:
     /// The outline of `path`, stroked with `pen` and mapped by `matrix`, is what Outline() then has; to be
-    /// filled by FillRule::Winding. A line narrower than a pixel is a pixel wide. Dashes beside `clip` (pixels)
-    /// may be left out.
+    /// filled by FillRule::Winding. A line narrower than a pixel is a pixel wide. Dashes beside `clip`
+    /// (pixels) may be left out.
     void Stroke(const Path& path, const Pen& pen, const Matrix& matrix, const Rect& clip);
 
     const Chains& Outline() const { return m_outline; }
@@ -43,46 +44,55 @@ public:
     bool Apart() const { return m_apart; }
 
 private:
-    struct Corner {
-        Point at;
-        bool smooth;
-    };
     struct Line {
         Point direction;  // of length 1
         double length;
     };
+    // A chain without lines of no length; closed ones have as many lines as corners.
+    struct Spine {
+        std::vector<Chains::Vertex> corners;
+        std::vector<Line> lines;
+        bool closed = false;
+        Point first, last;  // directions at the ends of an open one
 
-    void StrokeChain(std::span<const Chains::Vertex> chain, bool closed, const Pen& pen);
-    void Dash(const Pen& pen, bool closed);
-    void DashLine(const Pen& pen, size_t index);
-    void Load(std::span<const Chains::Vertex> chain, bool closed);
-    void FindLines(bool closed);
-    void Open(Cap start, Cap end);
-    void Closed(Alignment alignment);
-    void Dot(Point at, Cap start, Cap end);
-    void Side(double offset, bool reversed, bool closed);
-    void AddJoin(Point at, const Line& before, const Line& after, double offset, bool smooth, bool fits);
+        Point Tangent(size_t line, double part) const;
+        void Load(std::span<const Chains::Vertex> chain, bool isClosed);
+        void Clear();
+        void Add(const Chains::Vertex& corner);
+    };
+
+    void StrokeChain(const Pen& pen);
+    void Dash(const Pen& pen, double total);
+    void EndDash(Cap start, Cap end);
+    bool Visible(Point from, Point to, double& first, double& last) const;
+    void StrokeOpen(const Spine& spine, Cap start, Cap end);
+    void StrokeClosed();
+    void StrokeDot(Point at, Cap start, Cap end);
+
+    void Walk(const Spine& spine, double offset, bool forwards);
+    void AddCorner(const Chains::Vertex& corner, const Line& before, const Line& after, double offset);
+    void AddOuter(const Chains::Vertex& corner, Point before, Point after, double offset);
     void AddCap(Point at, Point outward, Cap cap);
-    void AddArc(Point centre, Point from, Point to, double radius, double turn);
-
+    void AddArc(Point centre, Point from, double turn);
     void BeginOutline() { m_outline.chains.push_back({m_outline.vertices.size(), 0, true}); }
-    void Add(Point at) { m_outline.vertices.push_back({m_matrix.Map(at), false}); }
     void EndOutline();
+    void Add(Point at) { m_outline.vertices.push_back({m_matrix.Map(at), false}); }
 
     Matrix m_matrix;
     Join m_join = Join::Miter;
     double m_miterLimit = 10;
-    double m_half = 0.5;
+    double m_left = 0.5;  // from the spine to the sides
+    double m_right = 0.5;
     double m_tolerance = kTolerance;
-    Rect m_clip;
+    Rect m_visible;      // pixels
+    bool m_fits = true;  // no line was too short for a corner at its inner side
     bool m_apart = false;
+    double m_patterns = 0;  // dashes made so far
 
     Chains m_flat;
     Chains m_outline;
-    std::vector<Corner> m_corners;
-    std::vector<Line> m_lines;
-    std::vector<Corner> m_whole;
-    std::vector<Line> m_wholeLines;
+    Spine m_spine;
+    Spine m_dash;
 };
 
 }  // namespace raster

@@ -9,6 +9,7 @@ constexpr double kFar = 1e60;
 // A curve that needs more lines is halved first, so that halves beside the clip cost nothing.
 constexpr double kMostLines = 64;
 constexpr int kDeepest = 20;
+constexpr int kDeepestWithoutClip = 5;
 
 struct Curve {
     Point a, b, c, d;
@@ -17,7 +18,10 @@ struct Curve {
 class Flattener {
 public:
     Flattener(double tolerance, const Rect* clip, Chains& out)
-        : m_factor(0.75 / std::max(tolerance, 1e-9)), m_clip(clip), m_out(out) {}
+        : m_factor(0.75 / std::max(tolerance, 1e-9)),
+          m_clip(clip),
+          m_deepest(clip ? kDeepest : kDeepestWithoutClip),
+          m_out(out) {}
 
     void Begin(Point at) {
         m_out.chains.push_back({m_out.vertices.size(), 0, false});
@@ -29,7 +33,7 @@ public:
     // Lines from `a`, which is there, to `d`, with everything between them smooth.
     void AddCurve(const Curve& curve, int depth) {
         const double lines = Lines(curve);
-        if (lines > kMostLines && depth < kDeepest && !Beside(curve)) {
+        if (lines > kMostLines && depth < m_deepest && !Beside(curve)) {
             const Point ab = Middle(curve.a, curve.b), bc = Middle(curve.b, curve.c),
                         cd = Middle(curve.c, curve.d);
             const Point abc = Middle(ab, bc), bcd = Middle(bc, cd), middle = Middle(abc, bcd);
@@ -88,6 +92,7 @@ private:
 
     double m_factor;
     const Rect* m_clip;
+    int m_deepest;
     Chains& m_out;
 };
 

@@ -26,7 +26,7 @@ private:
 
 /// How two pictures differ, in steps of 255.
 struct Difference {
-    double mean = 0;  // over the pixels that are neither empty nor full in both
+    double mean = 0;  // over the pixels that the shape touches
     double largest = 0;
     int x = 0, y = 0;  // where it is largest
 };
@@ -34,7 +34,8 @@ struct Difference {
 /// The parts of the line at height `y` that are inside the chains, by counting edges.
 std::vector<std::pair<double, double>> InsideAt(const Chains& chains, FillRule rule, double y);
 
-/// Compares `drawn` with the area of each pixel inside the chains: 128 lines of every row, each without error.
+/// Compares `drawn` with the area of each pixel inside the chains: 128 lines of every row, each without
+/// error.
 Difference CompareWithTruth(const Coverage& drawn, const Chains& chains, FillRule rule);
 
 /// Numbers that are the same on every machine.

@@ -1,0 +1,170 @@
+// Times single shapes with the renderer and with Cairo, side by side in one run.
+#include "raster/Renderer.h"
+
+#include <cairo.h>
+
+#include <chrono>
+#include <cstdio>
+#include <numbers>
+#include <string>
+
+namespace {
+
+using raster::Matrix;
+using raster::Path;
+using raster::Pen;
+using raster::Point;
+using raster::Rect;
+
+constexpr int kWidth = 640, kHeight = 400, kStride = kWidth * 4;
+
+// Microseconds a call takes; `draw` gets a place that moves over the surface. The best of several rounds
+// counts: whatever else the machine does only adds to the others.
+template <class Draw>
+double Time(Draw draw) {
+    constexpr int calls = 2000, rounds = 9;
+    double best = 1e9;
+    for (int round = 0; round < rounds; ++round) {
+        const auto start = std::chrono::steady_clock::now();
+        for (int i = 0; i < calls; ++i)
+            draw(10 + i * 37 % 550, 20 + i * 53 % 320);
+        const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
+        best = std::min(best, time.count() / calls);
+    }
+    return best;
+}
+
+void Print(const char* name, double ours, double cairo) {
+    std::printf("| %-44s | %7.2f | %7.2f | %5.2f |\n", name, ours, cairo, ours / cairo);
+}
+
+// Letters of straight and curved strokes, about 9 pixels high.
+class Letters final : public raster::GlyphSource {
+public:
+    bool Outline(uint32_t glyph, Path& out) override {
+        const double wide = 4 + glyph % 3;
+        out.AddEllipse({0.5, -7.5, wide + 1, 0.2});
+        out.AddEllipse({1.6, -6.4, wide - 0.1, -0.9});
+        out.AddRectangle({wide, -9.0, wide + 1.1, 0});
+        return true;
+    }
+};
+
+class Bench {
+public:
+    Bench()
+        : m_pixels(static_cast<size_t>(kWidth) * kHeight, 0xFF203040),
+          m_bytes(reinterpret_cast<uint8_t*>(m_pixels.data())),
+          m_renderer({m_bytes, kStride, kWidth, kHeight, raster::Format::Premultiplied32}),
+          m_surface(
+              cairo_image_surface_create_for_data(m_bytes, CAIRO_FORMAT_ARGB32, kWidth, kHeight, kStride)),
+          m_cairo(cairo_create(m_surface)) {
+        m_renderer.Style().edges = raster::Edges::Smooth;
+        cairo_set_antialias(m_cairo, CAIRO_ANTIALIAS_GOOD);
+    }
+    ~Bench() {
+        cairo_destroy(m_cairo);
+        cairo_surface_destroy(m_surface);
+    }
+    Bench(const Bench&) = delete;
+    Bench& operator=(const Bench&) = delete;
+
+    void AlphaFill() {
+        const raster::SolidPaint paint(0x8040C080);
+        cairo_set_source_rgba(m_cairo, 0.25, 0.75, 0.5, 0.5);
+        Print("alpha fill 60x40", Time([&](int x, int y) {
+                  m_renderer.FillRectangle({x + 0.5, y + 0.5, x + 60.5, y + 40.5}, {}, paint);
+              }),
+              Time([&](int x, int y) {
+                  cairo_rectangle(m_cairo, x, y, 60, 40);
+                  cairo_fill(m_cairo);
+              }));
+    }
+
+    void EllipseOutline() {
+        const raster::SolidPaint paint(0xFF40C080);
+        Pen pen;
+        pen.width = 2;
+        cairo_set_source_rgb(m_cairo, 0.25, 0.75, 0.5);
+        cairo_set_line_width(m_cairo, 2);
+        Path path;
+        Print("smooth ellipse outline 60x40, 2 wide", Time([&](int x, int y) {
+                  path.Clear();
+                  path.AddEllipse({1.0 * x, 1.0 * y, x + 60.0, y + 40.0});
+                  m_renderer.Stroke(path, pen, {}, paint);
+              }),
+              Time([&](int x, int y) {
+                  cairo_save(m_cairo);
+                  cairo_translate(m_cairo, x + 30, y + 20);
+                  cairo_scale(m_cairo, 30, 20);
+                  cairo_arc(m_cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
+                  cairo_restore(m_cairo);
+                  cairo_stroke(m_cairo);
+              }));
+    }
+
+    void Line() {
+        const raster::SolidPaint paint(0xFF40C080);
+        Pen pen;
+        pen.width = 1.5;
+        cairo_set_source_rgb(m_cairo, 0.25, 0.75, 0.5);
+        cairo_set_line_width(m_cairo, 1.5);
+        Print("smooth line 60 long", Time([&](int x, int y) {
+                  m_renderer.StrokeLine({1.0 * x, 1.0 * y}, {x + 52.0, y + 30.0}, pen, {}, paint);
+              }),
+              Time([&](int x, int y) {
+                  cairo_move_to(m_cairo, x, y);
+                  cairo_line_to(m_cairo, x + 52, y + 30);
+                  cairo_stroke(m_cairo);
+              }));
+    }
+
+    void Text() {
+        const raster::SolidPaint paint(0xFF40C080);
+        raster::GlyphCache cache(1 << 20);
+        Letters letters;
+        cairo_set_source_rgb(m_cairo, 0.25, 0.75, 0.5);
+        cairo_select_font_face(m_cairo, "Liberation Sans", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
+        cairo_set_font_size(m_cairo, 12);
+        cairo_scaled_font_t* font = cairo_get_scaled_font(m_cairo);
+        cairo_glyph_t* glyphs = nullptr;
+        int count = 0;
+        cairo_scaled_font_text_to_glyphs(font, 0, 0, "Temperature", 11, &glyphs, &count, nullptr, nullptr,
+                                         nullptr);
+        std::vector<cairo_glyph_t> moved(glyphs, glyphs + count);
+        Print("11 letters, cached", Time([&](int x, int y) {
+                  for (uint32_t i = 0; i < 11; ++i)
+                      m_renderer.DrawMask(cache.Get({1, i, i % 4}, letters), x + 7 * static_cast<int>(i), y,
+                                          paint);
+              }),
+              Time([&](int x, int y) {
+                  for (int i = 0; i < count; ++i) {
+                      moved[i] = glyphs[i];
+                      moved[i].x += x;
+                      moved[i].y += y;
+                  }
+                  cairo_show_glyphs(m_cairo, moved.data(), count);
+              }));
+        cairo_glyph_free(glyphs);
+    }
+
+private:
+    std::vector<uint32_t> m_pixels;
+    uint8_t* m_bytes;
+    raster::Renderer m_renderer;
+    cairo_surface_t* m_surface;
+    cairo_t* m_cairo;
+};
+
+}  // namespace
+
+int main() {
+    Bench bench;
+    std::printf("| %-44s | %7s | %7s | %5s |\n|---|---|---|---|\n", "microseconds a call", "ours", "Cairo",
+                "ratio");
+    bench.AlphaFill();
+    bench.EllipseOutline();
+    bench.Line();
+    bench.Text();
+    return 0;
+}

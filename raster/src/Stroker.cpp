@@ -1,0 +1,430 @@
+#include "raster/Stroker.h"
+
+#include "raster/Rasterizer.h"
+
+#include <numbers>
+
+namespace raster {
+
+namespace {
+
+constexpr double kPi = std::numbers::pi;
+// Dashes finer than this many pixels are a line.
+constexpr double kFinestPattern = 0.1;
+constexpr double kMostPatterns = 3e5;  // in one stroke
+constexpr double kFinestTurn = kPi / 1000;
+constexpr double kWidest = 1e9;
+
+Point Left(Point direction) {
+    return {direction.y, -direction.x};
+}
+
+Point Turned(Point vector, double angle) {
+    return Matrix::Rotation(angle).MapVector(vector);
+}
+
+// The dashes and gaps of a pen with a place in them.
+class Pattern {
+public:
+    Pattern(const Pen& pen, double unit) : m_dashes(pen.dashes), m_unit(unit) {}
+
+    /// The length of the whole pattern; 0 when it does not make dashes.
+    double Total() const {
+        double total = 0;
+        for (size_t i = 0; i < Count(); ++i)
+            total += At(i);
+        return std::isfinite(total) ? total : 0;
+    }
+
+    void Seek(double at, double total) {
+        double rest = std::fmod(at, total);
+        if (rest < 0)
+            rest += total;
+        for (m_index = 0; m_index + 1 < Count() && rest >= At(m_index); ++m_index)
+            rest -= At(m_index);
+        m_rest = std::max(0.0, At(m_index) - rest);
+    }
+    bool InDash() const { return m_index % 2 == 0; }
+    double Rest() const { return m_rest; }
+    void Use(double length) { m_rest -= length; }
+    void Next() {
+        m_index = (m_index + 1) % Count();
+        m_rest = At(m_index);
+    }
+
+private:
+    // With an odd number dashes and gaps change places the second time.
+    size_t Count() const { return m_dashes.size() % 2 == 0 ? m_dashes.size() : 2 * m_dashes.size(); }
+    double At(size_t index) const {
+        const double length = m_dashes[index % m_dashes.size()];
+        return length > 0 ? length * m_unit : 0;
+    }
+
+    const std::vector<double>& m_dashes;
+    double m_unit;
+    size_t m_index = 0;
+    double m_rest = 0;
+};
+
+}  // namespace
+
+void Stroker::Spine::Clear() {
+    corners.clear();
+    lines.clear();
+}
+
+void Stroker::Spine::Add(const Chains::Vertex& corner) {
+    if (!corners.empty()) {
+        const Point way = corner.at - corners.back().at;
+        const double length = Length(way);
+        if (!(length > 1e-9))
+            return;
+        lines.push_back({way * (1 / length), length});
+    }
+    corners.push_back(corner);
+}
+
+void Stroker::Spine::Load(std::span<const Chains::Vertex> chain, bool isClosed) {
+    Clear();
+    for (const Chains::Vertex& vertex : chain)
+        Add(vertex);
+    closed = isClosed && corners.size() > 1;
+    if (!closed)
+        return;
+    // Back to the first corner; when the last one lies on it, that one is too many.
+    Add(Chains::Vertex(corners.front()));
+    corners.pop_back();
+    closed = corners.size() > 1;
+}
+
+// The direction of the curve that the lines stand for, at a part of a line's length. Beyond a smooth corner
+// the direction goes on changing as it did; the factor is that of an arc flattened as Flatten does it.
+Point Stroker::Spine::Tangent(size_t line, double part) const {
+    const size_t next = line + 1 < corners.size() ? line + 1 : 0;
+    const Point along = lines[line].direction;
+    const bool bendsBefore = corners[line].smooth && line > 0;
+    const bool bendsAfter = corners[next].smooth && line + 1 < lines.size();
+    if (!bendsBefore && !bendsAfter)
+        return along;
+    const auto unit = [&](Point direction) {
+        const double length = Length(direction);
+        return length > 0 ? direction * (1 / length) : along;
+    };
+    Point first = bendsBefore ? unit(lines[line - 1].direction + along) : along;
+    Point last = bendsAfter ? unit(along + lines[line + 1].direction) : along;
+    if (!bendsBefore)
+        first = along + (along - last) * 0.77;
+    if (!bendsAfter)
+        last = along + (along - first) * 0.77;
+    return unit(first + (last - first) * part);
+}
+
+void Stroker::Stroke(const Path& path, const Pen& pen, const Matrix& matrix, const Rect& clip) {
+    m_outline.Clear();
+    m_flat.Clear();
+    m_apart = false;
+    m_fits = true;
+    m_patterns = 0;
+    const double scale = matrix.LargestScale();
+    if (!matrix.IsFinite() || !std::isfinite(scale) || !std::isfinite(pen.width))
+        return;
+    double width = std::min(pen.width, kWidest);
+    if (width * scale < 1) {
+        // A pixel wide, whatever the matrix does to the width.
+        m_matrix = {};
+        width = 1;
+        m_tolerance = kTolerance;
+        Flatten(path, matrix, kTolerance, nullptr, m_flat);
+    } else {
+        m_matrix = matrix;
+        m_tolerance = kTolerance / scale;
+        Flatten(path, {}, m_tolerance, nullptr, m_flat);
+    }
+    m_join = pen.join;
+    m_miterLimit = pen.miterLimit >= 1 ? std::min(pen.miterLimit, 1e6) : 1;
+    const double reach = width * std::max(scale, 1.0) * (1 + std::min(m_miterLimit, 100.0) / 2) + 2;
+    m_visible = {clip.left - reach, clip.top - reach, clip.right + reach, clip.bottom + reach};
+    for (const Chains::Chain& chain : m_flat.chains) {
+        m_spine.Load(m_flat.Of(chain), chain.closed);
+        m_left = m_right = width / 2;
+        if (pen.alignment == Alignment::Inset && m_spine.closed) {
+            double area = 0;
+            for (size_t i = 0; i < m_spine.corners.size(); ++i)
+                area += Cross(m_spine.corners[i].at - m_spine.corners[0].at,
+                              m_spine.lines[i].direction * m_spine.lines[i].length);
+            m_left = area > 0 ? 0 : width;
+            m_right = area > 0 ? width : 0;
+        }
+        StrokeChain(pen);
+    }
+    const std::span<const Chains::Chain> chains = m_outline.chains;
+    m_apart = m_fits && m_flat.chains.size() == 1 && m_flat.chains[0].closed && chains.size() == 2 &&
+              IsConvex(m_outline.Of(chains[0])) && IsConvex(m_outline.Of(chains[1]));
+}
+
+void Stroker::StrokeChain(const Pen& pen) {
+    if (m_spine.corners.empty())
+        return;
+    const double unit = m_left + m_right;
+    if (!pen.dashes.empty() && !m_spine.lines.empty()) {
+        const double total = Pattern(pen, unit).Total();
+        if (total * m_matrix.LargestScale() > kFinestPattern) {
+            Dash(pen, total);
+            return;
+        }
+    }
+    if (m_spine.lines.empty()) {
+        StrokeDot(m_spine.corners[0].at, pen.startCap, pen.endCap);
+    } else if (m_spine.closed) {
+        StrokeClosed();
+    } else {
+        m_spine.first = m_spine.Tangent(0, 0);
+        m_spine.last = m_spine.Tangent(m_spine.lines.size() - 1, 1);
+        StrokeOpen(m_spine, pen.startCap, pen.endCap);
+    }
+}
+
+// The part of a line that may be seen, in parts of its length; false when there is none.
+bool Stroker::Visible(Point from, Point to, double& first, double& last) const {
+    const Point a = m_matrix.Map(from), way = m_matrix.Map(to) - a;
+    first = 0;
+    last = 1;
+    const auto cut = [&](double start, double along, double low, double high) {
+        if (along == 0)
+            return start >= low && start <= high;
+        const auto [in, out] = std::minmax({(low - start) / along, (high - start) / along});
+        first = std::max(first, in);
+        last = std::min(last, out);
+        return true;
+    };
+    return cut(a.x, way.x, m_visible.left, m_visible.right) &&
+           cut(a.y, way.y, m_visible.top, m_visible.bottom) && first < last;
+}
+
+void Stroker::Dash(const Pen& pen, double total) {
+    const bool even = m_left == m_right;
+    const Cap dashCap = even ? pen.dashCap : Cap::Flat;
+    const Cap startCap = m_spine.closed ? dashCap : pen.startCap,
+              endCap = m_spine.closed ? dashCap : pen.endCap;
+    const double offset = std::isfinite(pen.dashOffset) ? pen.dashOffset * (m_left + m_right) : 0;
+    Pattern pattern(pen, m_left + m_right);
+    m_dash.Clear();
+    m_dash.closed = false;
+    Cap start = startCap;
+    double done = 0;  // length of the lines before this one
+    double sought = -1;
+    const size_t count = m_spine.corners.size();
+    for (size_t i = 0; i < m_spine.lines.size(); ++i) {
+        const Line& line = m_spine.lines[i];
+        const Chains::Vertex& from = m_spine.corners[i];
+        const Chains::Vertex& to = m_spine.corners[i + 1 < count ? i + 1 : 0];
+        double first = 0, last = 0;
+        const bool visible = Visible(from.at, to.at, first, last);
+        if (!visible || first > 0)
+            EndDash(start, dashCap);
+        if (visible) {
+            double at = first * line.length;
+            const double end = last * line.length;
+            // Where there are too many dashes, or numbers too large to tell them apart, there is one.
+            m_patterns += (end - at) / total;
+            const bool dashed = m_patterns < kMostPatterns && at + total > at;
+            if (sought != done + at) {
+                pattern.Seek(offset + done + at, total);
+                start = i == 0 && at == 0 ? startCap : dashCap;
+            }
+            const auto add = [&](double place) {
+                const double part = place / line.length;
+                m_dash.last = m_spine.Tangent(i, part);
+                if (m_dash.corners.empty())
+                    m_dash.first = m_dash.last;
+                m_dash.Add({part < 1 ? from.at + line.direction * place : to.at, part >= 1 && to.smooth});
+            };
+            if (pattern.InDash() && m_dash.corners.empty())
+                add(at);
+            while (dashed && pattern.Rest() <= end - at) {
+                at += pattern.Rest();
+                if (pattern.InDash()) {
+                    add(at);
+                    EndDash(start, dashCap);
+                }
+                pattern.Next();
+                start = dashCap;
+                if (pattern.InDash())
+                    add(at);
+            }
+            pattern.Use(end - at);
+            if (pattern.InDash())
+                add(end);
+            sought = last < 1 ? -1 : done + line.length;
+            if (last < 1)
+                EndDash(start, dashCap);
+        }
+        done += line.length;
+    }
+    if (!m_dash.lines.empty())
+        EndDash(start, endCap);
+    m_dash.Clear();
+}
+
+void Stroker::EndDash(Cap start, Cap end) {
+    if (!m_dash.lines.empty())
+        StrokeOpen(m_dash, start, end);
+    else if (!m_dash.corners.empty())
+        StrokeDot(m_dash.corners[0].at, start, end);
+    m_dash.Clear();
+}
+
+void Stroker::EndOutline() {
+    Chains::Chain& chain = m_outline.chains.back();
+    chain.count = m_outline.vertices.size() - chain.first;
+}
+
+// A line of no length: what the caps make of it.
+void Stroker::StrokeDot(Point at, Cap start, Cap end) {
+    if (start == Cap::Flat && end == Cap::Flat)
+        return;
+    BeginOutline();
+    Add(at + Point{0, -m_left});
+    AddCap(at, {1, 0}, end);
+    Add(at + Point{0, m_right});
+    AddCap(at, {-1, 0}, start);
+    EndOutline();
+}
+
+void Stroker::StrokeOpen(const Spine& spine, Cap start, Cap end) {
+    BeginOutline();
+    Walk(spine, m_left, true);
+    AddCap(spine.corners.back().at, spine.last, end);
+    Walk(spine, m_right, false);
+    AddCap(spine.corners.front().at, spine.first * -1, start);
+    EndOutline();
+}
+
+void Stroker::StrokeClosed() {
+    BeginOutline();
+    Walk(m_spine, m_left, true);
+    EndOutline();
+    BeginOutline();
+    Walk(m_spine, m_right, false);
+    EndOutline();
+}
+
+// The side to the left of the spine, walked along it or back.
+void Stroker::Walk(const Spine& spine, double offset, bool forwards) {
+    const std::vector<Chains::Vertex>& corners = spine.corners;
+    const size_t lines = spine.lines.size();
+    const auto line = [&](size_t i) {
+        if (forwards)
+            return spine.lines[i];
+        const Line& back = spine.lines[lines - 1 - i];
+        return Line{back.direction * -1, back.length};
+    };
+    const auto corner = [&](size_t i) -> const Chains::Vertex& {
+        return corners[forwards ? i : (corners.size() - 1 - i + (spine.closed ? 1 : 0)) % corners.size()];
+    };
+    if (spine.closed) {
+        Line before = line(lines - 1);
+        for (size_t i = 0; i < lines; ++i) {
+            const Line after = line(i);
+            AddCorner(corner(i), before, after, offset);
+            before = after;
+        }
+        return;
+    }
+    Line before = line(0);
+    Add(corner(0).at + Left(forwards ? spine.first : spine.last * -1) * offset);
+    for (size_t i = 1; i < lines; ++i) {
+        const Line after = line(i);
+        AddCorner(corner(i), before, after, offset);
+        before = after;
+    }
+    Add(corner(lines).at + Left(forwards ? spine.last : spine.first * -1) * offset);
+}
+
+void Stroker::AddCorner(const Chains::Vertex& corner, const Line& before, const Line& after, double offset) {
+    if (offset == 0) {
+        Add(corner.at);
+        return;
+    }
+    const double turn = Cross(before.direction, after.direction),
+                 cosine = Dot(before.direction, after.direction);
+    const Point first = Left(before.direction) * offset, second = Left(after.direction) * offset;
+    const double halfCosine = std::sqrt(std::max(0.0, (1 + cosine) / 2));
+    if (offset * (1 - halfCosine) <= m_tolerance && cosine > 0) {
+        // Hardly a corner. Two thirds of the way to the miter keep the area within a curve.
+        const double reach = (1 + (1 / halfCosine - 1) * (2.0 / 3)) / (2 * halfCosine);
+        const double trim = offset * std::abs(turn) / (1 + cosine);
+        if (turn >= 0 || trim < std::min(before.length, after.length) / 2) {
+            Add(corner.at + (first + second) * reach);
+            return;
+        }
+    }
+    if (turn > 0 || (turn == 0 && cosine < 0)) {
+        AddOuter(corner, before.direction, after.direction, offset);
+        return;
+    }
+    // The inner side: where both sides meet, when both lines are long enough; else by way of the corner,
+    // which leaves a second layer on what is covered already.
+    if (cosine > -0.99 && offset * -turn / (1 + cosine) < std::min(before.length, after.length) / 2) {
+        Add(corner.at + (first + second) * (1 / (1 + cosine)));
+        return;
+    }
+    m_fits = false;
+    Add(corner.at + first);
+    Add(corner.at);
+    Add(corner.at + second);
+}
+
+void Stroker::AddOuter(const Chains::Vertex& corner, Point before, Point after, double offset) {
+    const double cosine = Dot(before, after);
+    const Point first = Left(before) * offset, second = Left(after) * offset;
+    const Join join = corner.smooth ? Join::Round : m_join;
+    Add(corner.at + first);
+    if (join == Join::Round) {
+        const double turn = std::atan2(Cross(before, after), cosine);
+        AddArc(corner.at, first, turn > 0 ? turn : kPi);
+    } else if (join != Join::Bevel && cosine > -0.99999) {
+        const double halfCosine = std::sqrt((1 + cosine) / 2), halfSine = std::sqrt((1 - cosine) / 2);
+        if (1 <= m_miterLimit * halfCosine) {
+            Add(corner.at + (first + second) * (1 / (1 + cosine)));
+        } else if (join == Join::Miter) {
+            const double reach = offset * (m_miterLimit - halfCosine) / halfSine;
+            Add(corner.at + first + before * reach);
+            Add(corner.at + second - after * reach);
+        }
+    }
+    Add(corner.at + second);
+}
+
+void Stroker::AddCap(Point at, Point outward, Cap cap) {
+    const Point side = Left(outward) * m_left;
+    switch (cap) {
+        case Cap::Flat:
+            break;
+        case Cap::Square:
+            Add(at + side + outward * m_left);
+            Add(at - side + outward * m_left);
+            break;
+        case Cap::Round:
+            AddArc(at, side, kPi);
+            break;
+        case Cap::Triangle:
+            Add(at + outward * m_left);
+            break;
+    }
+}
+
+// The points between the ends of an arc.
+void Stroker::AddArc(Point centre, Point from, double turn) {
+    const double radius = Length(from);
+    if (!(radius > 0))
+        return;
+    const double step = std::max(std::sqrt(8 * m_tolerance / radius), kFinestTurn);
+    const int pieces = static_cast<int>(std::max(std::ceil(turn / step), 1.0));
+    // As in a flattened curve, a little outside.
+    const Point start = from * (1 + 2.0 / 3 * (1 - std::cos(turn / pieces / 2)));
+    for (int i = 1; i < pieces; ++i)
+        Add(centre + Turned(start, turn * i / pieces));
+}
+
+}  // namespace raster
