@@ -50,6 +50,7 @@ private:
     void DrawOnPixels(uint32_t* to, int y, int x, int length, const uint8_t* coverage, uint8_t value);
     void DrawFrame(const Box& outer, const Box& inner);
     void FrameRow(const Box& outer, const Box& inner, int outerHeight, int innerHeight);
+    void DrawRows(int y, int end);
     bool ToBox(const Rect& rect, const Matrix& matrix, Box& box) const;
     void Begin(const Paint& paint);
     // The surface's pixels are what the loops work on.

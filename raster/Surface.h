@@ -31,7 +31,7 @@ struct Surface {
 
     IntRect Bounds() const { return {0, 0, width, height}; }
     uint8_t* At(int x, int y) const {
-        return pixels + y * stride + ptrdiff_t{x} * (format == Format::Opaque24 ? 3 : 4);
+        return &pixels[y * stride + ptrdiff_t{x} * (format == Format::Opaque24 ? 3 : 4)];
     }
 };
 

@@ -62,15 +62,17 @@ struct Loops {
     }
 };
 
-// What the wide loops leave over goes to the narrow ones.
-template <class Wide, class Narrow>
-struct Both {
+// What wider loops leave over goes to the narrower ones.
+template <class Wide, class Middle, class Narrow>
+struct InTurn {
     static void BlendColor(uint32_t* to, int count, uint32_t color) {
-        const int done = Loops<Wide>::BlendColor(to, count, color);
+        int done = Loops<Wide>::BlendColor(to, count, color);
+        done += Loops<Middle>::BlendColor(to + done, count - done, color);
         Loops<Narrow>::BlendColor(to + done, count - done, color);
     }
     static void BlendColorMask(uint32_t* to, int count, uint32_t color, const uint8_t* mask) {
-        const int done = Loops<Wide>::BlendColorMask(to, count, color, mask);
+        int done = Loops<Wide>::BlendColorMask(to, count, color, mask);
+        done += Loops<Middle>::BlendColorMask(to + done, count - done, color, mask + done);
         Loops<Narrow>::BlendColorMask(to + done, count - done, color, mask + done);
     }
     static void BlendColorMasks(uint32_t* to, intptr_t stride, int count, int rows, uint32_t color,
@@ -81,15 +83,18 @@ struct Both {
         }
     }
     static void BlendPixels(uint32_t* to, int count, const uint32_t* from) {
-        const int done = Loops<Wide>::BlendPixels(to, count, from);
+        int done = Loops<Wide>::BlendPixels(to, count, from);
+        done += Loops<Middle>::BlendPixels(to + done, count - done, from + done);
         Loops<Narrow>::BlendPixels(to + done, count - done, from + done);
     }
     static void BlendPixelsMask(uint32_t* to, int count, const uint32_t* from, const uint8_t* mask) {
-        const int done = Loops<Wide>::BlendPixelsMask(to, count, from, mask);
+        int done = Loops<Wide>::BlendPixelsMask(to, count, from, mask);
+        done += Loops<Middle>::BlendPixelsMask(to + done, count - done, from + done, mask + done);
         Loops<Narrow>::BlendPixelsMask(to + done, count - done, from + done, mask + done);
     }
     static void CopyPixelsMask(uint32_t* to, int count, const uint32_t* from, const uint8_t* mask) {
-        const int done = Loops<Wide>::CopyPixelsMask(to, count, from, mask);
+        int done = Loops<Wide>::CopyPixelsMask(to, count, from, mask);
+        done += Loops<Middle>::CopyPixelsMask(to + done, count - done, from + done, mask + done);
         Loops<Narrow>::CopyPixelsMask(to + done, count - done, from + done, mask + done);
     }
     static constexpr raster::Kernels kTable = {BlendColor,  BlendColorMask,  BlendColorMasks,
@@ -128,5 +133,49 @@ private:
         return ((low + (low >> 8)) >> 8) | ((high + (high >> 8)) >> 8) << 16;
     }
 };
+
+#if defined(__SSE2__)
+// Four pixels.
+struct FourPixels {
+    using Value = __m128i;
+    static constexpr int kCount = 4;
+
+    static Value Load(const uint32_t* from) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    }
+    static void Store(uint32_t* to, Value v) { _mm_storeu_si128(reinterpret_cast<__m128i*>(to), v); }
+    static Value Fill(uint32_t color) { return _mm_set1_epi32(static_cast<int>(color)); }
+    static int Word(const uint8_t* mask) {
+        int word;
+        __builtin_memcpy(&word, mask, sizeof(word));
+        return word;
+    }
+    static bool Nothing(const uint8_t* mask) { return Word(mask) == 0; }
+    static Value Masks(const uint8_t* mask) {
+        const __m128i bytes = _mm_cvtsi32_si128(Word(mask));
+        const __m128i pairs = _mm_unpacklo_epi8(bytes, bytes);
+        return _mm_unpacklo_epi16(pairs, pairs);
+    }
+    static Value Alphas(Value v) {
+        const __m128i alpha = _mm_srli_epi32(v, 24);
+        const __m128i pairs = _mm_or_si128(alpha, _mm_slli_epi32(alpha, 8));
+        return _mm_or_si128(pairs, _mm_slli_epi32(pairs, 16));
+    }
+    static Value Inverse(Value v) { return _mm_xor_si128(v, _mm_set1_epi8(-1)); }
+    static Value Add(Value a, Value b) { return _mm_adds_epu8(a, b); }
+    static Value Scale(Value v, Value factors) {
+        const __m128i zero = _mm_setzero_si128();
+        return _mm_packus_epi16(Scale16(_mm_unpacklo_epi8(v, zero), _mm_unpacklo_epi8(factors, zero)),
+                                Scale16(_mm_unpackhi_epi8(v, zero), _mm_unpackhi_epi8(factors, zero)));
+    }
+
+private:
+    static __m128i Scale16(__m128i v, __m128i factors) {
+        // Times 257 and the upper half is (product + product / 256) / 256.
+        const __m128i product = _mm_add_epi16(_mm_mullo_epi16(v, factors), _mm_set1_epi16(128));
+        return _mm_mulhi_epu16(product, _mm_set1_epi16(257));
+    }
+};
+#endif
 
 }  // namespace

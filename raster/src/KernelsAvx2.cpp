@@ -46,14 +46,14 @@ private:
     }
     static __m256i Scale16(__m256i v, __m256i factors) {
         const __m256i product = _mm256_add_epi16(_mm256_mullo_epi16(v, factors), _mm256_set1_epi16(128));
-        return _mm256_srli_epi16(_mm256_add_epi16(product, _mm256_srli_epi16(product, 8)), 8);
+        return _mm256_mulhi_epu16(product, _mm256_set1_epi16(257));
     }
 };
 
 }  // namespace
 
 const raster::Kernels* raster::Avx2Kernels() {
-    return __builtin_cpu_supports("avx2") ? &Both<EightPixels, OnePixel>::kTable : nullptr;
+    return __builtin_cpu_supports("avx2") ? &InTurn<EightPixels, FourPixels, OnePixel>::kTable : nullptr;
 }
 
 #else

@@ -16,7 +16,9 @@ std::array<double, 4> Channels(Color color) {
 }
 
 Color FromChannels(const std::array<double, 4>& channels) {
-    const auto byte = [](double value) { return static_cast<uint32_t>(std::clamp(value, 0.0, 255.0) + 0.5); };
+    const auto byte = [](double value) {
+        return static_cast<uint32_t>(std::lrint(std::clamp(value, 0.0, 255.0)));
+    };
     return byte(channels[3]) << 24 | byte(channels[2]) << 16 | byte(channels[1]) << 8 | byte(channels[0]);
 }
 
@@ -79,7 +81,7 @@ void LinearGradient::Row(Point first, int count, uint32_t* out) const {
     const int64_t step = Turns(m_x);
     for (int i = 0; i < count; ++i, place += step) {
         const bool mirrored = m_back && (place >> 32 & 1) != 0;
-        const uint32_t part = static_cast<uint32_t>(place);
+        const auto part = static_cast<uint32_t>(place);
         out[i] = m_ramp.At(mirrored ? ~part : part);
     }
 }
@@ -172,7 +174,7 @@ Color Texture::Pixel(int64_t x, int64_t y) const {
 Color Texture::Bilinear(double x, double y) const {
     const double left = std::floor(x - 0.5), top = std::floor(y - 0.5);
     const double right = x - 0.5 - left, below = y - 0.5 - top;
-    const int64_t column = static_cast<int64_t>(left), row = static_cast<int64_t>(top);
+    const auto column = static_cast<int64_t>(left), row = static_cast<int64_t>(top);
     std::array<double, 4> sum{};
     for (int i = 0; i < 4; ++i) {
         const double weight = (i % 2 != 0 ? right : 1 - right) * (i / 2 != 0 ? below : 1 - below);

@@ -78,11 +78,11 @@ void Path::AddPie(const Rect& bounds, double start, double sweep) {
 }
 
 void Path::AddArc(const Rect& bounds, double start, double sweep) {
-    if (!std::isfinite(start) || !std::isfinite(sweep))
-        return;
-    start = std::fmod(start, 360);
     const double radiusX = bounds.Width() / 2, radiusY = bounds.Height() / 2;
     const Point centre{(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+    if (!IsFinite(centre) || !IsFinite({radiusX, radiusY}) || !IsFinite({start, sweep}))
+        return;
+    start = std::fmod(start, 360);
     const bool whole = std::abs(sweep) >= 360;
     const double from = Parameter(start, radiusX, radiusY);
     const double turn =

@@ -213,7 +213,7 @@ void Rasterizer::Finish(FillRule rule, Edges edges, RowSink& sink) {
     while (m_top < end && m_columns > 0) {
         m_words = (m_stride / kBlock + 63) / 64;
         m_bottom = std::min(end, m_top + std::max(1, kBandCells / m_stride));
-        const size_t rows = static_cast<size_t>(m_bottom - m_top);
+        const auto rows = static_cast<size_t>(m_bottom - m_top);
         if (m_cells.size() < rows * m_stride)
             m_cells.resize(rows * m_stride);
         if (m_touched.size() < rows * m_words)

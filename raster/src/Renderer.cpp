@@ -138,16 +138,36 @@ void Renderer::DrawFrame(const Box& outer, const Box& inner) {
     const IntRect& clip = m_clip.Bounds();
     const int first = std::max(clip.top, out.top >> 8),
               end = std::min(clip.bottom, (out.bottom + kUnit - 1) >> 8);
-    int outerBefore = -1, innerBefore = -1;
-    for (int y = first; y < end; ++y) {
+    for (int y = first; y < end;) {
         const int outerHeight = Part(y, out.top, out.bottom), innerHeight = Part(y, in.top, in.bottom);
-        if (outerHeight != outerBefore || innerHeight != innerBefore)
-            FrameRow(out, in, outerHeight, innerHeight);
-        outerBefore = outerHeight;
-        innerBefore = innerHeight;
-        if (!m_runs.empty())
-            Row(y, m_runs);
+        int next = y + 1;
+        while (next < end && Part(next, out.top, out.bottom) == outerHeight &&
+               Part(next, in.top, in.bottom) == innerHeight)
+            ++next;
+        FrameRow(out, in, outerHeight, innerHeight);
+        DrawRows(y, next);
+        y = next;
     }
+}
+
+// The same runs in each of these rows; one colour goes down run by run.
+void Renderer::DrawRows(int y, int end) {
+    if (m_solid && m_clip.IsRectangle() && IsDirect() && m_settings.mode == Settings::Mode::Over) {
+        for (const Run& run : m_runs) {
+            const Color color = ScaleColor(m_color, run.value);
+            uint8_t* to = m_surface.At(run.x, y);
+            for (int row = y; row < end; ++row, to += m_surface.stride) {
+                auto* pixels = reinterpret_cast<uint32_t*>(to);
+                if (color >> 24 == 255)
+                    std::fill_n(pixels, run.length, color);
+                else
+                    m_kernels.blendColor(pixels, run.length, color);
+            }
+        }
+        return;
+    }
+    for (; y < end && !m_runs.empty(); ++y)
+        Row(y, m_runs);
 }
 
 // Sets m_runs. Only the pixels at the vertical edges differ from those beside them.

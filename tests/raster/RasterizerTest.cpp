@@ -146,8 +146,11 @@ TEST(RasterizerTest, TakesAnyNumber) {
                 return random.Below(2) == 0 ? hostile[random.Below(12)] : random.Between(-9, 50);
             };
             const Point a{number(), number()}, b{number(), number()}, c{number(), number()};
-            if (random.Below(2) == 0)
+            const int kind = random.Below(3);
+            if (kind == 0)
                 path.CurveTo(a, b, c);
+            else if (kind == 1)
+                path.AddArc({a.x, a.y, b.x, b.y}, c.x, c.y);
             else
                 path.LineTo(a);
         }
