@@ -119,6 +119,8 @@ void PathGradient::Row(Point first, int count, uint32_t* out) const {
         // sum at most 1.
         const double partA = Cross(start, b) / area, stepA = b.y / area;
         const double partB = Cross(a, start) / area, stepB = -a.y / area;
+        if (!IsFinite({partA, stepA}) || !IsFinite({partB, stepB}))
+            continue;
         double from = 0, to = count;
         const auto atLeast0 = [&](double value, double step) {
             if (step > 0)
@@ -131,6 +133,8 @@ void PathGradient::Row(Point first, int count, uint32_t* out) const {
         atLeast0(partA, stepA);
         atLeast0(partB, stepB);
         atLeast0(1 - partA - partB, -stepA - stepB);
+        if (!(from < to))
+            continue;
         for (int i = static_cast<int>(from); i < to; ++i) {
             const double shareA = std::max(0.0, partA + stepA * i), shareB = std::max(0.0, partB + stepB * i);
             const double reach = std::min(1.0, shareA + shareB);

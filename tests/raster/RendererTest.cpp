@@ -260,6 +260,9 @@ TEST(PaintTest, PathGradientsGoFromTheirOutlineToTheCentre) {
     EXPECT_LE(Distance(at({(24 + 45) / 2.0, (20 + 9) / 2.0}), 0xFF80FF80), 2);
     EXPECT_LE(Distance(at({(38 + 9) / 2.0, (36 + 31) / 2.0 - 0.01}), 0xFF0000FF), 2);
     EXPECT_EQ(at({50, 20}), 0u);
+    const Point far[] = {{5, 3}, {1e300, 9.1}, {-1e30, 1e30}, {5, 3}};
+    std::vector<uint32_t> row(40);
+    PathGradient(far, colors, {1e9, 3}, 0xFFFFFFFF, {}, Matrix::Scaling(1, 1e-9)).Row({0, 5}, 40, row.data());
 }
 
 TEST(PaintTest, TexturesWrapAndSample) {
