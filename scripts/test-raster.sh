@@ -27,7 +27,7 @@ if [ "${1:-}" = --fuzz ]; then
     echo "Drawing at random for $minutes minutes, seed $seed"
     cd build/raster-fuzz
     mkdir -p corpus
-    exec fuzz/FuzzRaster -seed="$seed" -max_total_time=$((minutes * 60)) -timeout=10 -rss_limit_mb=2048 -max_len=1024 \
+    exec fuzz/FuzzRaster -seed="$seed" -max_total_time=$((minutes * 60)) -timeout=60 -rss_limit_mb=2048 -max_len=1024 \
         -verbosity=0 -print_final_stats=1 corpus
 fi
 
