@@ -25,7 +25,8 @@ public:
     /// 1 when the left top corner of `rect` lies on a segment, within the pen and a tolerance.
     int HitTest(Gdiplus::RectF& rect) override;
 
-    /// As the base's, but only handles of existing points are tried before the body.
+    /// As the base's, but handles without a point are not tried, unless a derived class has a
+    /// `GetHandleCount` of its own.
     int HitTest(Gdiplus::PointF& point, int selected) override;
 
     /// Writes or reads the base and four 16-bit values. The points are not archived.

@@ -25,13 +25,8 @@ CUICoordinate::~CUICoordinate() = default;
 
 void CUICoordinate::Serialize(CArchive& ar) {
     static const CString name(L"Coordinate");
-    static CString discarded = name;  // not looked at: a file with another tag loads just the same
-    if (ar.IsStoring())
-        ar << name;
-    else
-        ar >> discarded;
-    if (discarded.GetLength() != name.GetLength())
-        discarded = name;
+    CString tag = name;  // not looked at when loading: a file with another tag loads just the same
+    ArchiveFields(ar, tag);
     m_text.Serialize(ar);
     m_fill.Serialize(ar);
     m_lineColor.Serialize(ar);

@@ -15,10 +15,12 @@ struct RegionDeleter {
 };
 using RegionHandle = std::unique_ptr<std::remove_pointer_t<HRGN>, RegionDeleter>;
 
-/// A position whose handle was dragged across the opposite edge has a negative size; a region has none.
-CRect Normalized(CRect rect) {
-    rect.NormalizeRect();
-    return rect;
+// The whole units that a region is made of, where nothing is NaN any more. A position whose handle was
+// dragged across the opposite edge has a negative size; a region has none.
+CRect WholeUnits(const Gdiplus::RectF& rect) {
+    CRect whole = RectAtlFromGdi(rect);
+    whole.NormalizeRect();
+    return whole;
 }
 
 // A region takes memory for every line of the ellipse.
@@ -42,12 +44,13 @@ bool Overlap(const CRect& a, const CRect& b) {
 int HitEllipse(Gdiplus::RectF& rect, Gdiplus::RectF position, float lineWidth) {
     const float margin = lineWidth * 0.5f + 1.0f;
     rect.Inflate(margin, margin);
-    const CRect asked = Normalized(RectAtlFromGdi(rect));
-    const CRect bounds = Normalized(RectAtlFromGdi(position));
+    const CRect asked = WholeUnits(rect);
+    const CRect bounds = WholeUnits(position);
     if (!Overlap(asked, bounds))
         return 0;
-    if (std::max(std::fabs(position.Width), std::fabs(position.Height)) > kLargestRegion)
-        return NearestPart(Normalised(rect), Normalised(position)) <= 1.0f;
+    const Gdiplus::RectF area = RectGdiFromAtl(bounds);
+    if (std::max(area.Width, area.Height) > kLargestRegion)
+        return NearestPart(RectGdiFromAtl(asked), area) <= 1.0f;
     const RegionHandle ellipse(::CreateEllipticRgn(bounds.left, bounds.top, bounds.right, bounds.bottom));
     return ellipse && ::RectInRegion(ellipse.get(), &asked);
 }

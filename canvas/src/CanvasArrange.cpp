@@ -14,7 +14,10 @@ namespace {
 constexpr int kWholeObject = 8;
 
 Gdiplus::PointF CentreOf(const CRect& rect) {
-    return PointGdiFromAtl(CPoint(rect.Width() / 2 + rect.left, rect.Height() / 2 + rect.top));
+    const auto middle = [](LONGLONG near_, LONGLONG far_) {
+        return static_cast<float>((far_ - near_) / 2 + near_);
+    };
+    return {middle(rect.left, rect.right), middle(rect.top, rect.bottom)};
 }
 
 }  // namespace

@@ -135,7 +135,7 @@ HCURSOR CUIObjectPoly::GetHandleCursor(int handle) {
 }
 
 // The first handle before the body at a point, or -1. A polyline counts 65537 handles; those beyond its
-// points stand nowhere and are not walked.
+// points stand nowhere and are not walked, unless a derived class counts handles of its own.
 int CUIObjectPoly::HandleAt(const Gdiplus::PointF& point, int body) {
     if (m_bRectMode == 0 && HasOwnHandles()) {
         const auto at = std::ranges::find_if(
@@ -143,8 +143,10 @@ int CUIObjectPoly::HandleAt(const Gdiplus::PointF& point, int body) {
         const auto handle = at - m_points.begin();
         return at != m_points.end() && handle < body ? static_cast<int>(handle) : -1;
     }
-    const int places = m_bRectMode != 0 ? kRectHandles : static_cast<int>(m_points.size());
-    for (int handle = 0; handle < std::min(places, body); ++handle)
+    int places = body;
+    if (body == m_nMaxPoints)
+        places = std::min(m_bRectMode != 0 ? kRectHandles : static_cast<int>(m_points.size()), body);
+    for (int handle = 0; handle < places; ++handle)
         if (ContainsPoint(GetHandleRect(handle), point))
             return handle;
     return -1;

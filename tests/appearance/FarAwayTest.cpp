@@ -86,6 +86,23 @@ TEST(FarAway, WhatCannotBeDrawnPaintsNothing) {
     EXPECT_EQ(CRect(0, 0, 0, 0), surface.Painted());
 }
 
+TEST(FarAway, AnOutlineThatCannotBeDrawnLeavesTheFill) {
+    const struct {
+        float width;
+        int lineMode, lineEnabled;
+    } cases[] = {{1.0e7f, 0, 1}, {kNoNumber, 1, 0}, {kNoNumber, 1, 1}, {-kInfinite, 2, 1}};
+    for (const auto& c : cases) {
+        Surface surface(60, 40);
+        CUIObjectRectangle rectangle(RectF(11, 7, 30, 20), DS_RECTANGLE);
+        rectangle.GetCoordinate().Format<CUIShapeFormatText>().m_bEnabled = 0;
+        rectangle.SetLineWidth(c.width);
+        rectangle.SetLineShapeMode(c.lineMode);
+        rectangle.GetCoordinate().Format<CUIShapeFormatLineColor>().m_bEnabled = c.lineEnabled;
+        rectangle.Draw(&surface.graphics());
+        EXPECT_EQ(CRect(11, 7, 41, 27), surface.Painted()) << c.width;
+    }
+}
+
 TEST(FarAway, ALineWithoutACapOfItsOwnEndsFlat) {
     const auto draw = [](int cap) {
         auto surface = std::make_unique<Surface>(40, 20);
@@ -101,15 +118,22 @@ TEST(FarAway, ALineWithoutACapOfItsOwnEndsFlat) {
 }
 
 TEST(FarAway, AHugeTextBoxIsHitInsideItsEllipse) {
-    CUIObjectTextEdit text(RectF(-1.0e9f, -1.0e9f, 2.0e9f, 2.0e9f), DS_TEXTEDIT);
-    const auto hits = [&](float x, float y) {
-        RectF rect(x, y, 2, 2);
-        return text.HitTest(rect);
-    };
-    EXPECT_TRUE(hits(0, 0));
-    EXPECT_TRUE(hits(0, 0.99e9f));
-    EXPECT_FALSE(hits(0.9e9f, 0.9e9f));
-    EXPECT_FALSE(hits(1.2e9f, 0));
+    // An edge that is no number stands at 0.
+    for (const RectF& place :
+         {RectF(-1.0e9f, -0.5e9f, 2.0e9f, 1.0e9f), RectF(-1.0e9f, -0.5e9f, kNoNumber, 1.0e9f),
+          RectF(-1.0e9f, 0.5e9f, 2.0e9f, kNoNumber)}) {
+        CUIObjectTextEdit text(place, DS_TEXTEDIT);
+        const auto hits = [&](float x, float y) {
+            RectF rect(x, y, 2, 2);
+            return text.HitTest(rect);
+        };
+        const float middle = std::isnan(place.Width) ? -0.5e9f : 0.0f;
+        const float centre = std::isnan(place.Height) ? 0.25e9f : 0.0f;
+        EXPECT_TRUE(hits(middle, centre)) << place.Width << ", " << place.Height;
+        EXPECT_TRUE(hits(-0.99e9f, centre)) << place.Width << ", " << place.Height;
+        EXPECT_FALSE(hits(-0.95e9f, centre + 0.23e9f)) << place.Width << ", " << place.Height;
+        EXPECT_FALSE(hits(1.2e9f, centre)) << place.Width << ", " << place.Height;
+    }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "appearance/UIShapeFormat.h"
 
 #include <memory>
+#include <tuple>
 
 #include "support/Bytes.h"
 
@@ -17,12 +18,13 @@ Record Default() {
     return record;
 }
 
-// A record loaded from bytes must write the same bytes again, into whatever record it was loaded.
+// A record loaded from bytes must write the same bytes again.
 template <class Record>
-void ExpectRoundTrip(const Bytes& bytes) {
+Record ExpectRoundTrip(const Bytes& bytes) {
     auto record = Default<Record>();
     EXPECT_EQ(Load(record, bytes), 0u);
     EXPECT_TRUE(SameBytes(Stored(record), bytes));
+    return record;
 }
 
 Bytes Base() {
@@ -64,54 +66,64 @@ TEST(ShapeFormatTest, DefaultsResetTheKindToOne) {
 }
 
 TEST(ShapeFormatTest, ArchivesEveryFieldInOrder) {
-    Bytes text = Base();
-    text.S(L"a\nb").F(7.5f).S(L"Font").U(0x11223344).Us({0x55667788, 0x55667788}).Is({2, 3, 5});
-    ExpectRoundTrip<CUIShapeFormatText>(text);
+    const auto text = ExpectRoundTrip<CUIShapeFormatText>(
+        Base().S(L"a\nb").F(7.5f).S(L"Font").U(0x11223344).Us({0x55667788, 0x55667788}).Is({2, 3, 5}));
+    EXPECT_TRUE(std::tie(text.m_strText, text.m_fFontSize, text.m_strFontName, text.m_dwTextColor,
+                         text.m_dwBackColor, text.m_nFontStyle, text.m_nRenderHint) ==
+                std::tuple(CString(L"a\nb"), 7.5f, CString(L"Font"), 0x11223344u, 0x55667788u, 3, 5));
 
-    Bytes fill = Base();
-    fill.I(6).U(0x01020304).Fs({1.5f, 2.5f}).U(0x05060708).I(9).U(10).S(L"p.png").I(11).Us({12, 13});
-    ExpectRoundTrip<CUIShapeFormatFill>(fill);
+    const auto fill = ExpectRoundTrip<CUIShapeFormatFill>(
+        Base().I(6).U(21).Fs({1.5f, 2.5f}).U(22).I(9).U(10).S(L"p.png").I(11).Us({12, 13}));
+    EXPECT_TRUE(std::tie(fill.m_nShapeMode, fill.m_dwColor, fill.m_fAlpha, fill.m_fBlight,
+                         fill.m_dwGradientColor, fill.m_nGradientType, fill.m_dwGradientDirection,
+                         fill.m_strImagePath, fill.m_nPatternStyle, fill.m_dwForeColor, fill.m_dwBackColor) ==
+                std::tuple(6, 21u, 1.5f, 2.5f, 22u, 9, 10u, CString(L"p.png"), 11, 12u, 13u));
 
-    Bytes lineColor = Base();
-    lineColor.I(2).U(0x01020304).Fs({1.5f, 2.5f}).U(0x05060708).I(9).U(10);
-    ExpectRoundTrip<CUIShapeFormatLineColor>(lineColor);
+    const auto color =
+        ExpectRoundTrip<CUIShapeFormatLineColor>(Base().I(2).U(21).Fs({1.5f, 2.5f}).U(22).I(9).U(10));
+    EXPECT_TRUE(std::tie(color.m_nShapeMode, color.m_dwColor, color.m_fAlpha, color.m_fBlight,
+                         color.m_dwGradientColor, color.m_nGradientType,
+                         color.m_dwGradientDirection) == std::tuple(2, 21u, 1.5f, 2.5f, 22u, 9, 10u));
 
-    Bytes lineStyle = Base();
-    lineStyle.F(3.5f).Is({1, 2, 3, 4, 5}).Fs({1.5f, 0.5f, 3, 1}).Is({6, 7, 8});
-    lineStyle.Fs({9, 10}).I(11).Fs({12, 13}).I(14);
-    ExpectRoundTrip<CUIShapeFormatLineStyle>(lineStyle);
+    const auto style = ExpectRoundTrip<CUIShapeFormatLineStyle>(Base()
+                                                                    .F(3.5f)
+                                                                    .Is({1, 2, 3, 4, 5})
+                                                                    .Fs({1.5f, 0.5f, 3, 1})
+                                                                    .Is({6, 7, 8})
+                                                                    .Fs({9, 10})
+                                                                    .I(11)
+                                                                    .Fs({12, 13})
+                                                                    .I(14));
+    EXPECT_TRUE(std::tie(style.m_fWidth, style.m_nDashStyle, style.m_nDashCap, style.m_nJoin,
+                         style.m_nStartCap, style.m_nEndCap, style.m_fDash[0], style.m_fDash[1],
+                         style.m_fDash[2],
+                         style.m_fDash[3]) == std::tuple(3.5f, 1, 2, 3, 4, 5, 1.5f, 0.5f, 3.0f, 1.0f));
+    EXPECT_TRUE(std::tie(style.m_nCapType, style.m_nReserved1, style.m_nReserved2, style.m_fStartArrowWidth,
+                         style.m_fStartArrowHeight, style.m_bStartArrowFilled, style.m_fEndArrowWidth,
+                         style.m_fEndArrowHeight,
+                         style.m_bEndArrowFilled) == std::tuple(6, 7, 8, 9.0f, 10.0f, 11, 12.0f, 13.0f, 14));
 
-    Bytes shadow = Base();
-    ExpectRoundTrip<CUIShapeFormatShadow>(shadow.U(0x01020304).Fs({1, 2, 3, 4, 5, 6, 7}));
-    Bytes scale = Base();
-    ExpectRoundTrip<CUIShapeFormatScale>(scale.Fs({1, 2, 3, 4, 5}).I(6));
-    Bytes position = Base();
-    ExpectRoundTrip<CUIShapeFormatPosition>(position.Fs({1.5f, -2.5f}).Is({3, -4}));
-    Bytes textBox = Base();
-    ExpectRoundTrip<CUIShapeFormatTextBox>(textBox.Is({1, 2, 3}).Fs({4, 5, 6, 7}).I(8).F(9));
-}
+    const auto shadow = ExpectRoundTrip<CUIShapeFormatShadow>(Base().U(21).Fs({1, 2, 3, 4, 5, 6, 7}));
+    EXPECT_TRUE(std::tie(shadow.m_dwColor, shadow.m_fAlpha, shadow.m_fReal, shadow.m_fAngle, shadow.m_first.X,
+                         shadow.m_first.Y, shadow.m_second.X,
+                         shadow.m_second.Y) == std::tuple(21u, 1.0f, 2.0f, 3.0f, 4.0f, 5.0f, 6.0f, 7.0f));
 
-TEST(ShapeFormatTest, FieldsLandWhereTheyBelong) {
-    CUIShapeFormatLineStyle style;
-    Load(style, Base()
-                    .F(3.5f)
-                    .Is({1, 2, 3, 4, 5})
-                    .Fs({1.5f, 0.5f, 3, 1})
-                    .Is({6, 7, 8})
-                    .Fs({9, 10})
-                    .I(11)
-                    .Fs({12, 13})
-                    .I(14));
-    EXPECT_EQ(style.m_nDashStyle, 1);
-    EXPECT_EQ(style.m_nDashCap, 2);
-    EXPECT_EQ(style.m_nJoin, 3);
-    EXPECT_EQ(style.m_nStartCap, 4);
-    EXPECT_EQ(style.m_nEndCap, 5);
-    EXPECT_EQ(style.m_fDash[1], 0.5f);
-    EXPECT_EQ(style.m_nCapType, 6);
-    EXPECT_EQ(style.m_fStartArrowHeight, 10);
-    EXPECT_EQ(style.m_bStartArrowFilled, 11);
-    EXPECT_EQ(style.m_fEndArrowWidth, 12);
+    const auto scale = ExpectRoundTrip<CUIShapeFormatScale>(Base().Fs({1, 2, 3, 4, 5}).I(6));
+    EXPECT_TRUE(std::tie(scale.m_fWidth, scale.m_fHeight, scale.m_fScaleX, scale.m_fScaleY,
+                         scale.m_fRotateAngle,
+                         scale.m_nRatio) == std::tuple(1.0f, 2.0f, 3.0f, 4.0f, 5.0f, 6));
+
+    const auto place = ExpectRoundTrip<CUIShapeFormatPosition>(Base().Fs({1.5f, -2.5f}).Is({3, -4}));
+    EXPECT_TRUE(std::tie(place.m_fX, place.m_fY, place.m_nOffsetX, place.m_nOffsetY) ==
+                std::tuple(1.5f, -2.5f, 3, -4));
+    const auto home = Default<CUIShapeFormatPosition>();
+    EXPECT_TRUE(std::tie(home.m_fX, home.m_fY, home.m_nOffsetX, home.m_nOffsetY) ==
+                std::tuple(0.0f, 0.0f, 0, 0));
+
+    const auto box = ExpectRoundTrip<CUIShapeFormatTextBox>(Base().Is({1, 2, 3}).Fs({4, 5, 6, 7}).I(8).F(9));
+    EXPECT_TRUE(std::tie(box.m_nCode1, box.m_nCode2, box.m_nCode3, box.m_fReal1, box.m_fReal2, box.m_fReal3,
+                         box.m_fReal4, box.m_nFlag,
+                         box.m_fReal5) == std::tuple(1, 2, 3, 4.0f, 5.0f, 6.0f, 7.0f, 8, 9.0f));
 }
 
 TEST(ShapeFormatTest, AlignmentAndUnitStayTheReceivers) {

@@ -116,15 +116,29 @@ TEST(Button, WritesItsFourteenFieldsAndCheckedTwice) {
     EXPECT_TRUE(SameBytes(Stored(copy), stored));
 }
 
+TEST(Button, ReadsEachDrawFlagIntoItsOwnField) {
+    const char* calls[] = {"n", "d", "f", "", "o", "x"};
+    for (int set = 0; set < 6; ++set) {
+        Bytes record = ObjectBase(4, L"b", 0, 0, 1, 1).Is({1, 2, 3, 0, 5}).S();
+        for (int flag = 0; flag < 6; ++flag)
+            record.I(flag == set);
+        Painted<CUIObjectButton> button;
+        EXPECT_EQ(0u, Load(button, record.Is({0, 13, 14})));
+        EXPECT_EQ(calls[set], button.Paint(9));
+    }
+}
+
 TEST(Button, IsHitWithinItsEllipseOnly) {
-    CUIObjectButtonRect button(RectF(0, 0, 100, 100), DS_BUTTON);
+    const RectF place(200, 300, 100, 60);
+    CUIObjectButtonRect button(place, DS_BUTTON);
     const struct {
         RectF rect;
         bool hit;
     } cases[] = {
-        {{49, 49, 2, 2}, true},   {{3, 3, 2, 2}, false},      {{-10, 49, 8, 2}, false},
-        {{-10, 49, 10, 2}, true}, {{100, 49, 2, 2}, true},    {{103, 49, 2, 2}, false},
-        {{95, 95, 2, 2}, false},  {{-5, -5, 200, 200}, true}, {{500, 500, 2, 2}, false},
+        {{249, 329, 2, 2}, true},  {{203, 303, 2, 2}, false},    {{190, 329, 8, 2}, false},
+        {{190, 329, 10, 2}, true}, {{300, 329, 2, 2}, true},     {{303, 329, 2, 2}, false},
+        {{295, 355, 2, 2}, false}, {{195, 295, 200, 200}, true}, {{700, 800, 2, 2}, false},
+        {{249, 360, 2, 2}, true},  {{249, 361, 2, 2}, false},    {{49, 29, 2, 2}, false},
     };
     for (const auto& test : cases) {
         RectF rect = test.rect;
@@ -133,12 +147,12 @@ TEST(Button, IsHitWithinItsEllipseOnly) {
                   Box(rect));
     }
     button.SetLineWidth(20);
-    RectF corner(3, 3, 2, 2);
+    RectF corner(203, 303, 2, 2);
     EXPECT_NE(0, button.HitTest(corner));
-    Gdiplus::PointF point(50, 50);
+    Gdiplus::PointF point(250, 330);
     EXPECT_EQ(8, button.HitTest(point, 0));
-    button.SetPosition(RectF(100, 100, -100, -100));
-    RectF middle(49, 49, 2, 2);
+    button.SetPosition(RectF(300, 360, -100, -60));
+    RectF middle(249, 329, 2, 2);
     EXPECT_NE(0, button.HitTest(middle));
 }
 

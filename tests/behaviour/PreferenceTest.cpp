@@ -1,5 +1,6 @@
 // Archive forms, defaults and copy rules of the behaviour records.
 #include <functional>
+#include <tuple>
 
 #include "behaviour/UIPreference.h"
 #include "support/Bytes.h"
@@ -56,14 +57,16 @@ Bytes Named(const std::wstring& name, const Bytes& fields) {
     return Bytes().S(name).Add(fields);
 }
 
-/// The archive form of a record, its copies and the names of the copies.
-template <class Record>
-void CheckRecord(const Bytes& defaults, const Bytes& others) {
+/// The archive form of a record, where the fields come from, its copies and the names of the copies. `fields`
+/// gives the fields by name, `values` what they are after loading `others`.
+template <class Record, class Fields, class... Values>
+void CheckRecord(const Bytes& defaults, const Bytes& others, Fields fields, Values... values) {
     SCOPED_TRACE(typeid(Record).name());
     Record source;
     EXPECT_TRUE(SameBytes(Stored(source), Named(L"", defaults)));
     EXPECT_EQ(0u, Load(source, Named(L"source", others)));
     EXPECT_TRUE(SameBytes(Stored(source), Named(L"source", others)));
+    EXPECT_TRUE(fields(source) == std::tuple(values...));
 
     Record target;
     target.m_strName = L"target";
@@ -79,21 +82,97 @@ void CheckRecord(const Bytes& defaults, const Bytes& others) {
 }
 
 TEST(Preference, RecordsKeepTheirArchiveFormAndCopyWithoutTheName) {
-    CheckRecord<CPrefCondition>(kCondition, kOtherCondition);
-    CheckRecord<CPrefFill>(kFill, kOtherFill);
-    CheckRecord<CPrefMove>(kMove, Bytes().Is({2, 3}).F(-0.5f).Is({4, 5}));
-    CheckRecord<CPrefSize>(kSize, Bytes().Is({1, 2, 3, 4, 5, 6}));
-    CheckRecord<CPrefRotate>(kRotate, Bytes().Is({1, 2, 3, 4, -5, 6}));
-    CheckRecord<CPrefColor>(kColor, kOtherSeven);
-    CheckRecord<CPrefHide>(kHide, kOtherSeven);
-    CheckRecord<CPrefBlink>(kBlink, kOtherSeven);
-    CheckRecord<CPrefInput>(kInput, Bytes().Is({7, 8}));
-    CheckRecord<CPrefTrendLine>(Bytes().Is({1, -1}), Bytes().Is({7, 8}));
-    CheckRecord<CPrefButton>(kButton, kOtherButton);
-    CheckRecord<CPrefPage>(kPage, Bytes().Is({1, 2}).S(L"name").S(L"path"));
-    CheckRecord<CPrefText>(kText, Bytes().I(1).S(L"%d"));
-    CheckRecord<CPrefSlider>(kSlider, Bytes().Is({1, 2, 3, 4}));
-    CheckRecord<CPrefTrend>(kTrend, kOtherTrend);
+    CheckRecord<CPrefCondition>(
+        kCondition, kOtherCondition,
+        [](const CPrefCondition& r) {
+            const CPrefComparison &a = r.m_comparisons[0], &d = r.m_comparisons[3];
+            return std::tuple(a.m_nCompare, a.m_nLowValue, a.m_nHighValue, a.m_nJoin, d.m_nCompare,
+                              d.m_nLowValue, d.m_nHighValue, d.m_nJoin);
+        },
+        60000, 60001, 60002, 60003, 60012, 60013, 60014, 60015);
+    CheckRecord<CPrefFill>(
+        kFill, kOtherFill,
+        [](const CPrefFill& r) {
+            return std::tuple(r.m_nMode, r.m_strImagePath, r.m_nDirection, r.m_nLowValue, r.m_nHighValue,
+                              r.m_dwEmptyColor, r.m_dwFilledColor, r.m_dwBorderColor);
+        },
+        1, CString(L"그림.png"), 2, 3, 4, 5u, 6u, 7u);
+    CheckRecord<CPrefMove>(
+        kMove, Bytes().Is({2, 3}).F(-0.5f).Is({4, 5}),
+        [](const CPrefMove& r) {
+            return std::tuple(r.m_nDirection, r.m_nMode, r.m_fDistance, r.m_nLowValue, r.m_nHighValue);
+        },
+        2, 3, -0.5f, 4, 5);
+    CheckRecord<CPrefSize>(
+        kSize, Bytes().Is({1, 2, 3, 4, 5, 6}),
+        [](const CPrefSize& r) {
+            return std::tuple(r.m_nDirection, r.m_nMode, r.m_nSmallSize, r.m_nLargeSize, r.m_nLowValue,
+                              r.m_nHighValue);
+        },
+        1, 2, 3, 4, 5, 6);
+    CheckRecord<CPrefRotate>(
+        kRotate, Bytes().Is({1, 2, 3, 4, -5, 6}),
+        [](const CPrefRotate& r) {
+            return std::tuple(r.m_nStartAngle, r.m_nEndAngle, r.m_nLowValue, r.m_nHighValue, r.m_ptCenter.x,
+                              r.m_ptCenter.y);
+        },
+        1, 2, 3, 4, -5, 6);
+    CheckRecord<CPrefColor>(
+        kColor, kOtherSeven,
+        [](const CPrefColor& r) {
+            return std::tuple(r.m_dwFillOnColor, r.m_dwFillOffColor, static_cast<int>(r.m_dwTextOnColor),
+                              r.m_dwTextOffColor, r.m_dwLineColor, r.m_dwAlarmColor, r.m_dwNormalColor);
+        },
+        11u, 12u, -13, 14u, 15u, 16u, 17u);
+    CheckRecord<CPrefHide>(
+        kHide, kOtherSeven,
+        [](const CPrefHide& r) {
+            return std::tuple(r.m_nMode, r.m_bHideFill, r.m_bHideLine, r.m_bHideText, r.m_nCompare,
+                              r.m_nLowValue, r.m_nHighValue);
+        },
+        11, 12, -13, 14, 15, 16, 17);
+    CheckRecord<CPrefBlink>(
+        kBlink, kOtherSeven,
+        [](const CPrefBlink& r) {
+            return std::tuple(r.m_nSpeed, r.m_bBlinkFill, r.m_bBlinkLine, r.m_bBlinkText, r.m_nCompare,
+                              r.m_nLowValue, r.m_nHighValue);
+        },
+        11, 12, -13, 14, 15, 16, 17);
+    CheckRecord<CPrefInput>(
+        kInput, Bytes().Is({7, 8}), [](const CPrefInput& r) { return std::tuple(r.m_nType, r.m_nStep); }, 7,
+        8);
+    CheckRecord<CPrefTrendLine>(
+        Bytes().Is({1, -1}), Bytes().Is({7, 8}),
+        [](const CPrefTrendLine& r) { return std::tuple(r.m_nWidth, r.m_nColor); }, 7, 8);
+    CheckRecord<CPrefButton>(
+        kButton, kOtherButton,
+        [](const CPrefButton& r) {
+            return std::tuple(r.m_strOffText, r.m_strOnText, r.m_nAction, r.m_nValue, r.m_bConfirm,
+                              r.m_strConfirmText, r.m_strPressCommand, r.m_strReleaseCommand,
+                              r.m_strArguments[0], r.m_strArguments[14]);
+        },
+        CString(L"off"), CString(L"on"), 1, 2, 3, CString(L"sure?"), CString(L"press"), CString(L"release"),
+        CString(L"a"), CString(L"o"));
+    CheckRecord<CPrefPage>(
+        kPage, Bytes().Is({1, 2}).S(L"name").S(L"path"),
+        [](const CPrefPage& r) { return std::tuple(r.m_nMode, r.m_nPage, r.m_strPageName, r.m_strPagePath); },
+        1, 2, CString(L"name"), CString(L"path"));
+    CheckRecord<CPrefText>(
+        kText, Bytes().I(1).S(L"%d"), [](const CPrefText& r) { return std::tuple(r.m_nType, r.m_strFormat); },
+        1, CString(L"%d"));
+    CheckRecord<CPrefSlider>(
+        kSlider, Bytes().Is({1, 2, 3, 4}),
+        [](const CPrefSlider& r) {
+            return std::tuple(r.m_nDirection, r.m_nMode, r.m_nLowValue, r.m_nHighValue);
+        },
+        1, 2, 3, 4);
+    CheckRecord<CPrefTrend>(
+        kTrend, kOtherTrend,
+        [](const CPrefTrend& r) {
+            return std::tuple(r.m_nType, r.m_nTimeSpan, r.m_nTimeDivisions, r.m_nHighValue, r.m_nLowValue,
+                              r.m_nValueDivisions, r.m_dwGridColor, r.m_dwBackColor);
+        },
+        1, 2, 3, 4, 5, 6, 7u, 8u);
 }
 
 TEST(Preference, TheBaseAloneCopiesItsName) {

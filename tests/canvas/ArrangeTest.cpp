@@ -46,6 +46,11 @@ TEST_F(Arrange, CentresOnTheTruncatedHalfOfAnOddReference) {
     m_canvas->Select(AddRectangle(0, 0, 5, 7), 1);
     m_canvas->OnToolsAlignCenter();
     ExpectRect(moved->GetPosition(), -3, -2, 10, 10);
+    // A reference wider than half of what fits in an integer.
+    m_canvas->Select(moved, 0);
+    m_canvas->Select(AddRectangle(-2.0e9f, -1.5e9f, 4.0e9f, 3.5e9f), 1);
+    m_canvas->OnToolsAlignCenter();
+    ExpectRect(moved->GetPosition(), -5, 2.5e8f - 5, 10, 10);
 }
 
 TEST_F(Arrange, RepaintsOnlyWhatMoves) {

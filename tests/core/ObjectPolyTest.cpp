@@ -204,6 +204,24 @@ TEST_F(PolyTest, SelectedHitAsksForNoHandleWithoutAPoint) {
     EXPECT_LE(counter.m_asked, 4);
 }
 
+TEST_F(PolyTest, SelectedHitTriesTheHandlesThatAHostAdds) {
+    struct WithHooks : CUIObjectLine {
+        using CUIObjectLine::CUIObjectLine;
+        int GetHandleCount() override { return 5; }
+        Gdiplus::PointF GetHandlePoint(int handle) override {
+            if (handle == 2 || handle == 3)
+                return {30.0f * static_cast<float>(handle), 200};
+            return CUIObjectLine::GetHandlePoint(handle);
+        }
+    } line({0, 0, 0, 0}, DS_LINE);
+    Add(line, {{100, 100}, {180, 150}});
+    EXPECT_EQ(Hit(line, 180, 150, 1), 1);
+    EXPECT_EQ(Hit(line, 61, 203, 1), 2);
+    EXPECT_EQ(Hit(line, 91, 199, 1), 3);
+    EXPECT_EQ(Hit(line, 140, 120, 1), 4);
+    EXPECT_EQ(Hit(line, 120, 200, 1), -1);
+}
+
 TEST_F(PolyTest, RectangleModeEditsTheBox) {
     Add(m_polyLine, {{0, 0}, {100, 100}});
     m_polyLine.RectMode();
@@ -312,6 +330,12 @@ TEST_F(PolyDrawTest, RubberSegmentFollowsUntilThePointsAreComplete) {
     m_line.Draw(m_surface);
     EXPECT_EQ(m_surface.At(20, 100), 0xFF0000FF);
     EXPECT_EQ(m_surface.At(100, 150), Surface::kWhite);
+
+    m_surface.Clear();
+    Add(m_line, {{180, 120}});
+    m_line.Draw(m_surface);
+    EXPECT_EQ(m_surface.At(20, 100), 0xFF0000FF);
+    EXPECT_EQ(m_surface.At(100, 135), 0xFF0000FF);
 }
 
 TEST_F(PolyDrawTest, LineIsThreeTimesAsWideAsAPolyline) {
