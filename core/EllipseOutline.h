@@ -5,8 +5,8 @@
 
 namespace Lumo {
 
-/// Draws the outline of the ellipse in `bounds` (page units, size not negative) with `pen` (not owned).
-/// Unlike `Graphics::DrawEllipse` it can be asked for ellipses that are very large or far away.
+/// Draws the outline of the ellipse in `bounds` (page units, a negative size means the same area) with `pen`
+/// (not owned). Unlike `Graphics::DrawEllipse` it can be asked for ellipses that are very large or far away.
 TESSEL_API void DrawEllipseOutline(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen,
                                    const Gdiplus::RectF& bounds);
 

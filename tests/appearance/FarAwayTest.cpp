@@ -3,6 +3,7 @@
 #include "appearance/UIObjectRectangle.h"
 #include "behaviour/UIObjectTextEdit.h"
 #include "core/EllipseOutline.h"
+#include "core/Geometry.h"
 #include "core/UIObjectPoly.h"
 #include "support/Surface.h"
 
@@ -57,6 +58,39 @@ TEST(FarAway, AnEllipseLooksAsItDoesNearTheOrigin) {
     large.Draw(&surface.graphics());
     EXPECT_EQ(Surface::kWhite, surface.At(20, 30));
     EXPECT_NE(Surface::kWhite, surface.At(60, 30));
+}
+
+TEST(FarAway, NearTheOriginAnEllipseIsThePlatforms) {
+    const struct {
+        RectF place;
+        float width;
+    } cases[] = {{{100, 30, 80, 0.9f}, 16}, {{101, 72, -80, -60}, 1}, {{40, 30, 0.5f, 0.5f}, 10}};
+    for (const auto& c : cases) {
+        Surface ours(220, 80), wanted(220, 80);
+        const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), c.width);
+        DrawEllipseOutline(ours.graphics(), pen, c.place);
+        wanted.graphics().DrawEllipse(&pen, Normalised(c.place));
+        for (int y = 0; y < 80; ++y)
+            for (int x = 0; x < 220; ++x)
+                ASSERT_EQ(wanted.At(x, y), ours.At(x, y)) << x << ", " << y << ", " << c.width;
+    }
+}
+
+// A repaint covers the outline's half width and a unit.
+TEST(FarAway, AFlatEllipseHasNoSpikes) {
+    for (const RectF& place :
+         {RectF(5020, -4970, 80, 0.9f), RectF(5100, -4970, -80, 0.9f), RectF(5040, -4990, 2, 37)}) {
+        Surface surface(120, 60);
+        surface.graphics().TranslateTransform(-5000, 5000);
+        const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 16);
+        DrawEllipseOutline(surface.graphics(), pen, place);
+        RectF room = Inflated(Normalised(place), 9);
+        room.Offset(-5000, 5000);
+        const CRect painted = surface.Painted();
+        CRect both;
+        EXPECT_FALSE(painted.IsRectEmpty());
+        EXPECT_TRUE(both.IntersectRect(painted, RectAtlFromGdi(room)) && both == painted) << place.X;
+    }
 }
 
 TEST(FarAway, WhatCannotBeDrawnPaintsNothing) {

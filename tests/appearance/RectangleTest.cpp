@@ -1,7 +1,10 @@
 #include "appearance/UIObjectRectangle.h"
 
+#include <string>
+
 #include <gtest/gtest.h>
 
+#include "appearance/PictureFile.h"
 #include "core/PaintScope.h"
 #include "support/Geometry.h"
 #include "support/Surface.h"
@@ -184,7 +187,7 @@ TEST_F(RectangleTest, ImageModes) {
     m_rectangle.SetFillShapeMode(5);
     {
         // It stands at the page's origin, far from the shape, and is painted there.
-        PaintScope scope({0, 0, 10, 10});
+        PaintScope scope(m_surface.graphics(), {0, 0, 10, 10});
         m_rectangle.Draw(m_surface);
     }
     EXPECT_EQ(m_surface.Painted(), CRect(0, 0, 4, 2));
@@ -227,6 +230,36 @@ TEST_F(RectangleTest, DragUsesThePositionOffsetAndNotThePoint) {
     Gdiplus::PointF point(40, 40);
     m_rectangle.DrawDragImage(m_surface, point);
     EXPECT_EQ(m_surface.Painted(), CRect(68, 48, 172, 132));
+}
+
+TEST(PictureFileTest, WeighsWhatAPictureClaimsAsLongAsItsFileStays) {
+    const TemporaryFile file;
+    EXPECT_FALSE(IsOversizedPicture(file.Path()));
+    const struct {
+        int width, height;
+        WORD bits;
+        bool oversized;
+    } cases[] = {{12000, 7000, 24, false}, {12000, 7500, 24, true}, {16000, 16000, 8, false},
+                 {17000, 16000, 8, true},  {17000, 16000, 1, true}, {7000, 9000, 32, false}};
+    for (const auto& c : cases) {
+        BITMAPINFOHEADER info = {};
+        info.biSize = sizeof info;
+        info.biWidth = c.width;
+        info.biHeight = c.height;
+        info.biPlanes = 1;
+        info.biBitCount = c.bits;
+        BITMAPFILEHEADER head = {};
+        head.bfType = 0x4D42;
+        head.bfOffBits = sizeof head + sizeof info + 1024;
+        // Another length each time, whatever the clock says.
+        const std::string rest(1024 + static_cast<size_t>(&c - cases), '\0');
+        file.Write(std::string(reinterpret_cast<const char*>(&head), sizeof head) +
+                   std::string(reinterpret_cast<const char*>(&info), sizeof info) + rest);
+        EXPECT_EQ(IsOversizedPicture(file.Path()), c.oversized) << c.width << " at " << c.bits;
+        // A second time the file is not opened.
+        const CFile locked(file.Path(), CFile::modeRead | CFile::shareExclusive);
+        EXPECT_EQ(IsOversizedPicture(file.Path()), c.oversized) << c.width << " at " << c.bits;
+    }
 }
 
 }  // namespace Lumo
