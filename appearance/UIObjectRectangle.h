@@ -17,8 +17,6 @@ public:
     CUIObjectRectangle& operator=(const CUIObjectRectangle&) = default;
 
     /// As the base's.
-    void Init(DrawShape shape, Gdiplus::RectF& rect) override;
-    /// As the base's.
     void Serialize(CArchive& ar) override;
     /// Paints caption, outline and fill, in this order.
     void Draw(Gdiplus::Graphics* graphics) override;
@@ -48,8 +46,6 @@ public:
     CUIObjectEllipse(const CUIObjectEllipse&) = default;
     CUIObjectEllipse& operator=(const CUIObjectEllipse&) = default;
 
-    /// The base's `Init` and rectangle mode 1.
-    void Init(DrawShape shape, Gdiplus::RectF& rect) override;
     /// As the base's.
     void Serialize(CArchive& ar) override;
     /// Paints caption, outline and fill, in this order.

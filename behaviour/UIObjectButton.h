@@ -127,9 +127,6 @@ public:
     /// Copies every field.
     CUIObjectButtonRectRound(const CUIObjectButtonRectRound& source) = default;
     CUIObjectButtonRectRound& operator=(const CUIObjectButtonRectRound& source) = default;
-
-    /// The base button's, with the rectangle mode set once more.
-    void Init(DrawShape kind, Gdiplus::RectF& rect) override;
     ~CUIObjectButtonRectRound() override;
 };
 
@@ -143,9 +140,6 @@ public:
     /// Copies every field.
     CUIObjectButtonEllipse(const CUIObjectButtonEllipse& source) = default;
     CUIObjectButtonEllipse& operator=(const CUIObjectButtonEllipse& source) = default;
-
-    /// The base button's, unchanged.
-    void Init(DrawShape kind, Gdiplus::RectF& rect) override;
     ~CUIObjectButtonEllipse() override;
 };
 

@@ -28,8 +28,6 @@ public:
     using CUIObject::HitTest;
     using CUIObject::Rotate;
 
-    /// The base object's, unchanged.
-    void Init(DrawShape kind, Gdiplus::RectF& rect) override;
     /// 1 at the first child that is hit at its stored position. Every child asked has a dragging offset of
     /// its coordinate record folded into its stored point.
     int HitTest(Gdiplus::RectF& rect) override;

@@ -150,27 +150,6 @@ ULONGLONG CArchive::BytesLeft() const {
     return ULONGLONG(m_lpBufMax - m_lpBufCur) + (length > position ? length - position : 0);
 }
 
-namespace {
-
-// Whether two runs of wide characters are the same. Most texts are a few words of memory long, for which a
-// call of the C runtime's comparison costs more than it does.
-bool SameText(const BYTE* a, const BYTE* b, size_t size) {
-    ULONGLONG x, y;
-    for (; size >= sizeof x; size -= sizeof x, a += sizeof x, b += sizeof y) {
-        std::memcpy(&x, a, sizeof x);
-        std::memcpy(&y, b, sizeof y);
-        if (x != y)
-            return false;
-    }
-    for (; size; size -= sizeof(wchar_t), a += sizeof(wchar_t), b += sizeof(wchar_t)) {
-        if (a[0] != b[0] || a[1] != b[1])
-            return false;
-    }
-    return true;
-}
-
-}  // namespace
-
 // The common case: a short text that the buffer holds whole. A text that is there already keeps its sharing.
 inline bool CArchive::LoadBufferedText(CString& string) {
     constexpr DWORD kUnicodeText = 0x00FFFEFF;  // the marks before a length of one byte
@@ -185,8 +164,7 @@ inline bool CArchive::LoadBufferedText(CString& string) {
         return false;
     const BYTE* text = m_lpBufCur + sizeof head;
     m_lpBufCur += sizeof head + size;
-    if (count == string.GetLength() &&
-        SameText(text, reinterpret_cast<const BYTE*>(string.GetString()), size))
+    if (count == string.GetLength() && std::memcmp(text, string.GetString(), size) == 0)
         return true;
     CString loaded;
     std::memcpy(loaded.GetBuffer(count), text, size);
@@ -265,13 +243,6 @@ CArchive& AFXAPI operator>>(CArchive& ar, CString& string) {
         AfxThrowMemoryException();
     const int count = int(length.characters);
     const UINT bytes = UINT(count) * length.characterSize;
-    // A text that is there already keeps its sharing.
-    if (length.characterSize == sizeof(wchar_t) && count == string.GetLength() &&
-        bytes <= ULONGLONG(ar.m_lpBufMax - ar.m_lpBufCur) &&
-        std::memcmp(ar.m_lpBufCur, string.GetString(), bytes) == 0) {
-        ar.m_lpBufCur += bytes;
-        return ar;
-    }
     CString loaded, ansi;
     // Bytes of the ANSI form are read into a string's memory and converted from there.
     CString& target = length.characterSize == sizeof(wchar_t) ? loaded : ansi;

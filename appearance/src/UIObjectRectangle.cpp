@@ -17,10 +17,6 @@ CUIObjectRectangle::CUIObjectRectangle(const Gdiplus::RectF& rect, DrawShape sha
 
 CUIObjectRectangle::~CUIObjectRectangle() = default;
 
-void CUIObjectRectangle::Init(DrawShape shape, Gdiplus::RectF& rect) {
-    CUIObject::Init(shape, rect);
-}
-
 void CUIObjectRectangle::Serialize(CArchive& ar) {
     CUIObject::Serialize(ar);
 }
@@ -48,11 +44,6 @@ CUIObjectEllipse::CUIObjectEllipse(const Gdiplus::RectF& rect, DrawShape shape) 
 }
 
 CUIObjectEllipse::~CUIObjectEllipse() = default;
-
-void CUIObjectEllipse::Init(DrawShape shape, Gdiplus::RectF& rect) {
-    CUIObject::Init(shape, rect);
-    m_bRectMode = 1;
-}
 
 void CUIObjectEllipse::Serialize(CArchive& ar) {
     CUIObject::Serialize(ar);

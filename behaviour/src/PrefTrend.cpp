@@ -22,6 +22,12 @@ void StoreLines(CArchive& ar, const std::list<CPrefTrendLine*>& lines) {
     }
 }
 
+// The list is only of pointers: until one stands in it, its line must not be lost.
+void Append(std::list<CPrefTrendLine*>& lines, std::unique_ptr<CPrefTrendLine> line) {
+    lines.push_back(line.get());
+    static_cast<void>(line.release());
+}
+
 void LoadLines(CArchive& ar, std::list<CPrefTrendLine*>& lines) {
     int count = 0;
     ar >> count;
@@ -30,8 +36,7 @@ void LoadLines(CArchive& ar, std::list<CPrefTrendLine*>& lines) {
     for (int i = 0; i < count; ++i) {
         auto line = std::make_unique<CPrefTrendLine>();
         line->Serialize(ar);
-        lines.push_back(line.get());
-        static_cast<void>(line.release());
+        Append(lines, std::move(line));
     }
 }
 
@@ -53,11 +58,8 @@ CPrefTrend& CPrefTrend::operator=(const CPrefTrend& source) {
     // kept: the lines that were in the list are unlinked, not destroyed; they are their owner's.
     m_lines.clear();
     for (CPrefTrendLine* line : source.m_lines) {
-        if (!line)
-            continue;
-        auto copy = std::make_unique<CPrefTrendLine>(*line);
-        m_lines.push_back(copy.get());
-        static_cast<void>(copy.release());
+        if (line)
+            Append(m_lines, std::make_unique<CPrefTrendLine>(*line));
     }
     return *this;
 }

@@ -20,7 +20,6 @@ CUIObjectButton::~CUIObjectButton() = default;
 
 void CUIObjectButton::Init(DrawShape kind, Gdiplus::RectF& rect) {
     CUIObject::Init(kind, rect);
-    m_bRectMode = TRUE;
     m_dwButtonStyle = 0;
     m_dwRadioGroup = 0;
     m_dwButtonState = 0;
@@ -125,11 +124,6 @@ CUIObjectButtonRectRound::CUIObjectButtonRectRound(const Gdiplus::RectF& rect, D
 
 CUIObjectButtonRectRound::~CUIObjectButtonRectRound() = default;
 
-void CUIObjectButtonRectRound::Init(DrawShape kind, Gdiplus::RectF& rect) {
-    CUIObjectButton::Init(kind, rect);
-    m_bRectMode = TRUE;
-}
-
 CUIObjectButtonEllipse::CUIObjectButtonEllipse() {
     m_strShapeName = L"ButtonEllipse";
 }
@@ -140,9 +134,5 @@ CUIObjectButtonEllipse::CUIObjectButtonEllipse(const Gdiplus::RectF& rect, DrawS
 }
 
 CUIObjectButtonEllipse::~CUIObjectButtonEllipse() = default;
-
-void CUIObjectButtonEllipse::Init(DrawShape kind, Gdiplus::RectF& rect) {
-    CUIObjectButton::Init(kind, rect);
-}
 
 }  // namespace Lumo

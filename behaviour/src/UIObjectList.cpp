@@ -54,10 +54,6 @@ void CUIObjectList::SetInitialSize(const Gdiplus::RectF& bounds) {
     m_bGrouped = TRUE;
 }
 
-void CUIObjectList::Init(DrawShape kind, Gdiplus::RectF& rect) {
-    CUIObject::Init(kind, rect);
-}
-
 int CUIObjectList::GetType() {
     return m_nDrawShape;
 }
