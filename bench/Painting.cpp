@@ -189,7 +189,7 @@ void MeasureSkipping(std::vector<Line>& lines) {
     Gdiplus::Bitmap bitmap(400, 300, PixelFormat32bppPARGB);
     Gdiplus::Graphics g(&bitmap);
     const Gdiplus::RectF update(0, 0, 10, 10);
-    const PaintScope scope(update);
+    const PaintScope scope(g, update);
     std::vector<double> seconds(21);
     for (double& second : seconds)
         second = Seconds([&] { page.document->DrawCanvas(&g, page.canvas.get()); });

@@ -57,6 +57,12 @@ inline bool IsDrawable(const Gdiplus::RectF& rect) {
            rect.Y + rect.Height <= kFarthest;
 }
 
+/// True when the rectangles (sizes not negative) have a point in common, edges included; also when one holds
+/// NaN.
+inline bool Touches(const Gdiplus::RectF& a, const Gdiplus::RectF& b) {
+    return !(b.X > a.X + a.Width || b.X + b.Width < a.X || b.Y > a.Y + a.Height || b.Y + b.Height < a.Y);
+}
+
 /// The same area with a width and height that are not negative.
 inline Gdiplus::RectF Normalised(const Gdiplus::RectF& rect) {
     return {rect.Width < 0.0f ? rect.X + rect.Width : rect.X,

@@ -23,6 +23,7 @@ public:
     ShapePainter(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, ShapeKind kind,
                  PaintStage stage)
         : m_graphics(graphics),
+          m_part(PaintScope::PartOf(graphics)),
           m_fill(coordinate.Format<CUIShapeFormatFill>()),
           m_lineColor(coordinate.Format<CUIShapeFormatLineColor>()),
           m_position(coordinate.GetPosition()),
@@ -30,17 +31,9 @@ public:
           m_kind(kind),
           m_stage(stage) {}
 
-    bool Misses() const {
-        // An image at its own size stands where its file says.
-        if (m_fill.m_bEnabled != 0 && m_fill.m_nShapeMode == kOwnSize)
-            return false;
-        const float reach = std::fabs(m_penWidth) * 0.5f + 1.0f;
-        return PaintScope::Misses(Inflated(Normalised(m_position), reach));
-    }
-
     void PaintOutline() {
         DWORD color = 0;
-        if (!m_lineColor.GetPenColor(&color) || !IsDrawable(Normalised(m_position)))
+        if (!m_lineColor.GetPenColor(&color) || !Shows(std::fabs(m_penWidth) * 0.5f))
             return;
         GraphicsStateScope state(m_graphics);
         Gdiplus::Pen pen{Gdiplus::Color(color), m_penWidth};
@@ -51,7 +44,8 @@ public:
     }
 
     void PaintFill() {
-        if (m_fill.m_bEnabled == 0)
+        // An image at its own size stands where its file says.
+        if (m_fill.m_bEnabled == 0 || (m_fill.m_nShapeMode != kOwnSize && !Shows(0.0f)))
             return;
         GraphicsStateScope state(m_graphics);
         switch (m_fill.m_nShapeMode) {
@@ -76,6 +70,12 @@ public:
     }
 
 private:
+    // Whether anything within `reach` of the position is to be painted, and a unit more for rounding.
+    bool Shows(float reach) const {
+        const Gdiplus::RectF area = Inflated(Normalised(m_position), reach + 1.0f);
+        return IsDrawable(area) && Touches(m_part, area);
+    }
+
     void Fill(const Gdiplus::Brush& brush, const Gdiplus::RectF& area) {
         if (m_kind == ShapeKind::Ellipse)
             m_graphics.FillEllipse(&brush, area);
@@ -129,6 +129,7 @@ private:
     }
 
     Gdiplus::Graphics& m_graphics;
+    Gdiplus::RectF m_part;
     const CUIShapeFormatFill& m_fill;
     const CUIShapeFormatLineColor& m_lineColor;
     Gdiplus::RectF m_position;
@@ -142,8 +143,6 @@ private:
 void PaintShape(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, ShapeKind kind,
                 PaintStage stage) {
     ShapePainter painter(graphics, coordinate, kind, stage);
-    if (painter.Misses())
-        return;
     // Kept: the fill comes last and covers the inner half of the outline, and the caption drawn before both.
     painter.PaintOutline();
     painter.PaintFill();

@@ -45,7 +45,7 @@ void CUICanvas::OnPaint() {
     {
         Gdiplus::Graphics page(pixels.Whole());
         const Gdiplus::RectF painted = RectGdiFromAtl(update);
-        const PaintScope scope(Inflated(painted, 1.0f));
+        const PaintScope scope(page, Inflated(painted, 1.0f));
         page.SetClip(painted);
         Draw(&page, client.Width(), client.Height());
     }

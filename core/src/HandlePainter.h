@@ -18,7 +18,8 @@ inline Gdiplus::RectF HandleSquare(const Gdiplus::PointF& point) {
 // Paints the handles of one object. A handle that the current paint does not touch costs no GDI+ object.
 class HandlePainter {
 public:
-    explicit HandlePainter(Gdiplus::Graphics& graphics) : m_graphics(graphics) {}
+    explicit HandlePainter(Gdiplus::Graphics& graphics)
+        : m_graphics(graphics), m_part(PaintScope::PartOf(graphics)) {}
 
     void PaintCircle(const Gdiplus::RectF& rect) {
         if (!Prepare(rect))
@@ -39,7 +40,8 @@ private:
     static constexpr Gdiplus::ARGB kFill = 0xFF87CEEB;
 
     bool Prepare(const Gdiplus::RectF& rect) {
-        if (PaintScope::Misses(Inflated(Normalised(rect), 1.0f)))
+        const Gdiplus::RectF bounds = Inflated(Normalised(rect), 1.0f);
+        if (!IsDrawable(bounds) || !Touches(m_part, bounds))
             return false;
         if (!m_pen) {
             m_pen.emplace(Gdiplus::Color(kLine), 1.0f);
@@ -49,6 +51,7 @@ private:
     }
 
     Gdiplus::Graphics& m_graphics;
+    Gdiplus::RectF m_part;
     std::optional<Gdiplus::Pen> m_pen;
     std::optional<Gdiplus::SolidBrush> m_brush;
 };

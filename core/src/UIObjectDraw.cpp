@@ -21,7 +21,7 @@ void CUIObject::Draw(Gdiplus::Graphics* graphics) {
     if (graphics == nullptr || text.m_bEnabled == 0 || text.m_strText.IsEmpty())
         return;
     const Gdiplus::RectF position = m_coordinate.GetPosition();
-    if (PaintScope::Misses(CaptionBounds(text, position)))
+    if (PaintScope::Misses(*graphics, CaptionBounds(text, position)))
         return;
     DrawCaption(*graphics, text, position);
 }

@@ -39,17 +39,18 @@ struct Segments {
             visit(points.back() + shift, *rubberEnd + shift);
     }
 
-    // The same for the segments that reach into what is being painted, given how far the pen reaches.
+    // The same for the segments that reach into the part being painted, given how far the pen reaches.
     template <class Visit>
-    void ForEachPainted(float reach, Visit visit) const {
+    void ForEachIn(const Gdiplus::RectF& part, float reach, Visit visit) const {
         ForEach([&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
-            return PaintScope::Misses(SegmentBounds(from, to, reach)) || visit(from, to);
+            const Gdiplus::RectF bounds = SegmentBounds(from, to, reach);
+            return !IsDrawable(bounds) || !Touches(part, bounds) || visit(from, to);
         });
     }
 
-    bool AnyPainted(float reach) const {
+    bool AnyIn(const Gdiplus::RectF& part, float reach) const {
         bool any = false;
-        ForEachPainted(reach, [&](const Gdiplus::PointF&, const Gdiplus::PointF&) {
+        ForEachIn(part, reach, [&](const Gdiplus::PointF&, const Gdiplus::PointF&) {
             any = true;
             return false;
         });
@@ -69,10 +70,11 @@ void PaintAsPath(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, c
         return;
     const float width = coordinate.GetLineWidth();
     const float reach = std::fabs(width) + 1.0f;
-    if (!segments.AnyPainted(reach))
+    const Gdiplus::RectF part = PaintScope::PartOf(graphics);
+    if (!segments.AnyIn(part, reach))
         return;
     Gdiplus::GraphicsPath path;
-    segments.ForEachPainted(reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
+    segments.ForEachIn(part, reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
         AddSegment(path, from, to);
         return true;
     });
@@ -87,7 +89,8 @@ void PaintAsLines(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, 
         return;
     const float width = coordinate.GetLineWidth() * kLineWidthFactor;
     const float reach = std::fabs(width) * kCapReach + 1.0f;
-    if (!segments.AnyPainted(reach))
+    const Gdiplus::RectF part = PaintScope::PartOf(graphics);
+    if (!segments.AnyIn(part, reach))
         return;
     GraphicsStateScope state(graphics);
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
@@ -96,7 +99,7 @@ void PaintAsLines(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, 
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
     pen.SetAlignment(static_cast<Gdiplus::PenAlignment>(coordinate.GetLineAlignment()));
     coordinate.Format<CUIShapeFormatLineStyle>().SetPenCaps(pen);
-    segments.ForEachPainted(reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
+    segments.ForEachIn(part, reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
         graphics.DrawLine(&pen, from, to);
         return true;
     });

@@ -157,7 +157,7 @@ CPoint Control::Local(const CPoint& point) const {
 }
 
 void ChartControl::Draw(Gdiplus::Graphics* g) {
-    if (g && !Lumo::PaintScope::Misses(Lumo::Normalised(GetPosition())))
+    if (g && !Lumo::PaintScope::Misses(*g, Lumo::Normalised(GetPosition())))
         DrawPicture(*g);
 }
 
@@ -184,7 +184,7 @@ void ButtonControl::Connect(Device* device) {
 }
 
 void ButtonControl::Draw(Gdiplus::Graphics* g) {
-    if (g && !Lumo::PaintScope::Misses(Lumo::Normalised(GetPosition())))
+    if (g && !Lumo::PaintScope::Misses(*g, Lumo::Normalised(GetPosition())))
         CUIObjectButtonRectRound::Draw(g);
 }
 

@@ -141,7 +141,7 @@ void LevelChart::Render(Picture& picture) {
 
 void LevelChart::Draw(Gdiplus::Graphics* g) {
     const RectF bounds = Lumo::Normalised(GetPosition());
-    if (!g || Lumo::PaintScope::Misses(bounds))
+    if (!g || Lumo::PaintScope::Misses(*g, bounds))
         return;
     Arrange();
     std::vector<CRect> ignored;

@@ -72,16 +72,17 @@ void StudioCanvas::PaintObjects(const CRect& part) {
     PaintGround(m_picture, part);
     CRect wide = part;
     wide.InflateRect(1, 1);
-    const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(wide));
-    auto graphics = m_picture.MakeGraphics();
-    m_pDocument->DrawCanvas(graphics.get(), this);
-    if (m_selection.size() <= kMostTrackers) {
-        for (CUIObject* object : m_selection)
-            object->DrawTracker(graphics.get());
-        return;
+    const bool trackers = m_selection.size() <= kMostTrackers;
+    {
+        const auto graphics = m_picture.MakeGraphics();
+        const Lumo::PaintScope scope(*graphics, Lumo::RectGdiFromAtl(wide));
+        m_pDocument->DrawCanvas(graphics.get(), this);
+        if (trackers)
+            for (CUIObject* object : m_selection)
+                object->DrawTracker(graphics.get());
     }
-    graphics.reset();
-    FrameSelection();
+    if (!trackers)
+        FrameSelection();
 }
 
 void StudioCanvas::FrameSelection() {
@@ -109,8 +110,8 @@ void StudioCanvas::PaintLifted(const CRect& part) {
     if (view != m_restArea) {
         m_restArea = view;
         PaintGround(m_rest, view);
-        const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(view));
         const auto graphics = m_rest.MakeGraphics();
+        const Lumo::PaintScope scope(*graphics, Lumo::RectGdiFromAtl(view));
         for (CUIObject* object : *Objects()) {
             if (object && !object->GetRemoved() && !m_lifted.count(object))
                 object->Draw(graphics.get());

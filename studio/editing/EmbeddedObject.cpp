@@ -92,7 +92,7 @@ void EmbeddedObject::TakeSaved() {
 
 void EmbeddedObject::Draw(Gdiplus::Graphics* g) {
     const RectF bounds = Lumo::Normalised(GetPosition());
-    if (!g || bounds.Width < 1.0f || bounds.Height < 1.0f || Lumo::PaintScope::Misses(bounds))
+    if (!g || bounds.Width < 1.0f || bounds.Height < 1.0f || Lumo::PaintScope::Misses(*g, bounds))
         return;
     Gdiplus::Bitmap* image = m_contents ? m_contents->Image() : nullptr;
     if (!image) {

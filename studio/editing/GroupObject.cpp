@@ -1,7 +1,6 @@
 #include "studio/editing/GroupObject.h"
 
 #include "core/Geometry.h"
-#include "core/PaintScope.h"
 #include "core/UIObjectPoly.h"
 #include "studio/controls/GraphicsStateScope.h"
 #include "studio/editing/Geometry.h"
@@ -69,15 +68,8 @@ void GroupObject::Draw(Gdiplus::Graphics* g) {
     const RectF group = GetPosition();
     GraphicsStateScope state(*g);
     g->TranslateTransform(group.X, group.Y);
-    for (CUIObject* child : GetChildren()) {
-        RectF bounds = Lumo::Normalised(child->GetPosition());
-        bounds.Offset(group.X, group.Y);
-        if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, PaintMargin(*child))))
-            continue;
-        // The child asks the scope in its own coordinates; it has just been asked in the page's.
-        Lumo::PaintScope all(kEverywhere);
+    for (CUIObject* child : GetChildren())
         child->Draw(g);
-    }
 }
 
 BOOL GroupObject::HitTest(RectF& rect) {

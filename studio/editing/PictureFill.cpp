@@ -138,7 +138,7 @@ bool HasPictureFill(const CUIObject& object) {
 
 void DrawPictureFill(Graphics& g, const CUIObject& object) {
     const RectF bounds = Lumo::Normalised(object.GetPosition());
-    if (bounds.Width < 1.0f || bounds.Height < 1.0f || Lumo::PaintScope::Misses(bounds))
+    if (bounds.Width < 1.0f || bounds.Height < 1.0f || Lumo::PaintScope::Misses(g, bounds))
         return;
     const auto& fill = FillOf(object);
     GraphicsStateScope state(g);

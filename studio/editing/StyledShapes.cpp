@@ -58,7 +58,7 @@ bool DrawDashedOutline(Gdiplus::Graphics& g, const Lumo::CUICoordinate& coordina
         return false;
     const RectF bounds = Lumo::Normalised(coordinate.GetPosition());
     const float width = coordinate.GetLineWidth();
-    if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, width + 1.0f)))
+    if (Lumo::PaintScope::Misses(g, Lumo::Inflated(bounds, width + 1.0f)))
         return true;
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
     SetDash(pen, dash, 2.0f * (bounds.Width + bounds.Height));
@@ -77,7 +77,7 @@ void DrawStyledFigure(Gdiplus::Graphics& g, Lumo::CUIObjectPoly& figure, float w
     const auto& corners = *figure.NormalizePoints();
     const std::vector<PointF> points(corners.begin(), corners.end());
     const float width = coordinate.GetLineWidth() * widthFactor;
-    if (Lumo::PaintScope::Misses(Lumo::Inflated(BoundsOf(points), width * kCapReach + 1.0f)))
+    if (Lumo::PaintScope::Misses(g, Lumo::Inflated(BoundsOf(points), width * kCapReach + 1.0f)))
         return;
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
     SetDash(pen, coordinate.GetLineDashStyle(), LengthOf(points));

@@ -20,7 +20,7 @@ constexpr float kLargestFont = 32767.0f;
 
 void TextBox::Draw(Gdiplus::Graphics* g) {
     const RectF bounds = Lumo::Normalised(GetPosition());
-    if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, GetLineWidth() + 1.0f)))
+    if (Lumo::PaintScope::Misses(*g, Lumo::Inflated(bounds, GetLineWidth() + 1.0f)))
         return;
     DrawGround(*g, bounds);
     DrawText(*g, bounds);

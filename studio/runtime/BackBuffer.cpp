@@ -51,11 +51,11 @@ void BackBuffer::Paint(const CRect& part, CPoint origin, const BackBuffer* groun
         ::PatBlt(m_dc, area.left, area.top, area.Width(), area.Height(), BLACKNESS);
     {
         const Gdiplus::RectF shown = Lumo::RectGdiFromAtl(area + origin);
-        const Lumo::PaintScope scope(shown);
         const DirectPaint direct(m_dc);
         Gdiplus::Graphics g(m_wrapper.get());
         g.TranslateTransform(static_cast<float>(-origin.x), static_cast<float>(-origin.y));
         g.SetClip(shown);
+        const Lumo::PaintScope scope(g, shown);
         draw(g);
     }
     ::RestoreDC(m_dc, state);

@@ -286,9 +286,7 @@ void ObjectRun::Draw(Gdiplus::Graphics& g, const std::function<void()>& own) {
     g.TranslateTransform(centre.X, centre.Y);
     g.RotateTransform(m_look.angle);
     g.TranslateTransform(-centre.X, -centre.Y);
-    // What is drawn asks the scope for places where it does not stand; and pictures cannot be copied as they
-    // are.
-    const Lumo::PaintScope all(kEverywhere);
+    // Pictures cannot be copied as they are.
     const DirectPaint none(nullptr);
     DrawUpright(g, own);
 }
@@ -300,7 +298,7 @@ void ObjectRun::DrawUpright(Gdiplus::Graphics& g, const std::function<void()>& o
         own();
         return;
     }
-    if (Lumo::PaintScope::Misses(Lumo::Inflated(bounds, RunMargin(m_object))))
+    if (Lumo::PaintScope::Misses(g, Lumo::Inflated(bounds, RunMargin(m_object))))
         return;
     if (m_look.filled >= 0.0f && !m_look.hideFill)
         DrawFilled(g);

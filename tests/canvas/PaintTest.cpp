@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <typeinfo>
+
 using namespace Lumo;
 
 namespace {
@@ -16,7 +19,7 @@ class Watched : public CUIObjectRectangle {
 public:
     explicit Watched(const Gdiplus::RectF& rect) : CUIObjectRectangle(rect, DS_RECTANGLE) {}
     void Draw(Gdiplus::Graphics* g) override {
-        drawn += !PaintScope::Misses(GetPosition());
+        drawn += !PaintScope::Misses(*g, GetPosition());
         CUIObjectRectangle::Draw(g);
     }
     int drawn = 0;
@@ -90,6 +93,85 @@ TEST_F(PaintTest, DraggingOneShapeOverManyRepaintsOnlyItsRectangle) {
         drawn += object->drawn;
     EXPECT_GT(drawn, 0);
     EXPECT_LT(drawn, 200);  // 34 by 34 units hold about 9 by 12 of them
+}
+
+// Objects of a host that do not draw library objects where their rectangles say: what a partial paint leaves
+// out must not follow from that.
+
+class WithMovedChild : public CUIObjectRectangle {
+public:
+    WithMovedChild() : CUIObjectRectangle({210, 40, 90, 60}, DS_RECTANGLE) {}
+    void Draw(Gdiplus::Graphics* g) override {
+        const Gdiplus::GraphicsState state = g->Save();
+        g->TranslateTransform(200, 30);
+        m_child.Draw(g);
+        g->Restore(state);
+    }
+
+private:
+    CUIObjectRectangle m_child{{10, 10, 90, 60}, DS_RECTANGLE};
+};
+
+class Turned : public CUIObjectRectangle {
+public:
+    Turned() : CUIObjectRectangle({210, 70, 90, 4}, DS_RECTANGLE) {}
+    void Draw(Gdiplus::Graphics* g) override {
+        const Gdiplus::GraphicsState state = g->Save();
+        g->TranslateTransform(255, 72);
+        g->RotateTransform(90);
+        g->TranslateTransform(-255, -72);
+        CUIObjectRectangle::Draw(g);
+        g->Restore(state);
+    }
+};
+
+class Enlarged : public CUIObjectRectangle {
+public:
+    Enlarged() : CUIObjectRectangle({210, 40, 90, 60}, DS_RECTANGLE) {}
+    void Draw(Gdiplus::Graphics* g) override {
+        g->SetPageUnit(Gdiplus::UnitPixel);
+        g->SetPageScale(2.0f);
+        m_child.Draw(g);
+        g->SetPageScale(1.0f);
+        g->SetPageUnit(Gdiplus::UnitDisplay);
+    }
+
+private:
+    CUIObjectRectangle m_child{{105, 20, 45, 30}, DS_RECTANGLE};
+};
+
+// Fills its picture in the first paint that it takes part in, and keeps it.
+class WithPicture : public CUIObjectRectangle {
+public:
+    WithPicture() : CUIObjectRectangle({210, 40, 90, 60}, DS_RECTANGLE) {}
+    void Draw(Gdiplus::Graphics* g) override {
+        if (!m_picture) {
+            m_picture = std::make_unique<Gdiplus::Bitmap>(90, 60, PixelFormat32bppPARGB);
+            Gdiplus::Graphics own(m_picture.get());
+            CUIObjectRectangle({0, 0, 90, 60}, DS_RECTANGLE).Draw(&own);
+        }
+        g->DrawImage(m_picture.get(), 210, 40);
+    }
+
+private:
+    std::unique_ptr<Gdiplus::Bitmap> m_picture;
+};
+
+TEST_F(PaintTest, APartialPaintShowsWhatAFullPaintShows) {
+    for (CUIObject* object :
+         {static_cast<CUIObject*>(new WithMovedChild), static_cast<CUIObject*>(new Turned),
+          static_cast<CUIObject*>(new Enlarged), static_cast<CUIObject*>(new WithPicture)}) {
+        SCOPED_TRACE(typeid(*object).name());
+        m_canvas->UpdateWindow();
+        m_document->AppendObject(object, nullptr);
+        m_canvas->InvalidateRect(CRect(240, 80, 270, 95));
+        m_canvas->UpdateWindow();
+        const Gdiplus::ARGB argb = PixelAt(255, 88);
+        EXPECT_NE(argb, 0xFF000000u);
+        EXPECT_EQ(WindowPixel(*m_canvas, 255, 88), RGB((argb >> 16) & 0xFF, (argb >> 8) & 0xFF, argb & 0xFF));
+        CUIDocument::DestroyObject(object);
+        m_canvas->Invalidate();
+    }
 }
 
 TEST_F(PaintTest, RemovedObjectsAreNotDrawnUnlessTheyAreTheFocus) {

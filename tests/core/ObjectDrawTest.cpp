@@ -1,3 +1,4 @@
+#include <memory>
 #include <vector>
 
 #include "appearance/UIObjectRectangle.h"
@@ -129,7 +130,7 @@ TEST(CaptionTest, TallCaptionIsPaintedWhereItReachesBeyondTheObject) {
     const CRect painted = whole.Painted();
     ASSERT_LT(painted.top, 85);
     {
-        PaintScope scope(Gdiplus::RectF(100, 0, 100, painted.top + 2));
+        PaintScope scope(part.graphics(), Gdiplus::RectF(100, 0, 100, painted.top + 2));
         object.Draw(part);
     }
     EXPECT_EQ(part.Painted().top, painted.top);
@@ -159,25 +160,57 @@ TEST(TrackerTest, FollowsHandlesThatAHostPlacesElsewhere) {
         Gdiplus::RectF GetHandleRect(int) override { return {150, 150, 8, 8}; }
     } object({0, 0, 20, 20}, DS_RECTANGLE);
     Surface surface(200, 200);
-    const PaintScope scope({140, 140, 30, 30});
+    const PaintScope scope(surface.graphics(), {140, 140, 30, 30});
     object.DrawTracker(surface);
     EXPECT_TRUE(surface.Shows(154, 154, 0xFF87CEEB));
 }
 
 TEST(PaintScopeTest, MissesOnlyWhatDoesNotTouch) {
-    EXPECT_FALSE(PaintScope::Misses({1000, 1000, 1, 1}));
-    PaintScope outer({10, 10, 20, 20});
-    EXPECT_FALSE(PaintScope::Misses({0, 0, 10, 10}));
-    EXPECT_FALSE(PaintScope::Misses({30, 30, 5, 0}));
-    EXPECT_TRUE(PaintScope::Misses({0, 0, 9.9f, 100}));
-    EXPECT_TRUE(PaintScope::Misses({0, 30.1f, 100, 100}));
+    Surface surface(30, 20), other(30, 20);
+    Gdiplus::Graphics& g = surface.graphics();
+    EXPECT_FALSE(PaintScope::Misses(g, {1000, 1000, 1, 1}));
+    PaintScope outer(g, {10, 10, 20, 20});
+    EXPECT_FALSE(PaintScope::Misses(g, {0, 0, 10, 10}));
+    EXPECT_FALSE(PaintScope::Misses(g, {30, 30, 5, 0}));
+    EXPECT_TRUE(PaintScope::Misses(g, {0, 0, 9.9f, 100}));
+    EXPECT_TRUE(PaintScope::Misses(g, {0, 30.1f, 100, 100}));
+    EXPECT_FALSE(PaintScope::Misses(other.graphics(), {0, 0, 9.9f, 100}));
     {
-        PaintScope inner({100, 100, 10, 10});
-        EXPECT_TRUE(PaintScope::Misses({15, 15, 1, 1}));
-        EXPECT_FALSE(PaintScope::Misses({105, 105, 1, 1}));
+        PaintScope elsewhere(other.graphics(), {200, 200, 10, 10});
+        EXPECT_FALSE(PaintScope::Misses(g, {15, 15, 1, 1}));
+        PaintScope inner(g, {100, 100, 10, 10});
+        EXPECT_TRUE(PaintScope::Misses(g, {15, 15, 1, 1}));
+        EXPECT_FALSE(PaintScope::Misses(g, {105, 105, 1, 1}));
     }
-    EXPECT_FALSE(PaintScope::Misses({15, 15, 1, 1}));
-    EXPECT_TRUE(PaintScope::Misses({105, 105, 1, 1}));
+    EXPECT_FALSE(PaintScope::Misses(g, {15, 15, 1, 1}));
+    EXPECT_TRUE(PaintScope::Misses(g, {105, 105, 1, 1}));
+}
+
+TEST(PaintScopeTest, FollowsAShiftAndNothingElse) {
+    Surface surface(30, 20);
+    Gdiplus::Graphics& g = surface.graphics();
+    g.SetTransform(std::make_unique<Gdiplus::Matrix>(2.0f, 0.5f, -1.0f, 3.0f, 7.0f, 11.0f).get());
+    const PaintScope scope(g, {10, 20, 30, 5});
+    g.TranslateTransform(100, -40);
+    const Gdiplus::RectF part = PaintScope::PartOf(g);
+    EXPECT_NEAR(part.X, -90, 0.01);
+    EXPECT_NEAR(part.Y, 60, 0.01);
+    EXPECT_EQ(part.Width, 30);
+    EXPECT_EQ(part.Height, 5);
+    const auto everything = [&] { return PaintScope::PartOf(g).Contains(1.0e6f, -1.0e6f); };
+    EXPECT_FALSE(everything());
+    {
+        GraphicsStateScope state(g);
+        g.RotateTransform(1);
+        EXPECT_TRUE(everything());
+    }
+    EXPECT_FALSE(everything());
+    g.SetPageScale(1.5f);
+    EXPECT_TRUE(everything());
+    g.SetPageScale(1.0f);
+    EXPECT_FALSE(everything());
+    g.SetPageUnit(Gdiplus::UnitMillimeter);
+    EXPECT_TRUE(everything());
 }
 
 TEST(PaintScopeTest, ChangesNoPixelOfTheUpdateRectangle) {
@@ -199,7 +232,7 @@ TEST(PaintScopeTest, ChangesNoPixelOfTheUpdateRectangle) {
 TEST(PaintScopeTest, ObjectOutsideIsNotPainted) {
     Surface surface(200, 200);
     CUIObjectRectangle object({20, 20, 60, 30}, DS_RECTANGLE);
-    PaintScope scope({150, 150, 50, 50});
+    PaintScope scope(surface.graphics(), {150, 150, 50, 50});
     object.Draw(surface);
     object.DrawTracker(surface);
     EXPECT_TRUE(surface.Painted().IsRectEmpty());

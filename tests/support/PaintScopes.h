@@ -16,7 +16,7 @@ void ExpectSamePixelsInEveryUpdate(int width, int height, int step, Draw draw) {
         for (int left = 0; left < width; left += step) {
             Surface part(width, height);
             const CRect update(left, top, left + step, top + step);
-            const Lumo::PaintScope scope(Lumo::RectGdiFromAtl(update));
+            const Lumo::PaintScope scope(part.graphics(), Lumo::RectGdiFromAtl(update));
             draw(part);
             for (int y = update.top; y < update.bottom; ++y)
                 for (int x = update.left; x < update.right; ++x)
