@@ -154,9 +154,11 @@ TEST(Archive, EveryCutOfAStreamIsNoticed) {
 
 TEST(Archive, LoadingATextThatIsThereAlreadyKeepsItShared) {
     const CString usual(L"Arial");
-    Loader loader(Stored([&](CArchive& ar) { ar << usual << CString(L"Other"); }));
+    // Behind something else, so that the archive's buffer holds it.
+    Loader loader(Stored([&](CArchive& ar) { ar << 7 << usual << CString(L"Other"); }));
     CString same = usual, other = usual;
-    loader.ar >> same >> other;
+    int seven;
+    loader.ar >> seven >> same >> other;
     EXPECT_EQ(usual.GetString(), same.GetString());
     EXPECT_EQ(other, L"Other");
     EXPECT_EQ(usual, L"Arial");
