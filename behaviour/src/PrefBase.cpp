@@ -6,7 +6,7 @@
 
 namespace {
 
-// kept: the archive holds only the low 16 bits of a value; files depend on it.
+// Kept: the archive holds only the low 16 bits of a value; files depend on it.
 void ArchiveNarrow(CArchive& ar, int& value) {
     WORD word = static_cast<WORD>(value);
     Lumo::ArchiveFields(ar, word);

@@ -55,7 +55,7 @@ CPrefTrend& CPrefTrend::operator=(const CPrefTrend& source) {
     if (this == &source)
         return *this;
     pref::CopyFields(*this, source, kTrendFields);
-    // kept: the lines that were in the list are unlinked, not destroyed; they are their owner's.
+    // Kept: the lines that were in the list are unlinked, not destroyed; they are their owner's.
     m_lines.clear();
     for (CPrefTrendLine* line : source.m_lines) {
         if (line)

@@ -36,7 +36,7 @@ void CUIObjectButton::Init(DrawShape kind, Gdiplus::RectF& rect) {
     m_dwDrawStyle = 0;
 }
 
-// kept: rectangular buttons are tested by their inscribed ellipse too.
+// Kept: rectangular buttons are tested by their inscribed ellipse too.
 int CUIObjectButton::HitTest(Gdiplus::RectF& rect) {
     return HitEllipse(rect, GetPosition(), GetLineWidth());
 }
@@ -48,7 +48,7 @@ void CUIObjectButton::Serialize(CArchive& ar) {
     ArchiveFields(ar, m_dwButtonStyle, m_dwRadioGroup, m_dwButtonState, m_bChecked, m_bTracking,
                   m_strTooltip);
     ArchiveFields(ar, m_bDrawNormal, m_bDrawDown, m_bDrawFocus, m_bSpare, m_bOver, m_bDrawDisabled);
-    // kept: the checked field stands in the archive twice, and the second one remains.
+    // Kept: the checked field stands in the archive twice, and the second one remains.
     ArchiveFields(ar, m_bChecked, m_bBorder, m_dwDrawStyle);
 }
 
@@ -102,7 +102,7 @@ void CUIObjectButtonRect::Init(DrawShape kind, Gdiplus::RectF& rect) {
     SetAllDrawFlags();
 }
 
-// kept: unlike the other shapes, a rectangular button starts with every draw flag set, the over flag
+// Kept: unlike the other shapes, a rectangular button starts with every draw flag set, the over flag
 // included.
 void CUIObjectButtonRect::SetAllDrawFlags() {
     m_bDrawNormal = TRUE;

@@ -35,7 +35,7 @@ CUIObjectList& CUIObjectList::operator=(const CUIObjectList& source) {
         return *this;
     CUIObject::operator=(source);
     DetachChildren();
-    // kept: a copy shares the children of its source.
+    // Kept: a copy shares the children of its source.
     for (CUIObject* child : source.m_children)
         AppendChild(child);
     m_nInitialWidth = source.m_nInitialWidth;
@@ -120,7 +120,7 @@ void CUIObjectList::NormalizeRect(Gdiplus::RectF& rect) {
 void CUIObjectList::Draw(Gdiplus::Graphics* g) {
     const Gdiplus::RectF own = GetPosition();
     for (CUIObject* child : m_children) {
-        // kept: the child is not set back after drawing, so every paint moves it on by the group's position.
+        // Kept: the child is not set back after drawing, so every paint moves it on by the group's position.
         child->SetPosition(Moved(child->GetPosition(), own.X, own.Y));
         child->Draw(g);
     }
@@ -130,7 +130,7 @@ int CUIObjectList::HitTest(Gdiplus::RectF& rect) {
     for (CUIObject* child : m_children) {
         const Gdiplus::RectF position = child->GetPosition();
         const int hit = child->HitTest(rect);
-        // kept: storing the position again folds a dragging offset into the stored point.
+        // Kept: storing the position again folds a dragging offset into the stored point.
         child->SetPosition(position);
         if (hit)
             return 1;

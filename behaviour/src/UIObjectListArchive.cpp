@@ -56,7 +56,7 @@ void CUIObjectList::SkipStoredChildren(CArchive& ar) {
     for (int i = 0; i < count; ++i) {
         int kind = 0;
         ar >> kind;
-        // kept: the object only consumes its data, the group takes no children from an archive.
+        // Kept: the object only consumes its data, the group takes no children from an archive.
         const std::unique_ptr<CUIObject, void (*)(CUIObject*)> child(
             CUIToolBase::CreateUIObject(Gdiplus::RectF(0, 0, 0, 0), static_cast<DrawShape>(kind)),
             &CUIDocument::DestroyObject);

@@ -79,7 +79,7 @@ void CUICanvas::OnToolsAlignCenter() {
 }
 
 void CUICanvas::RotateSelection(float angle) {
-    // kept: the turning rectangle of several objects reaches to the origin.
+    // Kept: the turning rectangle of several objects reaches to the origin.
     const Gdiplus::RectF bounds = RectGdiFromAtl(GetSelectionRect());
     const bool several = m_selection.size() > 1;
     if (several && bounds.IsEmptyArea())

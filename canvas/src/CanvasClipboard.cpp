@@ -100,7 +100,7 @@ void CUICanvas::OnEditObjectCut() {
 void CUICanvas::OnEditObjectDelete() {
     if (m_pDocument == nullptr)
         return;
-    // kept: each call hides the first object of the page, whatever object is passed.
+    // Kept: each call hides the first object of the page, whatever object is passed.
     const CUIObjectDeque selected = m_selection;
     for (CUIObject* object : selected)
         m_pDocument->RemoveObject(object, 0);
@@ -116,7 +116,7 @@ void CUICanvas::OnEditObjectPaste() {
         UpdateCanvas(nullptr, 2, nullptr);
         m_selection.clear();
         if (m_pDocument != nullptr) {
-            // kept: what a paste adds are the objects still selected, and there are none.
+            // Kept: what a paste adds are the objects still selected, and there are none.
             if (clipboard.IsDataAvailable(m_cfObject)) {
                 for (CUIObject* object : m_selection)
                     m_pDocument->AppendObject(object, nullptr);

@@ -38,7 +38,7 @@ void MoveIntoGroup(CUIObjectList* group, const CUIObjectDeque& objects, CUIObjec
 }  // namespace
 
 void CUICanvas::OnToolsMakeGroup() {
-    // kept: the group's rectangle reaches to the origin.
+    // Kept: the group's rectangle reaches to the origin.
     const Gdiplus::RectF bounds = RectGdiFromAtl(GetSelectionRect());
     if (bounds.IsEmptyArea() || m_pDocument == nullptr)
         return;
@@ -63,7 +63,7 @@ void CUICanvas::OnToolsMakeUngroup() {
     if (group == nullptr)
         return;
     CWaitCursor wait;
-    m_pDocument->RemoveObject(group, 0);  // kept: it hides the first object of the page, whichever that is
+    m_pDocument->RemoveObject(group, 0);  // Kept: it hides the first object of the page, whichever that is
     m_selection.clear();
     group->MakeUnGroup(&m_selection);
     for (CUIObject* child : m_selection)

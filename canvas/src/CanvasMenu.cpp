@@ -22,7 +22,7 @@ constexpr MenuItem kMenu[] = {
     kSeparator,
     {ID_POSITION_BACKWARD, L"뒤로 보내기(&B)"},
     {ID_POSITION_FORWARD, L"앞으로 가져오기(&F)"},
-    {ID_POSITION_BACK, L"맨 뒤로 보내기(&K)"},  // kept: 6504 stands before 6503
+    {ID_POSITION_BACK, L"맨 뒤로 보내기(&K)"},  // Kept: 6504 stands before 6503
     {ID_POSITION_FRONT, L"맨 앞으로 가져오기(&R)"},
     kSeparator,
     {ID_ROTATE_LEFT, L"왼쪽으로 90도 회전(&L)"},
@@ -37,7 +37,7 @@ constexpr MenuItem kMenu[] = {
     {ID_ALIGN_BOTTOM, L"아래쪽 맞춤()"},
     {ID_ALIGN_VCENTER, L"가운데 맞춤()"},
     {ID_ALIGN_HCENTER, L"중간 맞춤()"},
-    {ID_ALIGN_CENTER, L"아래쪽 맞춤()"},  // kept: the label of 6512
+    {ID_ALIGN_CENTER, L"아래쪽 맞춤()"},  // Kept: the label of 6512
     kSeparator,
     {ID_MODE_DRAW, L"그리기 모드"},
     {ID_MODE_POLY, L"폴리 모드"},
@@ -51,7 +51,7 @@ constexpr MenuItem kMenu[] = {
     {ID_OBJECT_UNDO, L"되돌리기"},
     {ID_OBJECT_REDO, L"다시실행"},
     kSeparator,
-    {ID_DOCUMENT_LOAD, L"불러오기 &R)"},  // kept: the unbalanced parenthesis
+    {ID_DOCUMENT_LOAD, L"불러오기 &R)"},  // Kept: the unbalanced parenthesis
     {ID_DOCUMENT_SAVE, L"저장하기 (&S)"},
     kSeparator,
     {ID_OBJECT_PROPERTIES, L"속성(&P)"},

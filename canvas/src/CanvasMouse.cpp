@@ -13,7 +13,7 @@ namespace Lumo {
 
 namespace {
 
-constexpr int kZoomPercent = 100;  // kept: frozen, so that one page unit is one pixel on the screen
+constexpr int kZoomPercent = 100;  // Kept: frozen, so that one page unit is one pixel on the screen
 
 // How many device pixels of a printer make the window's extent; a device of no size counts as one millimetre.
 int PrintExtent(const CDC& dc, int resolution, int millimetres) {

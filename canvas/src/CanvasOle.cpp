@@ -46,7 +46,7 @@ void CUICanvas::OnInsertOleObject() {
         CreateItem(dialog, item);
         m_pDocument->AppendObject(object.release(), nullptr);
         item->UpdateLink();
-        // kept: loads the task bar's class and asks it for nothing.
+        // Kept: loads the task bar's class and asks it for nothing.
         ::CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskbarList, nullptr);
     } catch (CException* exception) {
         exception->Delete();

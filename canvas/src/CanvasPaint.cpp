@@ -62,7 +62,7 @@ void CUICanvas::Draw(Gdiplus::Graphics* g, int cx, int cy) {
     if (m_pDocument)
         m_pDocument->DrawCanvas(g, this);
     for (CUIObject* object : m_selection) {
-        CUIToolBase::FindTool(DS_SELECT);  // kept: the tool is looked up and the answer not used
+        CUIToolBase::FindTool(DS_SELECT);  // Kept: the tool is looked up and the answer not used
         object->DrawTracker(g);
     }
 }

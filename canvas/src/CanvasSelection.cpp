@@ -67,13 +67,13 @@ BOOL CUICanvas::IsSelected(const CUIObject* obj) {
 }
 
 void CUICanvas::SelectWithinRect(CRect, int add, int) {
-    // kept: no object is a candidate, so the rubber band only empties the selection.
+    // Kept: no object is a candidate, so the rubber band only empties the selection.
     if (!add)
         Select(nullptr, 0);
 }
 
 CRect CUICanvas::GetSelectionRect() {
-    // kept: the union starts from the origin.
+    // Kept: the union starts from the origin.
     Gdiplus::RectF bounds(0.0f, 0.0f, 0.0f, 0.0f);
     for (CUIObject* object : m_selection)
         bounds = United(bounds, object->GetPosition());

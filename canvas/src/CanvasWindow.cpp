@@ -58,7 +58,7 @@ int CUICanvas::Init(int bSkipDisplayQuery, CSize& size) {
     if (!bSkipDisplayQuery) {
         CDC display;
         display.CreateDC(L"DISPLAY", nullptr, nullptr, nullptr);
-        display.GetDeviceCaps(BITSPIXEL);  // kept: the colour depth is asked for and not used
+        display.GetDeviceCaps(BITSPIXEL);  // Kept: the colour depth is asked for and not used
     }
     return 1;
 }

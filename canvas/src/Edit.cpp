@@ -76,7 +76,7 @@ void CUIEdit::SaveText() {
     CString text;
     GetWindowText(text);
     m_pObject->SetText(text);
-    // kept: in the control's own font the object stays marked as being edited.
+    // Kept: in the control's own font the object stays marked as being edited.
     if (GetFont() != nullptr)
         m_pObject->SetEditing(0);
 }

@@ -33,7 +33,7 @@ void CUINotifyBase::OnDrag(CWnd*, UINT, const CPoint&) {}
 void CUINotifyBase::OnDragLeave(CWnd*, UINT, const CPoint&) {}
 void CUINotifyBase::OnKeyDown(CWnd*, UINT, UINT, LPARAM) {}
 
-// kept: the reserved words and the drag state are left as they come; the first press sets the state.
+// Kept: the reserved words and the drag state are left as they come; the first press sets the state.
 CUINotifyHandler::CUINotifyHandler() : m_ptPress(0, 0), m_ptLast(0, 0), m_ptCursor(0, 0) {}
 
 void CUINotifyHandler::OnLButtonDown(CWnd*, UINT, UINT, LPARAM packed) {
@@ -59,7 +59,7 @@ void CUINotifyHandler::OnMouseMove(CWnd* wnd, UINT, UINT flags, LPARAM packed) {
 
 void CUINotifyHandler::OnLButtonUp(CWnd* wnd, UINT, UINT flags, LPARAM packed) {
     m_ptLast = UnpackPoint(packed);
-    // kept: a release next to the press sends no end and leaves the drag open.
+    // Kept: a release next to the press sends no end and leaves the drag open.
     if (m_nDragState == DRAG_DRAGGING && IsOutsidePressBox(m_ptPress, m_ptLast)) {
         m_nDragState = DRAG_ENDED;
         OnDragLeave(wnd, flags, m_ptLast);

@@ -14,7 +14,7 @@ bool IsLeftButtonDown() {
 
 }  // namespace
 
-// kept: marker, reserved word and drag state are left as they come; the first press sets the state.
+// Kept: marker, reserved word and drag state are left as they come; the first press sets the state.
 CUINotifyHandlerEx::CUINotifyHandlerEx() : m_ptCurrent(0, 0), m_ptPrevious(0, 0) {}
 
 void CUINotifyHandlerEx::OnLButtonDown(CWnd*, UINT, UINT, LPARAM) {

@@ -32,7 +32,7 @@ CUISymbolTool g_buttonBandTool(DS_BUTTONBAND);
 CUISymbolTool g_chartPeqTool(DS_CHARTPEQ);
 CUISelectTool g_selectTool;
 CUITextTool g_textTool;
-CUISelectTool g_secondSelectTool;  // kept: never found, the first one wins
+CUISelectTool g_secondSelectTool;  // Kept: never found, the first one wins
 CUIMultiDownTool g_lineTool(DS_LINE);
 CUIMultiDownTool g_polyLineTool(DS_POLYLINE);
 
@@ -81,7 +81,7 @@ CUIObject* CUIToolBase::CreateUIObject(Gdiplus::RectF rect, DrawShape kind) {
         return new CUIObjectPolyLine(rect, kind);
     if (CUIObject* object = MakeAreaObject(kind, rect))
         return object;
-    // kept: unlike the document's factory, this one makes a line of every kind that has no class of its own.
+    // Kept: unlike the document's factory, this one makes a line of every kind that has no class of its own.
     return new CUIObjectLine(rect, kind);
 }
 

@@ -55,7 +55,7 @@ void CUIDocument::Release() {
     delete this;
 }
 
-// kept: the objects of a document that was not cleared stay alive; they only lose their pointer to it.
+// Kept: the objects of a document that was not cleared stay alive; they only lose their pointer to it.
 void CUIDocument::LeaveObjects() {
     for (auto& [canvas, objects] : m_pages) {
         if (!objects)

@@ -49,13 +49,13 @@ CUIObject* FindByName(const CUIObjectDeque* objects, const CString& name) {
 }  // namespace
 
 CUIObject* CUIDocument::CreateObject(DrawShape kind, CRect rect) {
-    // kept: lines and polylines, which the tools' factory makes, are not made here.
+    // Kept: lines and polylines, which the tools' factory makes, are not made here.
     CUIObject* object = MakeAreaObject(kind, RectGdiFromAtl(rect));
     if (object) {
         object->SetDocument(this);
         object->SetCanvas(GetCurrentCanvas());
     } else if (GetCurrentCanvas()) {
-        m_bModified = 1;  // kept: a kind that makes no object still marks a document with a page as modified
+        m_bModified = 1;  // Kept: a kind that makes no object still marks a document with a page as modified
     }
     AppendObject(object, nullptr);
     return object;

@@ -284,7 +284,7 @@ void CanvasMonkey::Check() {
     RequireFreeMouse("moving the mouse captures it");
 }
 
-// Kept by the library: a group takes no children from an archive.
+// Kept: a group takes no children from an archive.
 void CanvasMonkey::CheckThoroughly() {
     for (const auto& [canvas, objects] : m_host.Document().GetCanvasList()) {
         for (CUIObject* object : *objects) {

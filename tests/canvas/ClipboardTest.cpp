@@ -145,7 +145,7 @@ TEST_F(Clipboard, CutWithoutASelectionOffersAnEmptySet) {
     EXPECT_EQ(a->GetRemoved(), 0);
 }
 
-// kept: a deletion hides the first object of the page, once for each selected object.
+// Kept: a deletion hides the first object of the page, once for each selected object.
 TEST_F(Clipboard, DeletingHidesTheFirstObjectOfThePage) {
     CUIObject* first = AddRectangle(10, 20, 30, 40);
     CUIObject* a = AddRectangle(100, 100, 40, 20);
