@@ -22,8 +22,9 @@ public:
     explicit CUIToolBase(DrawShape kind);
     /// Takes the tool out of the registry.
     ~CUIToolBase();
-    CUIToolBase(const CUIToolBase&) = delete;
-    CUIToolBase& operator=(const CUIToolBase&) = delete;
+    /// Copies every field. A copy is not registered.
+    CUIToolBase(const CUIToolBase&) = default;
+    CUIToolBase& operator=(const CUIToolBase&) = default;
 
     // Slot order is part of the contract.
     /// Captures the mouse, stores the press point in `run_down` and `run_last`, shows the cross cursor. In
@@ -178,8 +179,6 @@ private:
     static CUIObjectPoly* Figure(CUICanvas* canvas);
     void BeginFigure(CUICanvas* canvas, const CPoint& point);
     void ContinueFigure(CUICanvas* canvas, UINT flags, const CPoint& point, CPoint& pt);
-
-    static const CUIObject* s_figure;  // the figure being drawn; compared, never followed
 };
 
 /// Opens the in-place editor on the text object under the pointer; anything else goes to the select tool.

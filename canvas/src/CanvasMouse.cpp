@@ -1,7 +1,7 @@
 // Coordinates, and the way of a mouse message to its tool.
 #include "canvas/UITool.h"
 #include "canvas/src/MappedDC.h"
-#include "canvas/src/ToolObjects.h"
+#include "canvas/src/Press.h"
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
 
@@ -97,11 +97,9 @@ void CUICanvas::OnLButtonDown(UINT flags, CPoint point) {
 
 void CUICanvas::OnLButtonUp(UINT flags, CPoint point) {
     CUIToolBase* tool = FindModeTool();
-    // Tools edit the current page only.
-    if (!tool || !m_pDocument || m_pDocument->GetCurrentCanvas() != this)
-        AbandonPress(this);
     if (tool)
         tool->OnLButtonUp(this, flags, point);
+    Press::Release(this, tool);
 }
 
 void CUICanvas::OnLButtonDblClk(UINT flags, CPoint point) {

@@ -4,6 +4,7 @@
 #include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UIEdit.h"
 #include "canvas/UITool.h"
+#include "canvas/src/Press.h"
 #include "core/UIDocument.h"
 
 #include <algorithm>
@@ -47,6 +48,7 @@ CUICanvas::CUICanvas(CUIDocument* document) : m_pDocument(document) {
 CUICanvas::~CUICanvas() {
     if (m_hWnd)
         DestroyWindow();
+    Press::Abandon(this);
     std::erase(Canvases(), this);
     CUIDocument::ForgetCanvas(this);
 }

@@ -1,4 +1,5 @@
 // Tools that create an object with one click or one drag, and the tool that relays events to a symbol.
+#include "canvas/src/Press.h"
 #include "canvas/src/ToolObjects.h"
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
@@ -39,23 +40,23 @@ void CUIDownUpTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& p
     object->SetText(object->GetShapeName());
     canvas->Select(object, 0);
     canvas->InvalidateObject(object);
+    Press::Draw(object);
     SelectTool().m_nDragMode = CUISelectTool::kHandle;
     run_handle = 2;
 }
 
 void CUIDownUpTool::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    if (IsCurrent(canvas) && HasCapture(canvas))
+    if (IsCurrent(canvas) && Press::HasMouse(canvas))
         SelectTool().OnMouseMove(canvas, flags, point);
 }
 
 void CUIDownUpTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    if (!IsCurrent(canvas) || !HasCapture(canvas))
+    if (!IsCurrent(canvas))
         return;
     const CRect tooSmall(run_down.x - kTooSmall, run_down.y - kTooSmall, run_down.x + kTooSmall,
                          run_down.y + kTooSmall);
-    // A gesture that another tool began in this mode has created nothing that could be too small.
-    const bool created = SelectTool().m_nDragMode == CUISelectTool::kHandle;
-    CUIObject* object = created ? FrontSelected(canvas) : nullptr;
+    // What another gesture of this mode drags is not new and may be of any size.
+    CUIObject* object = Press::Drawn(canvas);
     if (object && tooSmall.PtInRect(ToDoc(canvas, point))) {
         // Kept: both calls act on the first object of the page, which need not be the new one.
         CUIDocument* document = canvas->GetDocument();
@@ -66,6 +67,9 @@ void CUIDownUpTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& poi
         ShowCursor(IDC_ARROW);
     }
     SelectTool().OnLButtonUp(canvas, flags, point);
+    // It does not end a press that has lost the mouse.
+    if (Press::IsOn(canvas))
+        Press::End(canvas);
 }
 
 CUIDownTool::CUIDownTool(DrawShape kind) : CUIToolBase(kind) {}
@@ -86,7 +90,7 @@ void CUIDownTool::OnLButtonDown(CUICanvas* canvas, UINT, const CPoint&) {
 
 void CUIDownTool::OnLButtonUp(CUICanvas* canvas, UINT, const CPoint&) {
     if (IsCurrent(canvas))
-        EndPress();
+        Press::End(canvas);
 }
 
 void CUIDownTool::OnRButtonDown(CUICanvas* canvas, UINT, const CPoint&) {
@@ -101,7 +105,6 @@ void CUISymbolTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& p
 }
 
 void CUISymbolTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    AbandonPress(canvas);
     Relay(canvas, WM_LBUTTONUP, flags, point);
     ShowCursor(IDC_ARROW);
 }

@@ -1,4 +1,5 @@
 // Drawing a line or polyline point by point.
+#include "canvas/src/Press.h"
 #include "canvas/src/ToolObjects.h"
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
@@ -36,34 +37,32 @@ void AddFigurePoint(CUICanvas* canvas, CUIObjectPoly& figure, const CPoint& pt) 
 
 }  // namespace
 
-const CUIObject* CUIMultiDownTool::s_figure = nullptr;
-
 CUIMultiDownTool::CUIMultiDownTool(DrawShape kind) : CUIToolBase(kind) {}
 
-// The figure being drawn: the front selected object while it is the one this tool began, else null.
+// The figure being drawn, or null. A host ends it by setting `run_handle` to -1.
 CUIObjectPoly* CUIMultiDownTool::Figure(CUICanvas* canvas) {
-    CUIObject* front = FrontSelected(canvas);
-    return run_handle != -1 && front && front == s_figure ? dynamic_cast<CUIObjectPoly*>(front) : nullptr;
+    return run_handle != -1 ? dynamic_cast<CUIObjectPoly*>(Press::Drawn(canvas)) : nullptr;
 }
 
 void CUIMultiDownTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& point) {
     if (!IsCurrent(canvas))
         return;
-    CPoint pt = point;
-    if (Figure(canvas)) {
-        pt = ToDoc(canvas, point);
+    CUIObjectPoly* figure = Figure(canvas);
+    const CPoint anchor = run_down;
+    CUIToolBase::OnLButtonDown(canvas, flags, point);
+    CPoint pt = point;  // the first one is taken as it is
+    if (figure) {
+        pt = run_down;
         if (flags & MK_CONTROL)
-            MoveControl(run_down, pt);
-        const CPoint anchor = run_down;
-        CUIToolBase::OnLButtonDown(canvas, flags, point);
+            MoveControl(anchor, pt);
+        Press::Draw(figure);
         run_down = anchor;
         ContinueFigure(canvas, flags, point, pt);
     } else {
-        CUIToolBase::OnLButtonDown(canvas, flags, point);
         BeginFigure(canvas, pt);
     }
     run_down = run_last = pt;
-    SelectTool().m_nDragMode = CUISelectTool::kHandle;
+    SelectTool().m_nDragMode = Figure(canvas) ? CUISelectTool::kHandle : CUISelectTool::kNone;
 }
 
 void CUIMultiDownTool::BeginFigure(CUICanvas* canvas, const CPoint& pt) {
@@ -79,7 +78,7 @@ void CUIMultiDownTool::BeginFigure(CUICanvas* canvas, const CPoint& pt) {
     AddFigurePoint(canvas, *figure, pt);
     canvas->Select(figure, 0);
     canvas->InvalidateObject(figure);
-    s_figure = figure;
+    Press::Draw(figure);
     run_handle = 1;
 }
 
@@ -99,7 +98,7 @@ void CUIMultiDownTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& 
     if (!IsCurrent(canvas))
         return;
     if (!Figure(canvas)) {
-        AbandonPress(canvas);
+        Press::Abandon(canvas);
         return;
     }
     if (run_handle != 1)
@@ -111,7 +110,7 @@ void CUIMultiDownTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& 
 }
 
 void CUIMultiDownTool::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    if (!IsCurrent(canvas) || !HasCapture(canvas))
+    if (!IsCurrent(canvas) || !Press::HasMouse(canvas))
         return;
     CUIObjectPoly* figure = Figure(canvas);
     if (figure)
@@ -124,7 +123,6 @@ void CUIMultiDownTool::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& 
 void CUIMultiDownTool::OnLButtonDblClk(CUICanvas* canvas, UINT flags, const CPoint& point) {
     if (!IsCurrent(canvas))
         return;
-    ShowCursor(IDC_ARROW);
     CPoint pt = ToDoc(canvas, point);
     if (flags & MK_CONTROL)
         MoveControl(run_down, pt);
@@ -134,11 +132,8 @@ void CUIMultiDownTool::OnLButtonDblClk(CUICanvas* canvas, UINT flags, const CPoi
             AddFigurePoint(canvas, *figure, pt);
         canvas->InvalidateObject(figure);
     }
-    run_handle = -1;
     run_drawshape = DS_SELECT;
-    s_figure = nullptr;
-    if (HasCapture(canvas))
-        LetMouseGo();
+    Press::End(canvas);
 }
 
 }  // namespace Lumo

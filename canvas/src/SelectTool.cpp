@@ -1,4 +1,5 @@
 // Selecting, moving, reshaping by a handle, rubber band.
+#include "canvas/src/Press.h"
 #include "canvas/src/ToolObjects.h"
 #include "core/Geometry.h"
 #include "core/UIDocument.h"
@@ -58,7 +59,7 @@ void CUISelectTool::OnMouseMove(CUICanvas* canvas, UINT flags, const CPoint& poi
     if (!IsCurrent(canvas))
         return;
     CPoint pt = ToDoc(canvas, point);
-    if (IsIdle(flags) || !HasCapture(canvas)) {
+    if (!Press::HasMouse(canvas)) {
         Hover(canvas, pt);
         return;
     }
@@ -120,14 +121,13 @@ void CUISelectTool::Constrain(CUIObject* object, UINT flags, CPoint& pt) const {
 }
 
 void CUISelectTool::OnLButtonUp(CUICanvas* canvas, UINT flags, const CPoint& point) {
-    if (!IsCurrent(canvas) || !HasCapture(canvas))
+    if (!IsCurrent(canvas) || !Press::HasMouse(canvas))
         return;
     const CPoint pt = ToDoc(canvas, point);
     if (pt != run_down)
         FinishDrag(canvas, flags, pt);
-    EndPress();
-    run_handle = -1;
-    m_nDragMode = kNone;
+    Press::End(canvas);
+    m_nDragMode = kNone;  // of a host's select tool, too
 }
 
 void CUISelectTool::FinishDrag(CUICanvas* canvas, UINT flags, CPoint pt) {

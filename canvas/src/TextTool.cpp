@@ -1,6 +1,7 @@
 // The way into the in-place text editor.
 #include "behaviour/UIObjectTextEdit.h"
 #include "canvas/UIEdit.h"
+#include "canvas/src/Press.h"
 #include "canvas/src/ToolObjects.h"
 #include "core/UIDocument.h"
 
@@ -30,7 +31,7 @@ void CUITextTool::OnLButtonDown(CUICanvas* canvas, UINT flags, const CPoint& poi
 
 void CUITextTool::OnLButtonUp(CUICanvas* canvas, UINT, const CPoint&) {
     if (IsCurrent(canvas))
-        EndPress();
+        Press::End(canvas);
 }
 
 }  // namespace Lumo

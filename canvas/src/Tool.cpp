@@ -2,6 +2,7 @@
 #include "canvas/UITool.h"
 
 #include "canvas/UICanvas.h"
+#include "canvas/src/Press.h"
 #include "canvas/src/ToolObjects.h"
 #include "core/UIDocument.h"
 #include "core/UIObjectPoly.h"
@@ -14,10 +15,6 @@ namespace Lumo {
 
 std::deque<CUIToolBase*> CUIToolBase::m_tools;
 DrawShape CUIToolBase::run_drawshape = DS_RECTANGLE;  // until the first canvas is created
-int CUIToolBase::run_handle = -1;
-CPoint CUIToolBase::run_down(0, 0);
-CPoint CUIToolBase::run_last(0, 0);
-CRect CUIToolBase::run_h_rect(0, 0, 0, 0);
 
 namespace {
 
@@ -51,12 +48,7 @@ CUIToolBase::~CUIToolBase() {
 }
 
 void CUIToolBase::OnLButtonDown(CUICanvas* canvas, UINT, const CPoint& point) {
-    canvas->SetCapture();
-    g_pressed = true;
-    CPoint pt = point;
-    canvas->ClientToDoc(pt);
-    run_down = run_last = pt;
-    ShowCursor(IDC_CROSS);
+    Press::Begin(this, canvas, point);
 }
 
 void CUIToolBase::OnLButtonUp(CUICanvas*, UINT, const CPoint&) {}
