@@ -43,6 +43,10 @@ public:
     /// Sets the page size in pixels to `size` (0: the screen's) and switches interaction off. Kept:
     /// `bSkipDisplayQuery` makes no difference. Always 1.
     int Init(int bSkipDisplayQuery, CSize& size);
+    /// Width of the page in pixels; any number before `Init`.
+    int GetWidth() const { return m_nWidth; }
+    /// Height of the page in pixels, the same.
+    int GetHeight() const { return m_nHeight; }
     /// Switches interaction off and empties the selection without repainting.
     void Clear();
 
@@ -96,7 +100,7 @@ public:
     /// Adds `obj` to the front of the selection; with `add` 0 the selection is emptied first. Null just
     /// empties.
     void Select(CUIObject* obj, int add);
-    /// Takes `obj` out of the selection.
+    /// Takes `obj` out of the selection. The room of its handles is repainted, too.
     void Deselect(CUIObject* obj);
     /// Whether `obj` is selected.
     BOOL IsSelected(const CUIObject* obj);
@@ -124,11 +128,12 @@ public:
     void OnModeRunning() { m_nMode = CM_RUNNING; }
 
     /// Puts the selected objects on the clipboard: their archive records, newest selection first, and for a
-    /// single object also its caption as text. What fails is logged and leaves the clipboard as it was.
+    /// single object also its caption as text. What fails is logged, whatever it is, and leaves the clipboard
+    /// as it was.
     void OnEditObjectCopy();
-    /// Copies, then deletes.
+    /// Copies, then deletes, also when copying failed.
     void OnEditObjectCut();
-    /// Takes objects off the page, one for each selected object.
+    /// Hides the first object of the current page when anything is selected. The selection stays.
     void OnEditObjectDelete();
     /// Empties the selection and marks the document modified; adds nothing.
     void OnEditObjectPaste();
@@ -204,8 +209,8 @@ protected:
     afx_msg void OnNcDestroy();
 
     int m_nReserved1[2] = {};  ///< for hosts compiled against the layout
-    int m_nWidth;              ///< width of the page in pixels. Kept: not set before `Init`
-    int m_nHeight;             ///< height of the page, the same
+    int m_nWidth;              ///< see `GetWidth`. Kept: not set before `Init`
+    int m_nHeight;             ///< see `GetHeight`, the same
     int m_nReserved2[6] = {};  ///< for hosts compiled against the layout
 
 public:
@@ -241,7 +246,6 @@ private:
     template <class Restack>
     void RestackFront(Restack restack);
     void CopySelection();
-    bool TryCopySelection();
 
     static std::vector<CUICanvas*>& Canvases();
 

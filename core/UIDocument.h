@@ -129,8 +129,9 @@ public:
     void DrawCanvas(Gdiplus::Graphics* g);
     /// Draws the current page, with `focus` even when it is marked removed; a null `focus` draws nothing.
     void DrawObject(Gdiplus::Graphics* g, CUIObject* focus);
-    /// Repaints `canvas` (null: nothing): `hint` 0 the whole window; 1 the object `data`; 2 the selection of
-    /// every canvas of the auxiliary list. Other hints do nothing.
+    /// Repaints `canvas`: `hint` 0 the whole window; 1 the object `data`; 2 the selection of every canvas of
+    /// the auxiliary list. With null as `canvas` and `hint` 3 to 5 it passes both to `UpdateCanvas` of every
+    /// page. All else does nothing.
     void UpdateAllCanvas(CUICanvas* canvas, long hint, void* data);
 
     /// 1 after pages or objects came, went or were restacked. Clearing and loading set it to 0. Saving leaves
@@ -143,7 +144,7 @@ protected:
     /// Walked by `UpdateAllCanvas` with hint 2; nothing in the library fills it.
     std::deque<CUICanvas*> m_auxiliary;
     CUIPageMap m_pages;               ///< the pages; the lists and their objects are owned
-    ATOM m_atomCanvas = 0;            ///< the canvases' window class, 0 unless this document registered it
+    ATOM m_atomCanvas = 0;            ///< the class "Tessel Canvas"; 0 before the first `CreateCanvas`
     int m_bModified = 0;              ///< see `GetModifiedFlag`
     CUICanvas* m_pCurrent = nullptr;  ///< the current page's canvas, or null
 

@@ -9,6 +9,7 @@
 
 #include <Loggable.h>
 
+#include <exception>
 #include <memory>
 
 namespace Lumo {
@@ -25,9 +26,14 @@ void EnsureOle() {
         started = SUCCEEDED(::OleInitialize(nullptr));
 }
 
+struct FreeBlock {
+    void operator()(HGLOBAL block) const { ::GlobalFree(block); }
+};
+using Block = std::unique_ptr<void, FreeBlock>;
+
 // The records of the objects one after the other, without count or header, in moveable memory of just their
-// size. The caller owns it.
-HGLOBAL ArchiveObjects(const CUIObjectDeque& objects) {
+// size.
+Block ArchiveObjects(const CUIObjectDeque& objects) {
     CSharedFile file(GMEM_MOVEABLE, 4096);
     // An exception must not make the archive flush while it is unwound.
     CArchive archive(&file, CArchive::store | CArchive::bNoFlushOnDelete, 4096);
@@ -36,31 +42,36 @@ HGLOBAL ArchiveObjects(const CUIObjectDeque& objects) {
     archive.Close();
     if (file.GetLength() == 0) {
         // The clipboard takes no empty block; a byte is too short for any record.
-        return ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 1);
+        return Block(::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 1));
     }
     const auto size = static_cast<SIZE_T>(file.GetLength());
     HGLOBAL block = file.Detach();
     HGLOBAL trimmed = ::GlobalReAlloc(block, size, GMEM_MOVEABLE);
-    return trimmed != nullptr ? trimmed : block;
+    return Block(trimmed != nullptr ? trimmed : block);
 }
 
-HGLOBAL TextBlock(const CString& text) {
+Block TextBlock(const CString& text) {
     const SIZE_T size = (static_cast<SIZE_T>(text.GetLength()) + 1) * sizeof(WCHAR);
-    HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, size);
+    Block block(::GlobalAlloc(GMEM_MOVEABLE, size));
     if (block == nullptr)
         AfxThrowMemoryException();
-    ::CopyMemory(::GlobalLock(block), text.GetString(), size);
-    ::GlobalUnlock(block);
+    ::CopyMemory(::GlobalLock(block.get()), text.GetString(), size);
+    ::GlobalUnlock(block.get());
     return block;
 }
 
-void LogCopyException(CException* exception) {
-    WCHAR text[260] = L"";
-    exception->GetErrorMessage(text, _countof(text));
-    const CRuntimeClass* type = exception->GetRuntimeClass();
-    const CString name(type != nullptr ? type->m_lpszClassName : "CException");
-    CLoggable::AddLogLine(5, 0, L"[예외] Unknown %s exception in OnEditObjectCopy - %s", name.GetString(),
-                          text);
+// The block is the data source's once it has taken it.
+void Cache(COleDataSource& source, CLIPFORMAT format, Block block) {
+    source.CacheGlobalData(format, block.get());
+    static_cast<void>(block.release());
+}
+
+// What the log calls an exception without a run-time class.
+constexpr char kNoClass[] = "CException";
+
+void LogCopyException(LPCSTR type, LPCWSTR text) {
+    CLoggable::AddLogLine(5, 0, L"[예외] Unknown %s exception in OnEditObjectCopy - %s",
+                          CString(type).GetString(), text);
 }
 
 }  // namespace
@@ -68,33 +79,33 @@ void LogCopyException(CException* exception) {
 void CUICanvas::CopySelection() {
     EnsureOle();
     auto source = std::make_unique<COleDataSource>();
-    source->CacheGlobalData(m_cfObject, ArchiveObjects(m_selection));
+    Cache(*source, m_cfObject, ArchiveObjects(m_selection));
     if (m_selection.size() == 1)
-        source->CacheGlobalData(CF_UNICODETEXT, TextBlock(m_selection.front()->GetText()));
+        Cache(*source, CF_UNICODETEXT, TextBlock(m_selection.front()->GetText()));
     source->SetClipboard();
     static_cast<void>(source.release());  // the clipboard's from here on
 }
 
-// False, with a line in the log, when the selection could not be copied.
-bool CUICanvas::TryCopySelection() {
+void CUICanvas::OnEditObjectCopy() {
     try {
         CopySelection();
-        return true;
     } catch (CException* exception) {
-        LogCopyException(exception);
+        WCHAR text[260] = L"";
+        exception->GetErrorMessage(text, _countof(text));
+        const CRuntimeClass* type = exception->GetRuntimeClass();
+        LogCopyException(type != nullptr ? type->m_lpszClassName : kNoClass, text);
         exception->Delete();
-        return false;
+    } catch (const std::exception& exception) {
+        LogCopyException(kNoClass, CString(exception.what()));
+    } catch (...) {
+        LogCopyException(kNoClass, L"");
     }
 }
 
-void CUICanvas::OnEditObjectCopy() {
-    TryCopySelection();
-}
-
 void CUICanvas::OnEditObjectCut() {
-    // What could not be copied stays.
-    if (TryCopySelection())
-        OnEditObjectDelete();
+    // Kept: what could not be copied goes all the same.
+    OnEditObjectCopy();
+    OnEditObjectDelete();
 }
 
 void CUICanvas::OnEditObjectDelete() {

@@ -85,8 +85,12 @@ bool CUIDocument::HasList(const CUIObjectDeque* objects) const {
 
 // By index: what the objects of a page do as they end may make and end documents.
 void CUIDocument::ForgetCanvas(CUICanvas* canvas) {
-    for (size_t i = 0; i < Documents().size(); ++i)
-        Documents()[i]->DropPage(canvas);
+    for (size_t i = 0; i < Documents().size(); ++i) {
+        CUIDocument* document = Documents()[i];
+        if (document->m_pages.contains(canvas))
+            document->m_bModified = 1;
+        document->DropPage(canvas);
+    }
     for (CUIDocument* document : Documents()) {
         if (document->m_pCurrent == canvas)
             document->m_pCurrent = nullptr;

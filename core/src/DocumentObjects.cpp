@@ -178,16 +178,18 @@ void CUIDocument::DrawObject(Gdiplus::Graphics* g, CUIObject* focus) {
 }
 
 void CUIDocument::UpdateAllCanvas(CUICanvas* canvas, long hint, void* data) {
-    if (!canvas)
-        return;
-    if (hint == 0)
-        canvas->UpdateCanvas(canvas, 0, data);
-    else if (hint == 1)
+    const bool isForAll = hint >= 3 && hint <= 5;
+    if (!canvas && isForAll) {
+        for (const auto& [page, objects] : m_pages)
+            if (page)
+                page->UpdateCanvas(nullptr, hint, data);
+    } else if (canvas && (hint == 0 || hint == 1)) {
         canvas->UpdateCanvas(canvas, hint, data);
-    else if (hint == 2)
+    } else if (canvas && hint == 2) {
         for (CUICanvas* entry : m_auxiliary)
             if (entry)
                 entry->UpdateCanvas(canvas, hint, data);
+    }
 }
 
 }  // namespace Lumo

@@ -6,13 +6,16 @@
 #include "module/internal/Module.h"
 
 #include <iterator>
+#include <memory>
 
 namespace Lumo {
 
 bool CUIDocument::RegisterCanvasClass() {
     WNDCLASSEX known = {};
     known.cbSize = sizeof(known);
-    if (m_atomCanvas || ::GetClassInfoEx(ModuleHandle(), kCanvasClassName, &known))
+    if (!m_atomCanvas)
+        m_atomCanvas = static_cast<ATOM>(::GetClassInfoEx(ModuleHandle(), kCanvasClassName, &known));
+    if (m_atomCanvas)
         return true;
     WNDCLASSEX wndClass = {};
     wndClass.cbSize = sizeof(wndClass);
@@ -29,16 +32,20 @@ bool CUIDocument::RegisterCanvasClass() {
 int CUIDocument::CreateCanvas(DWORD style, CString&, CRect& rect, HWND parent) {
     if (!RegisterCanvasClass())
         return 0;
-    auto* canvas = new CUICanvas(this);
-    const LPCTSTR wndClass =
-        AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursor(nullptr, IDC_ARROW));
-    if (!canvas->CreateEx(0, wndClass, L"Canvas", style, rect.left, rect.top, rect.Width(), rect.Height(),
-                          parent, nullptr)) {
-        delete canvas;
+    LPCTSTR wndClass;
+    try {
+        wndClass =
+            AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursor(nullptr, IDC_ARROW));
+    } catch (CResourceException* exception) {
+        exception->Delete();
         return 0;
     }
-    AppendCanvas(canvas);
-    SetCurrentCanvas(canvas);
+    auto canvas = std::make_unique<CUICanvas>(this);
+    if (!canvas->CreateEx(0, wndClass, L"Canvas", style, rect.left, rect.top, rect.Width(), rect.Height(),
+                          parent, nullptr))
+        return 0;
+    AppendCanvas(canvas.get());
+    SetCurrentCanvas(canvas.release());
     return 1;
 }
 

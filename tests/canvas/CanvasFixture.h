@@ -74,10 +74,11 @@ protected:
     }
 
     // The canvas's invalid rectangle, which is then taken as painted.
-    CRect TakeUpdateRect() {
+    CRect TakeUpdateRect() { return TakeUpdateRect(*m_canvas); }
+    static CRect TakeUpdateRect(Lumo::CUICanvas& canvas) {
         CRect rect;
-        m_canvas->GetUpdateRect(&rect);
-        m_canvas->ValidateRect(nullptr);
+        canvas.GetUpdateRect(&rect);
+        canvas.ValidateRect(nullptr);
         return rect;
     }
 

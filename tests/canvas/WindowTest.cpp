@@ -1,6 +1,10 @@
 #include "canvas/CanvasFixture.h"
 
+#include "stress/support/Imports.h"
+
 #include <afxext.h>
+
+#include <memory>
 #include <gtest/gtest.h>
 
 using namespace Lumo;
@@ -8,6 +12,13 @@ using namespace Lumo;
 namespace {
 
 using WindowTest = CanvasFixture;
+
+// A document that shows what it keeps for derived ones.
+class OpenDocument : public CUIDocument {
+public:
+    using CUIDocument::m_atomCanvas;
+    using CUIDocument::m_auxiliary;
+};
 
 // A tool that counts what reaches it.
 class CountingTool : public CUIToolBase {
@@ -39,11 +50,62 @@ TEST_F(WindowTest, IsCreatedAsDescribed) {
     EXPECT_EQ(registered.hbrBackground, ::GetStockObject(BLACK_BRUSH));
 }
 
-TEST_F(WindowTest, FailsQuietlyWithoutAParent) {
+BOOL WINAPI KnowsNoClass(HINSTANCE, LPCWSTR, WNDCLASSW*) {
+    return FALSE;
+}
+
+ATOM WINAPI RegistersNoClass(const WNDCLASSW*) {
+    return 0;
+}
+
+TEST_F(WindowTest, FailsQuietlyWithoutAParentOrAWindowClass) {
     CString name;
     CRect rect(0, 0, 10, 10);
     EXPECT_EQ(m_document->CreateCanvas(WS_CHILD, name, rect, nullptr), 0);
+    ASSERT_TRUE(ReplaceImport(L"TesselAfx.dll", "GetClassInfoW", &KnowsNoClass));
+    ASSERT_TRUE(ReplaceImport(L"TesselAfx.dll", "RegisterClassW", &RegistersNoClass));
+    EXPECT_EQ(m_document->CreateCanvas(WS_CHILD, name, rect, m_parent.m_hWnd), 0);
+    ReplaceImport(L"TesselAfx.dll", "GetClassInfoW", &::GetClassInfoW);
+    ReplaceImport(L"TesselAfx.dll", "RegisterClassW", &::RegisterClassW);
     EXPECT_EQ(m_document->GetCanvasList().size(), 1u);
+    EXPECT_EQ(m_document->GetCurrentCanvas(), m_canvas);
+}
+
+TEST_F(WindowTest, EveryDocumentKnowsTheWindowClass) {
+    OpenDocument other;
+    CString name;
+    CRect rect(0, 0, 10, 10);
+    ASSERT_EQ(other.CreateCanvas(WS_CHILD, name, rect, m_parent.m_hWnd), 1);
+    WNDCLASSEX known = {};
+    known.cbSize = sizeof(known);
+    EXPECT_EQ(other.m_atomCanvas,
+              ::GetClassInfoEx(::GetModuleHandle(L"TesselCtrls.dll"), L"Tessel Canvas", &known));
+    delete other.GetCurrentCanvas();
+}
+
+TEST_F(WindowTest, ACanvasThatIsDestroyedTakesItsPageAndModifiesTheDocument) {
+    auto canvas = std::make_unique<CUICanvas>(m_document);
+    m_document->AppendCanvas(canvas.get());
+    m_document->SetModifiedFlag(0);
+    canvas.reset();
+    EXPECT_EQ(m_document->GetModifiedFlag(), 1);
+    EXPECT_EQ(m_document->GetCanvasList().size(), 1u);
+    EXPECT_EQ(m_document->GetCurrentCanvas(), nullptr);
+    m_document->SetModifiedFlag(0);
+    canvas = std::make_unique<CUICanvas>(m_document);
+    canvas.reset();
+    EXPECT_EQ(m_document->GetModifiedFlag(), 0) << "it had no page";
+}
+
+TEST_F(WindowTest, RemembersTheSizeOfThePage) {
+    CSize size(640, 0);
+    m_canvas->Init(0, size);
+    EXPECT_EQ(m_canvas->GetWidth(), 640);
+    EXPECT_EQ(m_canvas->GetHeight(), ::GetSystemMetrics(SM_CYSCREEN));
+    size = CSize(0, 480);
+    m_canvas->Init(1, size);
+    EXPECT_EQ(m_canvas->GetWidth(), ::GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_EQ(m_canvas->GetHeight(), 480);
 }
 
 TEST_F(WindowTest, TheModeChoosesTheToolAndTheInteractiveFlagSilencesIt) {
@@ -159,14 +221,69 @@ TEST_F(WindowTest, HintsSayWhatIsRepainted) {
 }
 
 TEST_F(WindowTest, TheDocumentPassesUpdatesOn) {
-    CUIObject* a = AddRectangle(10, 10, 10, 10);
-    TakeUpdateRect();
-    m_document->UpdateAllCanvas(nullptr, 0, nullptr);
-    EXPECT_TRUE(TakeUpdateRect().IsRectEmpty());
-    m_document->UpdateAllCanvas(m_canvas, 1, a);
-    EXPECT_EQ(TakeUpdateRect(), CRect(7, 7, 23, 23));
-    m_document->UpdateAllCanvas(m_canvas, 0, nullptr);
-    EXPECT_EQ(TakeUpdateRect(), CRect(0, 0, kWidth, kHeight));
+    CUICanvas* second = AddCanvas();
+    CUIObject* a = Add(DS_RECTANGLE, 10, 20, 30, 15);
+    CUIObject* b = Add(DS_RECTANGLE, 100, 120, 25, 10);
+    b->SetDrawShape(DS_OLE);
+    std::deque<CUIObject*> both = {a, b};
+    const CRect none;
+    const CRect ofA(7, 17, 43, 38);
+    const CRect ofB(97, 117, 128, 133);
+    const CRect ofBoth(7, 17, 128, 133);
+    const CRect whole(0, 0, kWidth, kHeight);
+    m_document->*(&OpenDocument::m_auxiliary) = {second};
+    const struct {
+        CUICanvas* canvas;
+        long hint;
+        void* data;
+        CRect first, second;
+    } rows[] = {
+        {m_canvas, 0, nullptr, whole, none},
+        {m_canvas, 1, a, ofA, none},
+        {m_canvas, 2, nullptr, none, CRect(97 - 3, 117 - 3, 128 + 3, 133 + 3)},  // with room for handles
+        {m_canvas, 3, &both, none, none},
+        {m_canvas, 5, nullptr, none, none},
+        {nullptr, 0, nullptr, none, none},
+        {nullptr, 1, a, none, none},
+        {nullptr, 2, nullptr, none, none},
+        {nullptr, 3, &both, ofBoth, CRect(7, 17, 131, 136)},
+        {nullptr, 3, &second->m_selection, ofB, none},  // the sender skips its own list
+        {nullptr, 4, &both, ofB, CRect(94, 114, 131, 136)},
+        {nullptr, 6, &both, none, none},
+        {nullptr, 5, nullptr, whole, whole},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        second->m_selection = {b};
+        TakeUpdateRect(*m_canvas);
+        TakeUpdateRect(*second);
+        m_document->UpdateAllCanvas(row.canvas, row.hint, row.data);
+        EXPECT_EQ(TakeUpdateRect(*m_canvas), row.first);
+        EXPECT_EQ(TakeUpdateRect(*second), row.second);
+    }
+    EXPECT_TRUE(second->m_selection.empty());
+}
+
+TEST_F(WindowTest, OtherPagesRepaintWhatACommandChanges) {
+    CUICanvas* other = AddCanvas();
+    m_document->SetCurrentCanvas(m_canvas);
+    CUIObject* object = AddRectangle(10, 20, 30, 15);
+    const struct {
+        void (CUICanvas::*command)();
+        CRect repainted;
+    } rows[] = {
+        {&CUICanvas::OnEditObjectDelete, CRect(7, 17, 43, 38)},
+        {&CUICanvas::OnToolsMakeGroup, CRect(-3, -3, 43, 38) & CRect(0, 0, kWidth, kHeight)},
+        {&CUICanvas::OnToolsMakeUngroup, CRect(7, 17, 43, 38)},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        if (m_canvas->m_selection.empty())
+            m_canvas->Select(object, 0);
+        TakeUpdateRect(*other);
+        (m_canvas->*row.command)();
+        EXPECT_EQ(TakeUpdateRect(*other), row.repainted);
+    }
 }
 
 TEST_F(WindowTest, AnUnknownScaleStepChangesNothing) {
