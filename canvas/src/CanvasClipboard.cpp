@@ -18,12 +18,14 @@ CLIPFORMAT CUICanvas::m_cfObject = static_cast<CLIPFORMAT>(::RegisterClipboardFo
 
 namespace {
 
-// The clipboard needs OLE on this thread. A host that has started it is left alone; for one that has not, OLE
-// is started once and stays, since what was copied lives as long as the thread.
+// The clipboard needs OLE on this thread. A host that has started it is left alone; for one that has not, the
+// class library starts it, and ends it with the thread so that what was copied stays on the clipboard.
 void EnsureOle() {
-    thread_local bool started = false;
-    if (!started)
-        started = SUCCEEDED(::OleInitialize(nullptr));
+    const HRESULT state = ::OleInitialize(nullptr);
+    if (SUCCEEDED(state))
+        ::OleUninitialize();
+    if (state == S_OK)
+        AfxOleInit();
 }
 
 struct FreeBlock {

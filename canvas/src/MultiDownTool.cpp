@@ -77,7 +77,6 @@ void CUIMultiDownTool::BeginFigure(CUICanvas* canvas, const CPoint& pt) {
     InsertObject(canvas, figure);
     AddFigurePoint(canvas, *figure, pt);
     canvas->Select(figure, 0);
-    canvas->InvalidateObject(figure);
     Press::Draw(figure);
     run_handle = 1;
 }

@@ -180,6 +180,20 @@ TEST_F(Clipboard, PasteAddsNothingAndLeavesAnEmptySet) {
     EXPECT_LT(ReadClipboard(PrivateFormat()).size(), sizeof(int));
 }
 
+TEST_F(Clipboard, CopyingLeavesOleAsItFindsIt) {
+    CUIObject* a = AddRectangle(10, 20, 30, 40);
+    Pick({a});
+    AfxOleTerm();
+    m_canvas->OnEditObjectCopy();
+    AfxOleTerm();
+    EXPECT_EQ(ReadClipboard(PrivateFormat()), Record(a)) << "it outlives OLE on this thread";
+    ASSERT_EQ(::OleInitialize(nullptr), S_OK) << "what the copy started has ended";
+    m_canvas->OnEditObjectPaste();
+    ::OleUninitialize();
+    EXPECT_EQ(::OleInitialize(nullptr), S_OK) << "the host's own start was the only one";
+    ::OleUninitialize();
+}
+
 class Unwritable : public CUIObject {
 public:
     void Serialize(CArchive& ar) override {

@@ -1,8 +1,7 @@
 #include "canvas/GestureScript.h"
 
-#include "canvas/GestureScript.h"
-
 #include <array>
+#include <iterator>
 #include <memory>
 #include <gtest/gtest.h>
 
@@ -31,8 +30,9 @@ TEST_F(ToolTest, TheThirteenToolsStandInTheirOrder) {
 TEST_F(ToolTest, SnapsToAxesAndDiagonals) {
     const struct {
         CPoint from, to;
-    } cases[] = {{{10, 4}, {10, 0}},  {{4, 10}, {0, 10}},    {{10, 6}, {6, 6}},  {{-10, 6}, {-6, 6}},
-                 {{10, -6}, {6, -6}}, {{-4, -10}, {0, -10}}, {{10, 5}, {10, 0}}, {{-7, -7}, {-7, -7}}};
+    } cases[] = {{{10, 4}, {10, 0}},  {{4, 10}, {0, 10}},    {{10, 6}, {6, 6}}, {{-10, 6}, {-6, 6}},
+                 {{10, -6}, {6, -6}}, {{-4, -10}, {0, -10}}, {{6, 10}, {6, 6}}, {{-6, -10}, {-6, -6}},
+                 {{10, 5}, {10, 0}},  {{-7, -7}, {-7, -7}}};
     for (const auto& c : cases) {
         CPoint pt = c.from + CSize(100, 200);
         CUIToolBase::MoveControl(CPoint(100, 200), pt);
@@ -43,11 +43,12 @@ TEST_F(ToolTest, SnapsToAxesAndDiagonals) {
 TEST_F(ToolTest, ClampsIntoTheLimit) {
     const struct {
         CPoint from, to;
-    } cases[] = {{{150, -20}, {100, 0}}, {{100, 50}, {100, 50}}, {{-1, 60}, {0, 50}}, {{40, 20}, {40, 20}}};
+    } cases[] = {{{150, -20}, {100, 10}}, {{100, 50}, {100, 50}}, {{19, 60}, {20, 50}}, {{40, 20}, {40, 20}},
+                 {{150, 30}, {100, 30}},  {{19, 30}, {20, 30}},   {{40, 9}, {40, 10}},  {{40, 51}, {40, 50}}};
     for (const auto& c : cases) {
         CPoint pt = c.from;
-        CUIToolBase::MoveControl(CRect(0, 0, 100, 50), pt);
-        EXPECT_EQ(pt, c.to);
+        CUIToolBase::MoveControl(CRect(20, 10, 100, 50), pt);
+        EXPECT_EQ(pt, c.to) << c.from.x << ", " << c.from.y;
     }
 }
 
@@ -214,8 +215,8 @@ TEST_F(ToolTest, TheFreeEndOfAFigureIsRepainted) {
     ExpectStates({
         {"tool:2", "press:50,60 hover:90,70 paint hover:60,95",
          "tool 2 drag 2 handle 1 held cross a1{50,60 +10,35} repaint 40,50,100,105"},
-        {"tool:2", "press:50,60 hover:90,70 paint press:60,65",
-         "tool 2 drag 2 handle 2 held cross a1{50,60 60,65 +0,0} repaint 40,50,100,80"},
+        {"tool:2", "press:50,60 hover:90,70 paint press:20,95",
+         "tool 2 drag 2 handle 2 held cross a1{50,60 20,95 +0,0} repaint 14,50,100,101"},
         {"tool:2", "press:50,60 hover:90,70 paint double:60,95",
          "tool 16 drag 0 handle -1 arrow a1{50,60 60,95 +0,0} repaint 40,50,100,101"},
     });
@@ -312,6 +313,15 @@ TEST_F(ToolTest, AHostsToolSeesThePressWhereverItEnds) {
         EXPECT_EQ(::GetCapture(), nullptr) << change;
         m_document->AppendCanvas(m_canvas);
     }
+}
+
+TEST_F(ToolTest, WhatIsDrawnAppearsAtOnce) {
+    ExpectStates({
+        {"tool:3 paint", "press:50,40",
+         "tool 3 drag 2 handle 2 held cross a1(50,40,0,0) repaint 44,34,56,46"},
+        {"tool:2 paint", "press:50,40",
+         "tool 2 drag 2 handle 1 held cross a1{50,40 +0,0} repaint 40,30,60,50"},
+    });
 }
 
 TEST_F(ToolTest, NamesWhatItDraws) {
