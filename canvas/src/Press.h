@@ -1,27 +1,22 @@
-// A press of the mouse on a page: what the tools know about it, and how it ends.
+// A press of the mouse on a page: its whole state, and how it ends.
 //
-// There is one mouse, so the process has one press, whatever canvases and tools there are. Its state is
-// public where hosts read and set it:
+// There is one mouse, so the process has one press, whatever canvases and tools there are. What hosts read
+// and set of it is public: `CUIToolBase::run_down` and `run_last` (where it began and where it is),
+// `run_handle` (the grabbed handle, -1 for none; the number of points while a figure is drawn), `run_h_rect`
+// (the limit of that handle), and `m_nDragMode` of the select tool that `SelectTool()` gives. The rest is in
+// `Press.cpp`: the tool that began it, its canvas, and the object that it draws.
 //
-//     CUIToolBase::run_down, run_last    where it began and where it is (page units)
-//     CUIToolBase::run_handle            the grabbed handle, -1 for none; while a figure is drawn its number
-//     of points CUIToolBase::run_h_rect            the limit of that handle CUISelectTool::m_nDragMode what a
-//     move does, in the select tool that `SelectTool()` gives
+// It begins in `CUIToolBase::OnLButtonDown`, which gives the canvas the mouse. The release ends it, in the
+// tool that gets the release: the drawing tools pass their drag on to the select tool, the others end it
+// themselves. Only a figure of several points outlives releases: each click on it is a press that goes on
+// drawing it, and its last point or a double click ends press and figure.
 //
-// and the rest is in `Press.cpp`: the tool that began it, its canvas, and the object that it draws.
+// A release may find a tool that cannot end the press, since mode, tool or page have changed in between. The
+// tool sees the release first; what is then left is abandoned, so that the mouse is not kept from other
+// windows.
 //
-// - It begins in `CUIToolBase::OnLButtonDown`, which gives the canvas the mouse.
-// - It ends with the release, in the tool that gets it: the drawing tools pass their drag on to the select
-// tool, the
-//   others end it themselves. Only a figure of several points outlives releases: each of its clicks begins a
-//   press that goes on drawing it, until its last point or a double click ends press and figure.
-// - A release may find a tool that cannot end it, since mode, tool or page have changed in between. Every
-// tool sees the
-//   release first; what is left of the press then is abandoned, so that the mouse is not kept from other
-//   windows.
-// - Who loses the mouse in the middle is told by nobody. The release, when it comes to the canvas all the
-// same, ends the
-//   press like any other; when it does not come, the next press begins anew.
+// Nobody tells when the mouse is lost in the middle. A release that comes to the canvas all the same ends the
+// press like any other; when none comes, the next press begins anew.
 //
 // A move is a drag while the canvas has the mouse, whoever gave it: a host may have done so without a press.
 #pragma once

@@ -6,16 +6,26 @@
 #include "core/UIObjectPoly.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <sstream>
 #include <string>
 
-// A state or gesture is a row of words, each with its numbers behind a colon:
-//   rect:X,Y,W,H  select:ba (the front first)  tool:KIND  mode:N  max:POINTS  rectmode  destroy:a
-//   press:X,Y  move:X,Y  hover:X,Y (no button in the flags)  release:X,Y  double:X,Y, each with ,c or ,s for
-//   a key lose and hold (a host takes the mouse or gives it)  grab:HANDLE (a host begins a drag)  handle:N
-//   other, clear, quiet paint (what is to be repainted shows from then on)
-// Objects are called a, b, c in the order in which they appear on the page.
+// A state or a gesture is a row of words, each with its numbers behind a colon:
+//
+//   R S T                      a rectangle at (50,50,40,30), (150,60,30,50), (10,11,20,30)
+//   pick:ba                    the selection, the front first; tool:KIND mode:N handle:N
+//   press:X,Y release: double: move: (button down) hover: (no button), with ,c for Ctrl or ,s for Shift
+//   hold lose                  a host gives the canvas the mouse, or takes it
+//   grab                       a host begins to move the selection from (60,60)
+//   max:POINTS rectmode        of the figure on top
+//   destroy:a other clear quiet    the object; another page; no page; no interaction
+//   paint                      what is to be repainted shows from here on
+//
+// A state comes out as tool (t), drag (d), handle (h), mode if it is not 0 (m), whether the canvas holds the
+// mouse, the cursor if it was set, and the objects of the page, called a, b, c as they appear: each with its
+// place in the selection and, unless it is where it was put, its rectangle, or the points of a figure with
+// its free end.
 class GestureScript : public CanvasFixture {
 protected:
     struct Row {
@@ -36,25 +46,22 @@ protected:
     void Run(const std::string& script) {
         std::istringstream words(script);
         for (std::string word; words >> word;) {
-            Do(word.substr(0, word.find(':')), word.substr(word.find(':') + 1));
+            Do(word);
             NameObjects();
         }
     }
 
-    // The tool, the select tool's drag, the handle, whether the canvas holds the mouse, the cursor; then the
-    // objects with their place in the selection.
     std::string State() {
         std::ostringstream out;
-        out << "tool " << Lumo::CUIToolBase::run_drawshape << " drag " << Select().m_nDragMode << " handle "
+        out << 't' << Lumo::CUIToolBase::run_drawshape << " d" << Select().m_nDragMode << " h"
             << Lumo::CUIToolBase::run_handle;
         if (m_canvas->m_nMode != Lumo::CM_DRAW)
-            out << " mode " << m_canvas->m_nMode;
+            out << " m" << m_canvas->m_nMode;
         if (::GetCapture() == m_canvas->m_hWnd)
             out << " held";
         out << CursorName();
-        if (m_document->GetCanvasObjectList(m_canvas))
-            for (Lumo::CUIObject* object : Objects())
-                out << ' ' << Text(*object);
+        for (Lumo::CUIObject* object : Page())
+            out << ' ' << Text(*object);
         if (m_painted) {
             const CRect rect = TakeUpdateRect();
             out << " repaint " << rect.left << ',' << rect.top << ',' << rect.right << ',' << rect.bottom;
@@ -67,134 +74,113 @@ protected:
     }
 
 private:
+    struct Known {
+        char name;
+        Gdiplus::RectF place;
+    };
+
     void Reset() {
         m_document->AppendCanvas(m_canvas);
         m_canvas->SetInteractive(1);
         m_canvas->OnModeDraw();
         Lumo::CUIToolBase::run_drawshape = Lumo::DS_SELECT;
         Click(1, 1);  // ends what is left of a press
-        Lumo::CUIToolBase::run_handle = -1;
         Select().m_nDragMode = Lumo::CUISelectTool::kNone;
         ::SetCursor(nullptr);
-        m_names.clear();
+        m_known.clear();
         m_next = 'a';
         m_painted = false;
     }
 
-    void Do(const std::string& verb, const std::string& text) {
-        std::istringstream numbers(text);
-        int n[4] = {};
-        char key = 0;
-        for (int i = 0; i < 4 && numbers >> n[i]; ++i)
-            numbers >> key;
-        UINT flags = 0;
-        if (text.ends_with(",c"))
-            flags = MK_CONTROL;
-        if (text.ends_with(",s"))
-            flags = MK_SHIFT;
-        if (verb == "rect")
-            AddRectangle(n[0], n[1], n[2], n[3]);
-        else if (verb == "select")
-            SelectNamed(text);
-        else if (verb == "tool")
-            Lumo::CUIToolBase::run_drawshape = static_cast<Lumo::DrawShape>(n[0]);
-        else if (verb == "mode")
-            m_canvas->m_nMode = n[0];
-        else if (verb == "max")
-            Figure().SetMaxPoints(n[0]);
-        else if (verb == "rectmode")
-            Figure().SetRectMode(1);
-        else if (verb == "destroy")
-            Lumo::CUIDocument::DestroyObject(Named(text[0]));
-        else if (verb == "press")
-            Press(n[0], n[1], flags);
-        else if (verb == "move")
-            Move(n[0], n[1], flags | MK_LBUTTON);
-        else if (verb == "hover")
-            Move(n[0], n[1], flags);
-        else if (verb == "release")
-            Release(n[0], n[1], flags);
-        else if (verb == "double")
-            DoubleClick(n[0], n[1], flags);
-        else if (verb == "lose")
-            ::ReleaseCapture();
-        else if (verb == "hold")
-            m_canvas->SetCapture();
-        else if (verb == "grab")
-            Grab(n[0]);
-        else if (verb == "handle")
-            Lumo::CUIToolBase::run_handle = n[0];
-        else if (verb == "other")
-            m_document->SetCurrentCanvas(OtherPage());
-        else if (verb == "clear")
-            m_document->ClearCanvas();
-        else if (verb == "quiet")
-            m_canvas->SetInteractive(0);
-        else if (verb == "paint")
-            StartPainted();
-        else
-            ADD_FAILURE() << verb;
+    void Do(const std::string& word) {
+        using Lumo::CUIToolBase;
+        const std::string verb = word.substr(0, word.find(':'));
+        const std::string text = word.substr(std::min(word.size(), verb.size() + 1));
+        int x = 0, y = 0;
+        char comma = 0, key = 0;
+        std::istringstream(text) >> x >> comma >> y >> comma >> key;
+        const UINT flags = key == 'c' ? MK_CONTROL : key == 's' ? MK_SHIFT : 0;
+        const std::map<std::string, std::function<void()>> verbs = {
+            {"R", [&] { AddRectangle(50, 50, 40, 30); }},
+            {"S", [&] { AddRectangle(150, 60, 30, 50); }},
+            {"T", [&] { AddRectangle(10, 11, 20, 30); }},
+            {"pick", [&] { Pick(text); }},
+            {"tool", [&] { CUIToolBase::run_drawshape = static_cast<Lumo::DrawShape>(x); }},
+            {"mode", [&] { m_canvas->m_nMode = x; }},
+            {"handle", [&] { CUIToolBase::run_handle = x; }},
+            {"press", [&] { Press(x, y, flags); }},
+            {"release", [&] { Release(x, y, flags); }},
+            {"double", [&] { DoubleClick(x, y, flags); }},
+            {"move", [&] { Move(x, y, flags | MK_LBUTTON); }},
+            {"hover", [&] { Move(x, y, flags); }},
+            {"hold", [&] { m_canvas->SetCapture(); }},
+            {"lose", [] { ::ReleaseCapture(); }},
+            {"grab", [] { Grab(); }},
+            {"max", [&] { Figure().SetMaxPoints(x); }},
+            {"rectmode", [&] { Figure().SetRectMode(1); }},
+            {"destroy", [&] { Lumo::CUIDocument::DestroyObject(Named(text[0])); }},
+            {"other", [&] { m_document->SetCurrentCanvas(OtherPage()); }},
+            {"clear", [&] { m_document->ClearCanvas(); }},
+            {"quiet", [&] { m_canvas->SetInteractive(0); }},
+            {"paint", [&] { m_painted = (TakeUpdateRect(), true); }},
+        };
+        verbs.at(verb)();
     }
 
-    void StartPainted() {
-        TakeUpdateRect();
-        m_painted = true;
-    }
-
-    void Grab(int handle) {
-        Select().m_nDragMode = Lumo::CUISelectTool::kMove;
-        Lumo::CUIToolBase::run_handle = handle;
-        Lumo::CUIToolBase::run_down = Lumo::CUIToolBase::run_last = CPoint(60, 60);
-    }
-
-    Lumo::CUICanvas* OtherPage() {
-        if (!m_other) {
-            const Lumo::DrawShape tool = Lumo::CUIToolBase::run_drawshape;
-            m_other = AddCanvas();
-            Lumo::CUIToolBase::run_drawshape = tool;
-        }
-        m_document->AppendCanvas(m_other);
-        return m_other;
-    }
-
-    void SelectNamed(const std::string& names) {
+    void Pick(const std::string& names) {
         m_canvas->m_selection.clear();
         for (const char name : names)
             m_canvas->m_selection.push_back(Named(name));
     }
 
-    Lumo::CUIObject* Named(char name) {
-        return std::ranges::find_if(m_names, [&](const auto& entry) { return entry.second == name; })->first;
+    static void Grab() {
+        Select().m_nDragMode = Lumo::CUISelectTool::kMove;
+        Lumo::CUIToolBase::run_handle = 8;
+        Lumo::CUIToolBase::run_down = Lumo::CUIToolBase::run_last = CPoint(60, 60);
+    }
+
+    Lumo::CUICanvas* OtherPage() {
+        const Lumo::DrawShape tool = Lumo::CUIToolBase::run_drawshape;
+        if (!m_other)
+            m_other = AddCanvas();
+        Lumo::CUIToolBase::run_drawshape = tool;
+        m_document->AppendCanvas(m_other);
+        return m_other;
+    }
+
+    std::deque<Lumo::CUIObject*> Page() {
+        const auto* objects = m_document->GetCanvasObjectList(m_canvas);
+        return objects ? *objects : std::deque<Lumo::CUIObject*>();
     }
 
     Lumo::CUIObjectPoly& Figure() { return dynamic_cast<Lumo::CUIObjectPoly&>(*Objects().back()); }
 
+    Lumo::CUIObject* Named(char name) {
+        return std::ranges::find_if(m_known, [&](const auto& k) { return k.second.name == name; })->first;
+    }
+
     void NameObjects() {
-        if (!m_document->GetCanvasObjectList(m_canvas))
-            return;
-        std::erase_if(m_names,
-                      [&](const auto& entry) { return !std::ranges::count(Objects(), entry.first); });
-        for (Lumo::CUIObject* object : Objects())
-            if (m_names.try_emplace(object, m_next).second)
+        const auto page = Page();
+        std::erase_if(m_known, [&](const auto& k) { return !std::ranges::count(page, k.first); });
+        for (Lumo::CUIObject* object : page)
+            if (m_known.try_emplace(object, m_next, object->GetPosition()).second)
                 ++m_next;
     }
 
     std::string Text(Lumo::CUIObject& object) {
         std::ostringstream out;
-        out << m_names[&object];
-        const auto& selection = m_canvas->m_selection;
-        const auto place = std::ranges::find(selection, &object);
-        if (place != selection.end())
-            out << place - selection.begin() + 1;
-        if (object.GetRemoved())
-            out << '-';
+        const Known& known = m_known.at(&object);
+        out << known.name;
+        const auto place = std::ranges::find(m_canvas->m_selection, &object);
+        if (place != m_canvas->m_selection.end())
+            out << place - m_canvas->m_selection.begin() + 1;
+        const Gdiplus::RectF at = object.GetPosition();
         if (auto* figure = dynamic_cast<Lumo::CUIObjectPoly*>(&object)) {
             out << '{';
             for (const Gdiplus::PointF& point : *figure->NormalizePoints())
                 out << point.X << ',' << point.Y << ' ';
             out << '+' << figure->GetPendingOffset().X << ',' << figure->GetPendingOffset().Y << '}';
-        } else {
-            const Gdiplus::RectF at = object.GetPosition();
+        } else if (!at.Equals(known.place) || at.IsEmptyArea()) {
             out << '(' << at.X << ',' << at.Y << ',' << at.Width << ',' << at.Height << ')';
         }
         return out.str();
@@ -202,15 +188,14 @@ private:
 
     static std::string CursorName() {
         const std::pair<LPCWSTR, const char*> known[] = {
-            {IDC_ARROW, " arrow"}, {IDC_CROSS, " cross"}, {IDC_SIZENWSE, " nwse"}, {IDC_SIZENESW, " nesw"},
-            {IDC_SIZENS, " ns"},   {IDC_SIZEWE, " we"},   {IDC_SIZEALL, " all"}};
+            {IDC_ARROW, " arrow"}, {IDC_CROSS, " cross"}, {IDC_SIZENWSE, " nwse"}, {IDC_SIZENESW, " nesw"}};
         for (const auto& [cursor, name] : known)
             if (::GetCursor() == ::LoadCursor(nullptr, cursor))
                 return name;
         return "";
     }
 
-    std::map<Lumo::CUIObject*, char> m_names;
+    std::map<Lumo::CUIObject*, Known> m_known;
     char m_next = 'a';
     bool m_painted = false;
     Lumo::CUICanvas* m_other = nullptr;
