@@ -42,8 +42,7 @@ int CUIEdit::OnCreate(LPCREATESTRUCT create) {
 void CUIEdit::InitialText() {
     SetWindowText(m_pObject->GetText());
     calcTextMetrics();
-    SetSel(0, -1);
-    SendMessage(EM_SCROLLCARET);
+    SetSel(0, -1);  // which scrolls the caret into view, too
 }
 
 void CUIEdit::ChangeFont(LOGFONT& lf) {

@@ -75,6 +75,7 @@ TEST_F(Group, UngroupingPutsTheChildrenOnTopAndSelectsThem) {
     CUIObjectList* group = MakeGroupOf({a, b});
     CUIObject* other = AddRectangle(200, 10, 20, 20);
     group->SetPosition({5, 7, 80, 50});
+    m_canvas->m_selection.push_back(other);
     TakeUpdateRect();
     m_canvas->OnToolsMakeUngroup();
     EXPECT_EQ(Objects(), (List{other, b, a}));

@@ -161,6 +161,20 @@ TEST_F(NotifyHandlerEx, StartsWhereTheLastReleaseLeftTheCursor) {
     EXPECT_TRUE(m_handler.m_notes.empty()) << "only a press makes a new drag possible";
 }
 
+class OpenHandler : public CUINotifyHandler {
+public:
+    using CUINotifyHandler::m_ptCursor;
+};
+
+TEST_F(NotifyHandlerEx, ThePlainHandlerReadsTheCursorAtPressesAndMoves) {
+    OpenHandler handler;
+    handler.OnLButtonDown(nullptr, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(1, 2));
+    EXPECT_EQ(handler.m_ptCursor, CPoint(310, 310));
+    Cursor(340, 330);
+    handler.OnMouseMove(nullptr, WM_MOUSEMOVE, 0, MAKELPARAM(3, 4));
+    EXPECT_EQ(handler.m_ptCursor, CPoint(340, 330));
+}
+
 TEST_F(NotifyHandlerEx, LooksAtTheButtonItselfAndNotAtTheFlags) {
     m_handler.Down(1, 1);
     m_handler.Up(1, 1);

@@ -188,4 +188,22 @@ TEST_F(PaintTest, RemovedObjectsAreNotDrawnUnlessTheyAreTheFocus) {
     EXPECT_EQ(object->drawn, 1);
 }
 
+TEST_F(PaintTest, TheDiagnosticPictureShowsItsTwoCurves) {
+    Gdiplus::Bitmap bitmap(450, 420, PixelFormat32bppRGB);
+    Gdiplus::Graphics g(&bitmap);
+    const HDC dc = g.GetHDC();
+    m_canvas->OnPaintTest(dc);
+    g.ReleaseHDC(dc);
+    for (const CPoint pt :
+         {CPoint(200, 400), CPoint(300, 352), CPoint(20, 50), CPoint(100, 10), CPoint(400, 80)}) {
+        Gdiplus::Color color;
+        int lit = 0;
+        for (int x = -1; x <= 1; ++x)
+            for (int y = -1; y <= 1; ++y)
+                lit += bitmap.GetPixel(pt.x + x, pt.y + y, &color) == Gdiplus::Ok &&
+                       (color.GetValue() & 0xFFFFFF) == 0x90EE90;
+        EXPECT_GT(lit, 0) << pt.x << ", " << pt.y;
+    }
+}
+
 }  // namespace

@@ -20,6 +20,12 @@ public:
     using CUIDocument::m_auxiliary;
 };
 
+class OpenCanvas : public CUICanvas {
+public:
+    using CUICanvas::m_fScaleX;
+    using CUICanvas::m_fScaleY;
+};
+
 // A tool that counts what reaches it.
 class CountingTool : public CUIToolBase {
 public:
@@ -56,6 +62,19 @@ BOOL WINAPI KnowsNoClass(HINSTANCE, LPCWSTR, WNDCLASSW*) {
 
 ATOM WINAPI RegistersNoClass(const WNDCLASSW*) {
     return 0;
+}
+
+TEST_F(WindowTest, AHostsWindowOfTheRegisteredClassEndsTheLoop) {
+    const HWND window = ::CreateWindowEx(0, L"Tessel Canvas", L"", WS_POPUP, 0, 0, 90, 80, nullptr, nullptr,
+                                         ::GetModuleHandle(L"TesselCtrls.dll"), nullptr);
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(::SendMessage(window, WM_COPYDATA, 0, 0), 1);
+    MSG msg;
+    while (::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE))
+        ::DispatchMessage(&msg);
+    ::DestroyWindow(window);
+    ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(msg.wParam, 0u);
 }
 
 TEST_F(WindowTest, FailsQuietlyWithoutAParentOrAWindowClass) {
@@ -99,7 +118,10 @@ TEST_F(WindowTest, ACanvasThatIsDestroyedTakesItsPageAndModifiesTheDocument) {
 
 TEST_F(WindowTest, RemembersTheSizeOfThePage) {
     CSize size(640, 0);
+    m_canvas->Select(AddRectangle(10, 20, 30, 15), 0);
     m_canvas->Init(0, size);
+    EXPECT_TRUE(m_canvas->m_selection.empty());
+    EXPECT_EQ(m_canvas->GetInteractive(), 0);
     EXPECT_EQ(m_canvas->GetWidth(), 640);
     EXPECT_EQ(m_canvas->GetHeight(), ::GetSystemMetrics(SM_CYSCREEN));
     size = CSize(0, 480);
@@ -292,6 +314,8 @@ TEST_F(WindowTest, AnUnknownScaleStepChangesNothing) {
     EXPECT_TRUE(TakeUpdateRect().IsRectEmpty());
     m_canvas->OnCanvasScale(8);
     EXPECT_EQ(TakeUpdateRect(), CRect(0, 0, kWidth, kHeight));
+    EXPECT_EQ(m_canvas->*(&OpenCanvas::m_fScaleX), 4.0f);
+    EXPECT_EQ(m_canvas->*(&OpenCanvas::m_fScaleY), 4.0f);
 }
 
 TEST_F(WindowTest, RawInputLeavesTheKeyboardRegistered) {
