@@ -189,6 +189,7 @@ TEST_F(Clipboard, CopyingLeavesOleAsItFindsIt) {
     EXPECT_EQ(ReadClipboard(PrivateFormat()), Record(a)) << "it outlives OLE on this thread";
     ASSERT_EQ(::OleInitialize(nullptr), S_OK) << "what the copy started has ended";
     m_canvas->OnEditObjectPaste();
+    ::OleFlushClipboard();
     ::OleUninitialize();
     EXPECT_EQ(::OleInitialize(nullptr), S_OK) << "the host's own start was the only one";
     ::OleUninitialize();
