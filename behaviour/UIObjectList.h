@@ -24,7 +24,6 @@ public:
     /// Shares the source's children like the copy constructor; the former children are let go, not destroyed.
     CUIObjectList& operator=(const CUIObjectList& source);
 
-    using CUIObject::DrawDragImage;
     using CUIObject::HitTest;
     using CUIObject::Rotate;
 
@@ -53,6 +52,8 @@ public:
     /// Slot 33: gives the children back in page coordinates, appended to `out`, and destroys the group, which
     /// must not be touched after the call. Without children, or without `out`, nothing happens.
     virtual void MakeUnGroup(std::deque<CUIObject*>* out);
+    using CUIObject::DrawDragImage;  // not further up: some compilers give the slot where the name comes
+                                     // first
     /// Slot 34: outlines the group where it stands, in black, 2 units wide; `point` is not used.
     virtual void DrawDragImage(Gdiplus::Graphics* g, POINT point);
 

@@ -43,12 +43,17 @@ public:
     /// For derived classes: 1 when `handle` is a special one, with its rectangle. Returns 0 here.
     virtual int ControlHandle(const int& handle, Gdiplus::RectF& rect);
 
+#ifdef _MSC_VER  // overloads get their slots last first
+    virtual int HitTest(Gdiplus::PointF& point, int selected);
+    virtual int HitTest(Gdiplus::RectF& rect);
+#else
     /// 1 when both the left top and the right bottom corner of `rect` lie in the position, else 0.
     virtual int HitTest(Gdiplus::RectF& rect);
 
     /// The handle at a point, -1 when there is none. With `selected` 0 only the body is tested, with a square
     /// of 2 by 2 about the point; otherwise all handles from 0 up.
     virtual int HitTest(Gdiplus::PointF& point, int selected);
+#endif
 
     /// For derived classes: a window message in run mode. Does nothing here.
     virtual void RelayEvent(CUICanvas* canvas, unsigned int message, unsigned int wParam, long lParam);
@@ -73,6 +78,11 @@ public:
     /// Paints the selection handles: circles on the corners, squares on the edges.
     virtual void DrawTracker(Gdiplus::Graphics* graphics);
 
+#ifdef _MSC_VER  // as above
+    virtual void Rotate(float angle);
+    virtual void Rotate(float angle, Gdiplus::RectF& rect);
+    virtual void Rotate(float angle, Gdiplus::RectF& rect, Gdiplus::PointF& centre);
+#else
     /// Replaces `rect` by the bounds of it turned about `centre`.
     virtual void Rotate(float angle, Gdiplus::RectF& rect, Gdiplus::PointF& centre);
 
@@ -81,6 +91,7 @@ public:
 
     /// Turns the position about its centre and stores the bounds as the new position.
     virtual void Rotate(float angle);
+#endif
 
     /// Bounds of `rect` turned about (width / 2, height / 2) measured from the origin.
     virtual Gdiplus::RectF RotateRect(float angle, const Gdiplus::RectF& rect);
@@ -131,6 +142,8 @@ public:
     /// whoever destroys it.
     virtual ~CUIObject();
 
+    // After the conditions above every member below would get three lines.
+    // clang-format off
     /// The document that holds the object, null when none does; not owned.
     CUIDocument* GetDocument() const { return m_pDocument; }
     void SetDocument(CUIDocument* document) { m_pDocument = document; }
@@ -363,6 +376,8 @@ public:
     /// and the size and leaves the offset, so that it rides on top.
     Gdiplus::RectF GetPosition() const { return m_coordinate.GetPosition(); }
     void SetPosition(const Gdiplus::RectF& rect) { m_coordinate.SetPosition(rect); }
+
+    // clang-format on
 
 protected:
     CUIDocument* m_pDocument = nullptr;   ///< see `GetDocument`

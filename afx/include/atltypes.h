@@ -19,8 +19,8 @@ public:
 
     void SetSize(int CX, int CY) noexcept { cx = CX, cy = CY; }
 
-    BOOL operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
-    BOOL operator!=(SIZE size) const noexcept { return !(*this == size); }
+    friend BOOL operator==(SIZE one, SIZE other) noexcept { return one.cx == other.cx && one.cy == other.cy; }
+    friend BOOL operator!=(SIZE one, SIZE other) noexcept { return one.cx != other.cx || one.cy != other.cy; }
     void operator+=(SIZE size) noexcept { cx += size.cx, cy += size.cy; }
     void operator-=(SIZE size) noexcept { cx -= size.cx, cy -= size.cy; }
 
@@ -44,8 +44,8 @@ public:
     void Offset(POINT point) noexcept { Offset(point.x, point.y); }
     void Offset(SIZE size) noexcept { Offset(size.cx, size.cy); }
 
-    BOOL operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
-    BOOL operator!=(POINT point) const noexcept { return !(*this == point); }
+    friend BOOL operator==(POINT one, POINT other) noexcept { return one.x == other.x && one.y == other.y; }
+    friend BOOL operator!=(POINT one, POINT other) noexcept { return one.x != other.x || one.y != other.y; }
     void operator+=(SIZE size) noexcept { Offset(size); }
     void operator-=(SIZE size) noexcept { Offset(-size.cx, -size.cy); }
     void operator+=(POINT point) noexcept { Offset(point); }
@@ -130,8 +130,8 @@ public:
         return ::SubtractRect(this, lpRectSrc1, lpRectSrc2);
     }
 
-    BOOL operator==(const RECT& rect) const noexcept { return ::EqualRect(this, &rect); }
-    BOOL operator!=(const RECT& rect) const noexcept { return !::EqualRect(this, &rect); }
+    friend BOOL operator==(const RECT& one, const RECT& other) noexcept { return ::EqualRect(&one, &other); }
+    friend BOOL operator!=(const RECT& one, const RECT& other) noexcept { return !::EqualRect(&one, &other); }
     void operator+=(POINT point) noexcept { OffsetRect(point); }
     void operator+=(SIZE size) noexcept { OffsetRect(size); }
     void operator+=(LPCRECT lpRect) noexcept { InflateRect(lpRect); }

@@ -44,7 +44,7 @@ ULONGLONG BytesOfPixel(IWICImagingFactory& factory, IWICBitmapFrameDecode& frame
                    : E_FAIL;
     });
     UINT bits = 0;
-    return info && SUCCEEDED(info->GetBitsPerPixel(&bits)) ? std::max(1u, (bits + 7) / 8) : kMostUsual;
+    return info && SUCCEEDED(info->GetBitsPerPixel(&bits)) ? (std::max)(1u, (bits + 7) / 8) : kMostUsual;
 }
 
 bool ClaimsTooMuch(LPCTSTR path) {

@@ -30,8 +30,8 @@ constexpr float kLargestRegion = 32768.0f;
 // at 1.
 float NearestPart(const Gdiplus::RectF& asked, const Gdiplus::RectF& ellipse) {
     const Gdiplus::PointF centre = CentreOf(ellipse);
-    const float x = centre.X - std::min(std::max(centre.X, asked.X), asked.GetRight());
-    const float y = centre.Y - std::min(std::max(centre.Y, asked.Y), asked.GetBottom());
+    const float x = centre.X - (std::min)((std::max)(centre.X, asked.X), asked.GetRight());
+    const float y = centre.Y - (std::min)((std::max)(centre.Y, asked.Y), asked.GetBottom());
     return std::hypot(x / (ellipse.Width * 0.5f), y / (ellipse.Height * 0.5f));
 }
 
@@ -49,7 +49,7 @@ int HitEllipse(Gdiplus::RectF& rect, Gdiplus::RectF position, float lineWidth) {
     if (!Overlap(asked, bounds))
         return 0;
     const Gdiplus::RectF area = RectGdiFromAtl(bounds);
-    if (std::max(area.Width, area.Height) > kLargestRegion)
+    if ((std::max)(area.Width, area.Height) > kLargestRegion)
         return NearestPart(RectGdiFromAtl(asked), area) <= 1.0f;
     const RegionHandle ellipse(::CreateEllipticRgn(bounds.left, bounds.top, bounds.right, bounds.bottom));
     return ellipse && ::RectInRegion(ellipse.get(), &asked);

@@ -75,7 +75,7 @@ int CUIObjectList::GetDepth() const {
     int depth = 0;
     for (const CUIObject* child : m_children) {
         if (const auto* group = dynamic_cast<const CUIObjectList*>(child))
-            depth = std::max(depth, group->GetDepth());
+            depth = (std::max)(depth, group->GetDepth());
     }
     return depth + 1;
 }

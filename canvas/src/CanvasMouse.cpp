@@ -17,7 +17,7 @@ constexpr int kZoomPercent = 100;  // Kept: frozen, so that one page unit is one
 
 // How many device pixels of a printer make the window's extent; a device of no size counts as one millimetre.
 int PrintExtent(const CDC& dc, int resolution, int millimetres) {
-    return dc.GetDeviceCaps(resolution) * 5 / std::max(1, dc.GetDeviceCaps(millimetres));
+    return dc.GetDeviceCaps(resolution) * 5 / (std::max)(1, dc.GetDeviceCaps(millimetres));
 }
 
 }  // namespace

@@ -18,10 +18,10 @@ bool IsObject(const CUIObject* object) {
 
 // Not `RectF::Union`: some platforms' headers compute it in integers.
 Gdiplus::RectF United(const Gdiplus::RectF& a, const Gdiplus::RectF& b) {
-    const float left = std::min(a.X, b.X);
-    const float top = std::min(a.Y, b.Y);
-    const float right = std::max(a.GetRight(), b.GetRight());
-    const float bottom = std::max(a.GetBottom(), b.GetBottom());
+    const float left = (std::min)(a.X, b.X);
+    const float top = (std::min)(a.Y, b.Y);
+    const float right = (std::max)(a.GetRight(), b.GetRight());
+    const float bottom = (std::max)(a.GetBottom(), b.GetBottom());
     return {left, top, right - left, bottom - top};
 }
 

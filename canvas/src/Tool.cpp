@@ -91,8 +91,8 @@ void CUIToolBase::MoveControl(const CPoint& anchor, CPoint& pt) {
     const int dy = pt.y - anchor.y;
     const int ax = std::abs(dx);
     const int ay = std::abs(dy);
-    const int least = std::min(ax, ay);
-    if (2 * least <= std::max(ax, ay)) {
+    const int least = (std::min)(ax, ay);
+    if (2 * least <= (std::max)(ax, ay)) {
         if (ax >= ay)
             pt.y = anchor.y;
         else

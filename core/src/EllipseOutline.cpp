@@ -20,9 +20,9 @@ constexpr int kFewestCorners = 36;
 constexpr int kMostCorners = 1440;
 
 bool IsNear(const Gdiplus::RectF& bounds) {
-    const float farthest = std::max({std::fabs(bounds.X), std::fabs(bounds.Y), std::fabs(bounds.GetRight()),
-                                     std::fabs(bounds.GetBottom())});
-    return farthest <= kNear && std::min(bounds.Width, bounds.Height) >= farthest * kSmallestPart;
+    const float farthest = (std::max)({std::fabs(bounds.X), std::fabs(bounds.Y), std::fabs(bounds.GetRight()),
+                                       std::fabs(bounds.GetBottom())});
+    return farthest <= kNear && (std::min)(bounds.Width, bounds.Height) >= farthest * kSmallestPart;
 }
 
 // With so many corners that they cannot be told from the curve.

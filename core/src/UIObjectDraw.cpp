@@ -34,7 +34,7 @@ void CUIObject::DrawTracker(Gdiplus::Graphics* graphics) {
     if (graphics == nullptr)
         return;
     HandlePainter painter(*graphics);
-    const int count = std::min(GetHandleCount(), kTrackedHandles);
+    const int count = (std::min)(GetHandleCount(), kTrackedHandles);
     for (int handle = 0; handle < count; ++handle) {
         if (handle < kCorners)
             painter.PaintCircle(GetHandleRect(handle));

@@ -86,7 +86,7 @@ void CUIObjectPoly::RotatePoints(float, const Gdiplus::PointF&, const Gdiplus::R
 }
 
 std::deque<Gdiplus::PointF>* CUIObjectPoly::NewPoints(int count) {
-    m_points.resize(static_cast<size_t>(std::max(count, 0)));
+    m_points.resize(static_cast<size_t>((std::max)(count, 0)));
     return &m_points;
 }
 
@@ -145,7 +145,7 @@ int CUIObjectPoly::HandleAt(const Gdiplus::PointF& point, int body) {
     }
     int places = body;
     if (body == m_nMaxPoints)
-        places = std::min(m_bRectMode != 0 ? kRectHandles : static_cast<int>(m_points.size()), body);
+        places = (std::min)(m_bRectMode != 0 ? kRectHandles : static_cast<int>(m_points.size()), body);
     for (int handle = 0; handle < places; ++handle)
         if (ContainsPoint(GetHandleRect(handle), point))
             return handle;

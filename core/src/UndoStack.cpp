@@ -6,9 +6,9 @@ namespace Lumo {
 
 CUndoStack::CUndoStack(CUIObject* owner, int capacity)
     : m_pOwner(owner),
-      m_ppSnapshots(new void*[std::max(capacity, 0)]()),
+      m_ppSnapshots(new void*[(std::max)(capacity, 0)]()),
       m_tasks(10),
-      m_nCapacity(std::max(capacity, 0)) {}
+      m_nCapacity((std::max)(capacity, 0)) {}
 
 CUndoStack::~CUndoStack() {
     RemoveAll();

@@ -178,7 +178,7 @@ void Set(Text& text, std::wstring_view section, std::wstring_view key, std::wstr
     if (place.entry != kNone) {
         std::wstring& line = text.lines[place.entry];
         const size_t equals = line.find(L'=');
-        const size_t from = std::min(line.find_first_not_of(L" \t", equals + 1), line.size());
+        const size_t from = (std::min)(line.find_first_not_of(L" \t", equals + 1), line.size());
         const size_t end = line.find_last_not_of(kSpace) + 1;
         line.replace(from, end > from ? end - from : 0, Quoted(value));
         return;

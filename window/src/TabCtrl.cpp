@@ -183,11 +183,11 @@ int TabCtrl::VisibleWidth() const {
     CRect client;
     GetClientRect(client);
     const int buttons = m_scrolling ? kScrollArea + (m_addButton ? kAddArea : 0) : 0;
-    return std::max(static_cast<int>(client.Width()) - buttons, 0);
+    return (std::max)(static_cast<int>(client.Width()) - buttons, 0);
 }
 
 void TabCtrl::ScrollTo(int offset) {
-    offset = std::clamp(offset, 0, std::max(ContentWidth() - VisibleWidth(), 0));
+    offset = std::clamp(offset, 0, (std::max)(ContentWidth() - VisibleWidth(), 0));
     if (offset == m_offset)
         return;
     m_offset = offset;
