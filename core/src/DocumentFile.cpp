@@ -1,8 +1,8 @@
 // The archive file: dialogs, file and archive set-up, the order of the records, errors.
 #include "core/UIDocument.h"
 
+#include "core/UIObject.h"
 #include "core/WholeFile.h"
-#include "core/src/ForEachObject.h"
 
 #include <afxdlgs.h>
 
@@ -63,8 +63,9 @@ std::unique_ptr<WholeFile> OpenTarget(LPCTSTR path) {
 
 void CUIDocument::Serialize(CArchive& ar) {
     for (auto& [canvas, objects] : m_pages) {
-        if (objects)
-            ForEachObject(*objects, [&ar](CUIObject* object) { object->Serialize(ar); });
+        for (size_t i = 0; objects && i < objects->size(); ++i)  // the list may change
+            if (CUIObject* object = (*objects)[i])
+                object->Serialize(ar);
     }
 }
 

@@ -5,7 +5,6 @@
 #include "core/Geometry.h"
 #include "core/UIObject.h"
 #include "core/internal/Destruction.h"
-#include "core/src/ForEachObject.h"
 #include "core/internal/ObjectFactory.h"
 
 #include <algorithm>
@@ -156,12 +155,11 @@ void CUIDocument::SetShapeName(CUIObject* object) {
 
 void CUIDocument::DrawCanvas(Gdiplus::Graphics* g, CUICanvas* canvas) {
     const CUIObjectDeque* objects = canvas ? GetCanvasObjectList(canvas) : nullptr;
-    if (!objects)
-        return;
-    ForEachObject(*objects, [g](CUIObject* object) {
-        if (!object->GetRemoved())
+    for (size_t i = 0; objects && i < objects->size(); ++i) {  // the list may change
+        CUIObject* object = (*objects)[i];
+        if (object && !object->GetRemoved())
             object->Draw(g);
-    });
+    }
 }
 
 void CUIDocument::DrawCanvas(Gdiplus::Graphics* g) {
