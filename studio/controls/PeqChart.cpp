@@ -27,7 +27,7 @@ PeqChart::Bands PeqChart::ReadBands() {
     bands.on = Value(L".on", 1.0) != 0.0;
     for (int i = 0; i < Device::kPeqBands; ++i) {
         bands.band[i] = Source().PeqBand(Channel(), i + 1);
-        bands.filter[i] = MakeBiquad(bands.band[i]);
+        bands.filter[i] = MakeSection(bands.band[i]);
     }
     return bands;
 }
@@ -85,15 +85,10 @@ void PeqChart::Render(Picture& picture) {
     const int hot = HotBand();
     if (hot)
         field.DrawCurve(
-            picture, [&](double f) { return bands.filter[hot - 1].Response(f); }, 1.2f,
+            picture, [&](double f) { return Decibels({&bands.filter[hot - 1], 1}, f); }, 1.2f,
             WithAlpha(Ink::kBands[hot - 1], 0xC0), WithAlpha(Ink::kBands[hot - 1], 0x28));
     const DWORD color = bands.on ? Ink::kAccent : Ink::kQuiet;
-    const auto total = [&](double f) {
-        double sum = 0.0;
-        for (const Biquad& filter : bands.filter)
-            sum += filter.Response(f);
-        return sum;
-    };
+    const auto total = [&](double f) { return Decibels(bands.filter, f); };
     field.DrawCurve(picture, total, 2.2f, color, WithAlpha(color, 0x2E));
     for (int i = Device::kPeqBands; i >= 1; --i) {
         const Band& band = bands.band[i - 1];

@@ -34,7 +34,7 @@ protected:
 private:
     struct Bands {
         Band band[Device::kPeqBands];
-        Biquad filter[Device::kPeqBands];
+        Lumo::Filter::Section filter[Device::kPeqBands];
         bool on;
     };
     Bands ReadBands();

@@ -54,15 +54,27 @@ Plot CrossoverState::Field() {
     return Plot::Layout(size.cx, size.cy, -36.0, 12.0);
 }
 
-double CrossoverState::Response(Part way, double frequency) {
-    const int order = Value(L".slope") >= 18.0 ? 4 : 2;
+std::vector<Lumo::Filter::Section> CrossoverState::Filters(Part way) {
+    const auto type = static_cast<CrossoverType>(std::lround(Value(L".type")));
     const double low = Value(L".lowfreq", 250.0), high = Value(L".highfreq", 3000.0);
-    double response = Value(way == kLow ? L".low" : way == kMid ? L".mid" : L".high");
+    const double slope = Value(L".slope");
+    std::vector<Lumo::Filter::Section> filters;
+    const auto add = [&](bool highPass, double frequency) {
+        const auto sections = MakeSections({type, highPass, frequency, slope});
+        filters.insert(filters.end(), sections.begin(), sections.end());
+    };
     if (way != kHigh)
-        response += CrossoverResponse(false, way == kLow ? low : high, order, frequency);
+        add(false, way == kLow ? low : high);
     if (way != kLow)
-        response += CrossoverResponse(true, way == kHigh ? high : low, order, frequency);
-    return response;
+        add(true, way == kHigh ? high : low);
+    return filters;
+}
+
+CString CrossoverState::EdgeNote() {
+    constexpr LPCWSTR kTypes[kCrossoverTypeCount] = {L"BW", L"BES", L"LR"};
+    CString note;
+    note.Format(L"%s %d dB/oct", kTypes[std::lround(Value(L".type"))], static_cast<int>(Value(L".slope")));
+    return note;
 }
 
 CrossoverState::Part CrossoverState::PartAt(CPoint point) {
@@ -91,11 +103,14 @@ void CrossoverState::Render(Picture& picture) {
     else if (part)
         note = GainLabel(Value(part == kLow ? L".low" : part == kMid ? L".mid" : L".high")) + L" dB";
     else
-        note.Format(L"%d dB/oct", static_cast<int>(Value(L".slope")));
+        note = EdgeNote();
     field.DrawGround(picture, title, on ? note : CString(L"OFF"), 12.0);
     for (const auto& [way, band] : {std::pair{kLow, 1}, {kMid, 3}, {kHigh, 4}}) {
         const DWORD ink = on ? Ink::kBands[band] : Ink::kQuiet;
-        const auto response = [this, way = way](double f) { return Response(way, f); };
+        const double gain = Value(way == kLow ? L".low" : way == kMid ? L".mid" : L".high");
+        const auto response = [gain, filters = Filters(way)](double f) {
+            return gain + Decibels(filters, f);
+        };
         field.DrawCurve(picture, response, part == way ? 2.8f : 2.0f, ink);
     }
     for (const auto& [edge, name] : {std::pair{kLowEdge, L".lowfreq"}, {kHighEdge, L".highfreq"}}) {
@@ -126,7 +141,13 @@ void CrossoverState::OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM 
 
 void CrossoverState::OnLButtonDblClk(CWnd*, UINT, UINT, LPARAM) {
     if (Device* device = Running())
-        device->Set(Binding() + L".slope", Value(L".slope") >= 18.0 ? 12.0 : 24.0);
+        device->Set(Binding() + L".slope", Value(L".slope") >= 48.0 ? 12.0 : Value(L".slope") + 12.0);
+}
+
+void CrossoverState::OnMouseWheel(CWnd*, UINT, UINT flags, LPARAM) {
+    if (Device* device = Running())
+        device->Set(Binding() + L".type",
+                    Value(L".type") + (static_cast<short>(HIWORD(flags)) > 0 ? 1.0 : -1.0));
 }
 
 void CrossoverState::OnMouseMove(CWnd* window, UINT message, UINT flags, LPARAM packed) {

@@ -25,7 +25,7 @@ private:
 };
 
 /// The three ways of a crossover ("out1.xover") with their responses; the two edges are dragged sideways, the
-/// gain of a way up and down.
+/// gain of a way up and down, a double click makes the edges steeper and the wheel changes their kind.
 class CrossoverState : public ChartControl {
 public:
     CrossoverState() : ChartControl(Lumo::DS_STATECROSSOVER) {}
@@ -36,6 +36,7 @@ public:
     void OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnLButtonDblClk(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnMouseMove(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
+    void OnMouseWheel(CWnd* window, UINT message, UINT flags, LPARAM packed) override;
     void OnDragEnter(CWnd* window, UINT flags, const CPoint& point) override;
     void OnDrag(CWnd* window, UINT flags, const CPoint& point) override;
     void Leave() override;
@@ -49,7 +50,9 @@ private:
     enum Part { kNone, kLowEdge, kHighEdge, kLow, kMid, kHigh };
     Plot Field();
     Part PartAt(CPoint point);
-    double Response(Part way, double frequency);
+    /// The filters of a way without its gain.
+    std::vector<Lumo::Filter::Section> Filters(Part way);
+    CString EdgeNote();
     void SetHot(Part part);
 
     Part m_grabbed = kNone;

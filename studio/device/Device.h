@@ -9,14 +9,15 @@
 //   out1.peq.on, out1.peq.1.type .freq .gain .q .on
 //                                                bands 1 to 6: `BandType` code, Hz, dB, Q, switch
 //   out1.geq.on, out1.geq.1                      bands 1 to 31, a third of an octave each: dB
-//   out1.xover.on, .lowfreq .highfreq .slope     two edges in Hz, 12 or 24 dB per octave
+//   out1.xover.on, .lowfreq .highfreq            switch; two edges in Hz
+//   out1.xover.type, .slope                      `CrossoverType` code; 12, 24, 36 or 48 dB per octave
 //   out1.xover.low .mid .high                    dB of the three ways
 //   master.gain, master.mute                     dB; switch
 // clang-format on
 #pragma once
 
 #include "studio/device/Ballistics.h"
-#include "studio/device/Biquad.h"
+#include "studio/device/Equaliser.h"
 
 #include <afxwin.h>
 

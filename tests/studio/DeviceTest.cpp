@@ -40,26 +40,58 @@ double ReferenceResponse(BandType type, double f0, double gain, double q, double
 
 }  // namespace
 
-TEST(BiquadTest, ResponseOfEveryTypeIsThatOfTheFilter) {
+TEST(EqualiserTest, ResponseOfEveryTypeIsThatOfTheFilter) {
     for (BandType type : {BandType::kPeak, BandType::kLowShelf, BandType::kHighShelf, BandType::kLowPass,
                           BandType::kHighPass, BandType::kNotch}) {
         for (double gain : {-12.0, 6.0}) {
-            const Biquad filter = MakeBiquad({type, 900.0, gain, 1.7, true});
+            const Lumo::Filter::Section filter = MakeSection({type, 900.0, gain, 1.7, true});
             for (double f : {25.0, 200.0, 850.0, 2500.0, 18000.0})
-                EXPECT_NEAR(filter.Response(f), ReferenceResponse(type, 900.0, gain, 1.7, f), 1e-4)
+                EXPECT_NEAR(Decibels({&filter, 1}, f), ReferenceResponse(type, 900.0, gain, 1.7, f), 1e-4)
                     << static_cast<int>(type) << " at " << f;
         }
     }
 }
 
-TEST(BiquadTest, KnownPoints) {
-    EXPECT_NEAR(MakeBiquad({BandType::kPeak, 1000, 7.5, 2, true}).Response(1000), 7.5, 1e-6);
-    EXPECT_NEAR(MakeBiquad({BandType::kLowShelf, 200, -9, 0.7, true}).Response(20), -9.0, 0.1);
-    EXPECT_EQ(MakeBiquad({BandType::kPeak, 1000, 12, 1, false}).Response(1000), 0.0);
-    EXPECT_EQ(MakeBiquad({BandType::kNotch, 1000, 0, 1, true}).Response(1000), -120.0);
-    // Two Butterworth sections are 6 dB down where they cross, one is 3 dB down.
-    EXPECT_NEAR(CrossoverResponse(false, 500, 4, 500), -6.02, 0.01);
-    EXPECT_NEAR(CrossoverResponse(true, 500, 2, 500), -3.01, 0.01);
+TEST(EqualiserTest, ABandThatIsOffPassesEverything) {
+    const Lumo::Filter::Section off = MakeSection({BandType::kPeak, 1000, 12, 1, false});
+    EXPECT_EQ(Decibels({&off, 1}, 1000), 0.0);
+    const Lumo::Filter::Section notch = MakeSection({BandType::kNotch, 1000, 0, 1, true});
+    EXPECT_EQ(Decibels({&notch, 1}, 1000), -120.0);
+}
+
+TEST(CrossoverTest, EdgesOfEveryTypeAndSlope) {
+    struct Case {
+        CrossoverType type;
+        double slope, atEdge, octaveOut;
+    };
+    // Butterworth: 10 log(1 + 2^2n); Linkwitz-Riley: twice that of half the order. Far below half the rate
+    // the bilinear transform changes nothing.
+    const Case cases[] = {
+        {CrossoverType::kButterworth, 12.0, -3.01, -12.30},
+        {CrossoverType::kButterworth, 24.0, -3.01, -24.10},
+        {CrossoverType::kButterworth, 48.0, -3.01, -48.16},
+        {CrossoverType::kLinkwitzRiley, 12.0, -6.02, -13.98},
+        {CrossoverType::kLinkwitzRiley, 24.0, -6.02, -24.61},
+        {CrossoverType::kLinkwitzRiley, 36.0, -6.02, -36.26},
+        {CrossoverType::kLinkwitzRiley, 47.0, -6.02, -36.26},
+        {CrossoverType::kLinkwitzRiley, 48.0, -6.02, -48.20},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.slope);
+        const auto low = MakeSections({each.type, false, 130.0, each.slope});
+        EXPECT_NEAR(Decibels(low, 130.0), each.atEdge, 0.02);
+        EXPECT_NEAR(Decibels(low, 260.0), each.octaveOut, 0.02);
+        EXPECT_NEAR(Decibels(MakeSections({each.type, true, 130.0, each.slope}), 65.0), each.octaveOut, 0.02);
+    }
+    // Bessel: the same delay up to near its edge, where the others ring.
+    const auto spread = [](CrossoverType type) {
+        const auto sections = MakeSections({type, false, 1000.0, 24.0});
+        const double radians = 2.0 * std::numbers::pi / kSampleRate;
+        return Lumo::Filter::GroupDelay(sections, 900.0 * radians) /
+               Lumo::Filter::GroupDelay(sections, 20.0 * radians);
+    };
+    EXPECT_NEAR(spread(CrossoverType::kBessel), 1.0, 0.06);
+    EXPECT_GT(spread(CrossoverType::kButterworth), 1.3);
 }
 
 TEST(BallisticsTest, RisesFastFallsSlowlyHoldsThePeak) {

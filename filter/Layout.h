@@ -1,0 +1,33 @@
+// Poles, zeros and gain of a recursive filter.
+#pragma once
+
+#include "core/Export.h"
+
+#include <complex>
+#include <vector>
+
+namespace Lumo::Filter {
+
+/// A filter as the roots of its transfer function, gain * prod(x - zero) / prod(x - pole). x is s for an
+/// analogue filter (frequencies in radians a second) and z for a digital one. Complex roots come in conjugate
+/// pairs, the two of a pair one after the other.
+struct Layout {
+    std::vector<std::complex<double>> zeros;
+    std::vector<std::complex<double>> poles;
+    double gain = 1.0;
+};
+
+/// Value of the transfer function at a point x. Infinite or not a number at a pole.
+TESSEL_API std::complex<double> Transfer(const Layout& layout, std::complex<double> x);
+
+/// Complex gain of a digital filter at a frequency in radians a sample, 0 to pi.
+TESSEL_API std::complex<double> Response(const Layout& digital, double frequency);
+
+/// Delay in samples that a digital filter gives to a narrow band around a frequency in radians a sample, 0 to
+/// pi.
+TESSEL_API double GroupDelay(const Layout& digital, double frequency);
+
+/// Whether every pole of a digital filter lies within the unit circle, so that its response to a click fades.
+TESSEL_API bool IsStable(const Layout& digital);
+
+}  // namespace Lumo::Filter

@@ -1,0 +1,36 @@
+// Analogue low-pass filters with their edge at 1 radian a second: what every design starts from.
+#pragma once
+
+#include "filter/Layout.h"
+
+namespace Lumo::Filter {
+
+/// Highest order of a prototype.
+inline constexpr int kMaxOrder = 50;
+
+/// What the edge of a Bessel filter is.
+enum class BesselEdge {
+    kPhase,  ///< the phase has come half of its way; far above, it falls like a Butterworth filter of that
+             ///< edge
+    kDelay,  ///< one over the delay in seconds at low frequencies
+    kMagnitude,  ///< the gain is 3 dB down
+};
+
+// All of these take orders from 1 to kMaxOrder and ripple and attenuation in dB as the functions say. For
+// anything else they give a layout without poles and with a gain of 0.
+
+/// As flat as can be; 3 dB down at the edge.
+TESSEL_API Layout Butterworth(int order);
+/// Equal ripples of `ripple` dB (more than 0) up to the edge, falling beyond.
+TESSEL_API Layout Chebyshev1(int order, double ripple);
+/// Falling up to the edge, `attenuation` dB (more than 0) down from the edge on.
+TESSEL_API Layout Chebyshev2(int order, double attenuation);
+/// Equal ripples of `ripple` dB up to the edge, and soon beyond it `attenuation` dB (more than `ripple`)
+/// down: the steepest one of its order.
+TESSEL_API Layout Elliptic(int order, double ripple, double attenuation);
+/// As constant a delay as can be.
+TESSEL_API Layout Bessel(int order, BesselEdge edge = BesselEdge::kPhase);
+/// The steepest one at the edge, where it is 3 dB down, of those that fall all the way.
+TESSEL_API Layout Legendre(int order);
+
+}  // namespace Lumo::Filter
