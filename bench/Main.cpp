@@ -19,7 +19,8 @@ constexpr struct {
     void (*measure)(std::vector<bench::Line>& lines);
 } kSubjects[] = {{"studio", bench::MeasureStudio},     {"document", bench::MeasureDocument},
                  {"painting", bench::MeasurePainting}, {"hits", bench::MeasureHitTests},
-                 {"scaling", bench::MeasureScaling},   {"start", bench::MeasureStart}};
+                 {"scaling", bench::MeasureScaling},   {"filters", bench::MeasureFilters},
+                 {"start", bench::MeasureStart}};
 
 }  // namespace
 

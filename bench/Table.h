@@ -40,6 +40,7 @@ void MeasureHitTests(std::vector<Line>& lines);
 void MeasureDocument(std::vector<Line>& lines);
 void MeasureStudio(std::vector<Line>& lines);
 void MeasureScaling(std::vector<Line>& lines);
+void MeasureFilters(std::vector<Line>& lines);
 void MeasureStart(std::vector<Line>& lines);
 
 /// The program that Studio's start is measured against: an empty window. Returns the exit code.
