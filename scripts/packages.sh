@@ -4,6 +4,7 @@ set -euo pipefail
 
 packages=(
     g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build patch googletest doxygen
+    python3-scipy
     clang clang-format clang-tidy cppcheck
     wine wine64 fonts-wine fonts-liberation fonts-nanum
     xvfb xdotool x11-utils imagemagick

@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 
 find . -path ./build -prune -o \( -name '*.h' -o -name '*.cpp' \) -printf '%P\n' | sort | xargs awk '
 BEGIN {
-    layer["core"] = layer["appearance"] = 1
+    layer["core"] = layer["appearance"] = layer["filter"] = 1
     layer["behaviour"] = 2
     layer["canvas"] = 3
     layer["window"] = layer["module"] = 4
