@@ -85,10 +85,13 @@ void PeqChart::Render(Picture& picture) {
     const int hot = HotBand();
     if (hot)
         field.DrawCurve(
-            picture, [&](double f) { return Decibels({&bands.filter[hot - 1], 1}, f); }, 1.2f,
-            WithAlpha(Ink::kBands[hot - 1], 0xC0), WithAlpha(Ink::kBands[hot - 1], 0x28));
+            picture,
+            [&](double f) {
+                return ResponseAt({&bands.filter[hot - 1], 1}, f);
+            },
+            1.2f, WithAlpha(Ink::kBands[hot - 1], 0xC0), WithAlpha(Ink::kBands[hot - 1], 0x28));
     const DWORD color = bands.on ? Ink::kAccent : Ink::kQuiet;
-    const auto total = [&](double f) { return Decibels(bands.filter, f); };
+    const auto total = [&](double f) { return ResponseAt(bands.filter, f); };
     field.DrawCurve(picture, total, 2.2f, color, WithAlpha(color, 0x2E));
     for (int i = Device::kPeqBands; i >= 1; --i) {
         const Band& band = bands.band[i - 1];

@@ -109,7 +109,7 @@ void CrossoverState::Render(Picture& picture) {
         const DWORD ink = on ? Ink::kBands[band] : Ink::kQuiet;
         const double gain = Value(way == kLow ? L".low" : way == kMid ? L".mid" : L".high");
         const auto response = [gain, filters = Filters(way)](double f) {
-            return gain + Decibels(filters, f);
+            return gain + ResponseAt(filters, f);
         };
         field.DrawCurve(picture, response, part == way ? 2.8f : 2.0f, ink);
     }

@@ -121,7 +121,8 @@ void Device::AddEqualisers(const CString& output) {
     Add(output + L".xover.lowfreq", 40.0, 2000.0, 250.0, L"Hz");
     Add(output + L".xover.highfreq", 500.0, 16000.0, 3200.0, L"Hz");
     Add(output + L".xover.slope", 12.0, 48.0, 24.0, L"dB");
-    Add(output + L".xover.type", 0.0, kCrossoverTypeCount - 1, static_cast<double>(CrossoverType::kLinkwitzRiley), L"");
+    Add(output + L".xover.type", 0.0, kCrossoverTypeCount - 1,
+        static_cast<double>(CrossoverType::kLinkwitzRiley), L"");
     Add(output + L".xover.low", -24.0, 12.0, 0.0, L"dB");
     Add(output + L".xover.mid", -24.0, 12.0, 0.0, L"dB");
     Add(output + L".xover.high", -24.0, 12.0, 0.0, L"dB");

@@ -47,7 +47,7 @@ std::vector<Filter::Section> MakeSections(const CrossoverEdge& edge) {
     return sections;
 }
 
-double Decibels(std::span<const Filter::Section> sections, double frequency) {
+double ResponseAt(std::span<const Filter::Section> sections, double frequency) {
     return Filter::Decibels(sections, 2.0 * std::numbers::pi * frequency / kSampleRate, -120.0);
 }
 

@@ -42,6 +42,6 @@ struct CrossoverEdge {
 std::vector<Lumo::Filter::Section> MakeSections(const CrossoverEdge& edge);
 
 /// Gain of filters one after the other at a frequency in Hz, in dB; never below -120.
-double Decibels(std::span<const Lumo::Filter::Section> sections, double frequency);
+double ResponseAt(std::span<const Lumo::Filter::Section> sections, double frequency);
 
 }  // namespace Studio

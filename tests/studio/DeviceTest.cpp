@@ -46,7 +46,7 @@ TEST(EqualiserTest, ResponseOfEveryTypeIsThatOfTheFilter) {
         for (double gain : {-12.0, 6.0}) {
             const Lumo::Filter::Section filter = MakeSection({type, 900.0, gain, 1.7, true});
             for (double f : {25.0, 200.0, 850.0, 2500.0, 18000.0})
-                EXPECT_NEAR(Decibels({&filter, 1}, f), ReferenceResponse(type, 900.0, gain, 1.7, f), 1e-4)
+                EXPECT_NEAR(ResponseAt({&filter, 1}, f), ReferenceResponse(type, 900.0, gain, 1.7, f), 1e-4)
                     << static_cast<int>(type) << " at " << f;
         }
     }
@@ -54,9 +54,9 @@ TEST(EqualiserTest, ResponseOfEveryTypeIsThatOfTheFilter) {
 
 TEST(EqualiserTest, ABandThatIsOffPassesEverything) {
     const Lumo::Filter::Section off = MakeSection({BandType::kPeak, 1000, 12, 1, false});
-    EXPECT_EQ(Decibels({&off, 1}, 1000), 0.0);
+    EXPECT_EQ(ResponseAt({&off, 1}, 1000), 0.0);
     const Lumo::Filter::Section notch = MakeSection({BandType::kNotch, 1000, 0, 1, true});
-    EXPECT_EQ(Decibels({&notch, 1}, 1000), -120.0);
+    EXPECT_EQ(ResponseAt({&notch, 1}, 1000), -120.0);
 }
 
 TEST(CrossoverTest, EdgesOfEveryTypeAndSlope) {
@@ -79,9 +79,10 @@ TEST(CrossoverTest, EdgesOfEveryTypeAndSlope) {
     for (const Case& each : cases) {
         SCOPED_TRACE(each.slope);
         const auto low = MakeSections({each.type, false, 130.0, each.slope});
-        EXPECT_NEAR(Decibels(low, 130.0), each.atEdge, 0.02);
-        EXPECT_NEAR(Decibels(low, 260.0), each.octaveOut, 0.02);
-        EXPECT_NEAR(Decibels(MakeSections({each.type, true, 130.0, each.slope}), 65.0), each.octaveOut, 0.02);
+        EXPECT_NEAR(ResponseAt(low, 130.0), each.atEdge, 0.02);
+        EXPECT_NEAR(ResponseAt(low, 260.0), each.octaveOut, 0.02);
+        EXPECT_NEAR(ResponseAt(MakeSections({each.type, true, 130.0, each.slope}), 65.0), each.octaveOut,
+                    0.02);
     }
     // Bessel: the same delay up to near its edge, where the others ring.
     const auto spread = [](CrossoverType type) {
