@@ -29,7 +29,8 @@ void MeasureFilters(std::vector<Line>& lines) {
     std::snprintf(detail, sizeof detail, "%.3g million samples a second", ours / 1e6);
     const char* peer = std::getenv("TESSEL_BENCH_SOSFILT");
     if (const double theirs = peer ? std::atof(peer) : 0.0; theirs > 0.0)
-        lines.push_back({"a cascade of eight sections, against SciPy's sosfilt", ours / theirs, "x", 0.8, true, detail});
+        lines.push_back(
+            {"a cascade of eight sections, against SciPy's sosfilt", ours / theirs, "x", 0.8, true, detail});
 }
 
 }  // namespace bench

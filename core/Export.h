@@ -1,4 +1,5 @@
-// Export macro of the library's DLL, which defines TESSEL_BUILD while it is built. Empty where there are no DLLs.
+// Export macro of the library's DLL, which defines TESSEL_BUILD while it is built. Empty where there are no
+// DLLs.
 #pragma once
 
 /// Stands before every exported class, function and variable. The class library's macro for extension DLLs

@@ -18,12 +18,13 @@ enum class Form {
     kTransposed2,  ///< sums kept; the usual one for floating point
 };
 
+/// Most sections of a cascade: as many as a band of the highest order has.
+inline constexpr std::size_t kMaxSections = kMaxOrder;
+
 /// Up to kMaxSections second-order sections with their state. Nothing here allocates or locks. All calls come
 /// from one thread, that of the samples.
 class TESSEL_API Cascade {
 public:
-    static constexpr std::size_t kMaxSections = kMaxOrder;  ///< what a band of the highest order has
-
     explicit Cascade(Form form = Form::kTransposed2) : m_form(form) {}
 
     /// Takes new sections at once and keeps the state. False, with nothing changed, for more than

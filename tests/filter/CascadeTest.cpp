@@ -116,9 +116,9 @@ TEST(CascadeTest, FallsSilentAndForgetsWhatIsNoNumber) {
 TEST(CascadeTest, TakesAsManySectionsAsTheHighestOrderHas) {
     Cascade cascade;
     const auto sections = Sections(kMaxOrder);
-    EXPECT_EQ(sections.size(), Cascade::kMaxSections);
+    EXPECT_EQ(sections.size(), kMaxSections);
     EXPECT_TRUE(cascade.Set(sections));
-    std::vector<Section> more(Cascade::kMaxSections + 1);
+    std::vector<Section> more(kMaxSections + 1);
     EXPECT_FALSE(cascade.Set(more));
     EXPECT_FALSE(cascade.GlideTo(more, 5));
     std::vector<double> samples = Impulse(2000);
