@@ -33,12 +33,12 @@ parse=("${common[@]}" "${other[@]}" -U_MSC_VER)
     echo '#define max(a, b) (((a) > (b)) ? (a) : (b))'
 } >"$work/first.h"
 clang++ "${parse[@]}" -x c++-header "$work/first.h" -o "$work/first.pch"
-printf '%s\0' {core,appearance,canvas,behaviour,window,module,marrowlog}/src/*.cpp |
+printf '%s\0' {core,appearance,canvas,behaviour,window,filter,module,marrowlog}/src/*.cpp |
     xargs -0 -n 8 -P "$(nproc)" \
         clang++ "${parse[@]}" -include-pch "$work/first.pch" -fsyntax-only -w
 
 # A host's class below each public class, for the tables of virtual members.
-headers=({core,appearance,canvas,behaviour,window}/*.h)
+headers=({core,appearance,canvas,behaviour,window,filter}/*.h)
 {
     printf '#include "%s"\n' "${headers[@]}"
     cat <<'END'

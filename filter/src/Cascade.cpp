@@ -73,7 +73,7 @@ bool Cascade::GlideTo(std::span<const Section> sections, std::size_t samples) {
         return false;
     std::ranges::copy(sections, m_target.begin());
     // Sections that come or go glide from or to one that passes everything.
-    const std::size_t longer = std::max(sections.size(), m_count);
+    const std::size_t longer = (std::max)(sections.size(), m_count);
     std::fill(m_target.begin() + sections.size(), m_target.begin() + longer, Section{});
     m_targetCount = sections.size();
     m_count = longer;
@@ -94,13 +94,13 @@ void Cascade::EndGlide() {
 
 void Cascade::Process(std::span<double> samples) {
     for (std::size_t at = 0; at < samples.size(); at += kBlock)
-        ProcessBlock(samples.data() + at, std::min(kBlock, samples.size() - at));
+        ProcessBlock(samples.data() + at, (std::min)(kBlock, samples.size() - at));
 }
 
 void Cascade::Process(std::span<float> samples) {
     double block[kBlock];
     for (std::size_t at = 0; at < samples.size(); at += kBlock) {
-        const auto part = samples.subspan(at, std::min(kBlock, samples.size() - at));
+        const auto part = samples.subspan(at, (std::min)(kBlock, samples.size() - at));
         std::ranges::copy(part, block);
         ProcessBlock(block, part.size());
         std::transform(block, block + part.size(), part.begin(),
@@ -129,7 +129,7 @@ void Cascade::ProcessBlock(double* samples, std::size_t count) {
 template <Form form>
 void Cascade::Run(double* samples, std::size_t count) {
     if (m_glideLeft > 0) {
-        const std::size_t gliding = std::min(m_glideLeft, count);
+        const std::size_t gliding = (std::min)(m_glideLeft, count);
         RunGliding<form>(samples, gliding);
         samples += gliding;
         count -= gliding;

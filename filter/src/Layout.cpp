@@ -19,7 +19,7 @@ double Delay(Complex root, Complex z) {
 Complex Transfer(const Layout& layout, Complex x) {
     // Zeros and poles in turn, so that many of them do not leave the range of numbers on the way.
     Complex value = layout.gain;
-    for (std::size_t i = 0; i < std::max(layout.zeros.size(), layout.poles.size()); ++i) {
+    for (std::size_t i = 0; i < (std::max)(layout.zeros.size(), layout.poles.size()); ++i) {
         if (i < layout.zeros.size())
             value *= x - layout.zeros[i];
         if (i < layout.poles.size())

@@ -100,7 +100,7 @@ Layout Legendre(int order) {
             const Complex newton = value / slope;
             const Complex step = newton / (1.0 - newton * others);
             x -= step;
-            change = std::max(change, std::abs(step));
+            change = (std::max)(change, std::abs(step));
         }
     }
     Layout layout;

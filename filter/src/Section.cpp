@@ -128,7 +128,7 @@ double Decibels(std::span<const Section> sections, double frequency, double floo
             return floor;
         decibels += 10.0 * std::log10(gain);
     }
-    return std::max(floor, decibels);
+    return (std::max)(floor, decibels);
 }
 
 double GroupDelay(std::span<const Section> sections, double frequency) {
