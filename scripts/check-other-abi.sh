@@ -38,7 +38,7 @@ printf '%s\0' {core,appearance,canvas,behaviour,window,filter,module,marrowlog}/
         clang++ "${parse[@]}" -include-pch "$work/first.pch" -fsyntax-only -w
 
 # A host's class below each public class, for the tables of virtual members.
-headers=({core,appearance,canvas,behaviour,window,filter}/*.h)
+headers=({core,appearance,canvas,behaviour,window}/*.h)
 {
     printf '#include "%s"\n' "${headers[@]}"
     cat <<'END'

@@ -19,6 +19,8 @@ class CUIObjectList;
 ///    and nothing when it has none. A note stays when the object leaves by hand; it costs one look in vain.
 /// 2. First it is forgotten: it leaves the pages of its canvases, its groups and all selections, which hosts
 ///    fill by hand, and an editor open on it closes without saving. Then it is released.
+///    Before that its page repaints the place where it was, with its handles; a page that is cleared repaints
+///    as a whole.
 /// 3. Several are forgotten in one walk and then released one after the other. One that the `Release` of
 ///    another has destroyed in between is passed over; none is released twice at a time.
 /// 4. `Release` decides. An object whose override destroys nothing lives on, held by nobody. A group's own
@@ -49,6 +51,7 @@ private:
     static std::unordered_multimap<CUIObject*, Holder>& Notes();
     static void TakeHolders(CUIObject* object, std::set<Holder>& holders);
     static void Forget(CUIObject* object);
+    static void Repaint(CUIObject* object, const std::set<Holder>& holders);
     template <class IsDoomed>
     static void Forget(const std::set<Holder>& holders, IsDoomed isDoomed);
     static void Release(CUIObject* object);

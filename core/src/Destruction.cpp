@@ -52,6 +52,21 @@ void Destruction::TakeHolders(CUIObject* object, std::set<Holder>& holders) {
     Notes().erase(first, last);
 }
 
+// While the object is whole: a host's page may look at what it is to repaint.
+void Destruction::Repaint(CUIObject* object, const std::set<Holder>& holders) {
+    for (const Holder& holder : holders) {
+        CUICanvas* const* canvas = std::get_if<CUICanvas*>(&holder);
+        if (!canvas || std::ranges::find(CUICanvas::Canvases(), *canvas) == CUICanvas::Canvases().end())
+            continue;
+        const auto shows = [&](CUIDocument* document) {
+            const auto* page = document->GetCanvasObjectList(*canvas);
+            return page && std::ranges::find(*page, object) != page->end();
+        };
+        if (std::ranges::any_of(CUIDocument::Documents(), shows))
+            (*canvas)->InvalidateObject(object);
+    }
+}
+
 template <class IsDoomed>
 void Destruction::Forget(const std::set<Holder>& holders, IsDoomed isDoomed) {
     for (const Holder& holder : holders) {
@@ -81,7 +96,11 @@ void Destruction::Forget(CUIObject* object) {
 }
 
 void Destruction::Destroy(CUIObject* object) {
-    Forget(object);
+    std::set<Holder> holders;
+    TakeHolders(object, holders);
+    Repaint(object, holders);
+    if (!holders.empty())
+        Forget(holders, [object](CUIObject* entry) { return entry == object; });
     Release(object);
 }
 

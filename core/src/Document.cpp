@@ -11,6 +11,15 @@
 
 namespace Lumo {
 
+namespace {
+
+void Repaint(CUICanvas* canvas) {
+    if (canvas && canvas->m_hWnd)
+        canvas->Invalidate(FALSE);
+}
+
+}  // namespace
+
 std::vector<CUIDocument*>& CUIDocument::Documents() {
     static std::vector<CUIDocument*> documents;
     return documents;
@@ -104,8 +113,12 @@ void CUIDocument::DestroyObject(CUIObject* object) {
 }
 
 void CUIDocument::ClearObject(CUIObjectDeque* objects) {
-    if (objects && !objects->empty())
-        Destruction::DestroyAll(std::exchange(*objects, {}));
+    if (!objects || objects->empty())
+        return;
+    for (const auto& [canvas, page] : m_pages)
+        if (page == objects)
+            Repaint(canvas);
+    Destruction::DestroyAll(std::exchange(*objects, {}));
 }
 
 // Removes a page here and in every copy of the document, then destroys its objects.
@@ -113,6 +126,7 @@ void CUIDocument::DropPage(CUICanvas* canvas) {
     const auto page = m_pages.find(canvas);
     if (page == m_pages.end())
         return;
+    Repaint(canvas);
     const std::unique_ptr<CUIObjectDeque> objects(page->second);
     m_pages.erase(page);
     if (!objects)

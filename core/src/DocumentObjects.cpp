@@ -99,7 +99,10 @@ void CUIDocument::RemoveObject(CUIObject* object, int destroy) {
     if (destroy)
         DeleteObject(object);
     else
-        ActOnFirstObject(object, [](CUIObject* first) { first->SetRemoved(1); });
+        ActOnFirstObject(object, [this](CUIObject* first) {
+            GetCurrentCanvas()->InvalidateObject(first);
+            first->SetRemoved(1);
+        });
 }
 
 CUIObject* CUIDocument::FindObject(CString& name, CUICanvas* canvas) {

@@ -29,7 +29,7 @@ bool IsNear(const Gdiplus::RectF& bounds) {
 void DrawAsPolygon(Gdiplus::Graphics& graphics, const Gdiplus::Pen& pen, const Gdiplus::RectF& bounds) {
     Gdiplus::PointF corners[kMostCorners];
     const int count =
-        std::min(kMostCorners, kFewestCorners + TruncToInt(std::max(bounds.Width, bounds.Height)));
+        (std::min)(kMostCorners, kFewestCorners + TruncToInt((std::max)(bounds.Width, bounds.Height)));
     for (int i = 0; i < count; ++i) {
         const float angle =
             static_cast<float>(i) * 2.0f * std::numbers::pi_v<float> / static_cast<float>(count);

@@ -91,7 +91,7 @@ double Delay(double c0, double c1, double c2, Complex back) {
 }  // namespace
 
 std::vector<Section> MakeSections(const Layout& digital) {
-    const std::size_t size = (std::max(digital.zeros.size(), digital.poles.size()) + 1) / 2 * 2;
+    const std::size_t size = ((std::max)(digital.zeros.size(), digital.poles.size()) + 1) / 2 * 2;
     std::vector<Complex> zeros = HalfOf(digital.zeros, size);
     std::vector<Complex> poles = HalfOf(digital.poles, size);
     std::vector<Section> sections;

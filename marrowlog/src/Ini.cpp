@@ -58,7 +58,7 @@ bool IsOther(DWORD process) {
 
 /// Deletes what processes left beside the file that were killed while they replaced it.
 void DeleteAbandoned(const CString& path) {
-    const CString folder = path.Left(std::max(path.ReverseFind(L'\\'), path.ReverseFind(L'/')) + 1);
+    const CString folder = path.Left((std::max)(path.ReverseFind(L'\\'), path.ReverseFind(L'/')) + 1);
     WIN32_FIND_DATAW found;
     const HANDLE search = ::FindFirstFileW(path + L".*-*.tmp", &found);
     if (search == INVALID_HANDLE_VALUE)

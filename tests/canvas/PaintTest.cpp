@@ -188,6 +188,33 @@ TEST_F(PaintTest, RemovedObjectsAreNotDrawnUnlessTheyAreTheFocus) {
     EXPECT_EQ(object->drawn, 1);
 }
 
+TEST_F(PaintTest, WhatLeavesThePageIsRepaintedWhereItWas) {
+    const auto takes = [&](const auto& leave) {
+        CUIObject* object = AddRectangle(70, 90, 50, 30);
+        AddRectangle(300, 200, 40, 20);
+        m_canvas->Select(object, 0);
+        TakeUpdateRect();
+        leave(object);
+        const CRect update = TakeUpdateRect();
+        m_document->ClearCanvasObject();
+        m_document->AppendCanvas(m_canvas);
+        return update;
+    };
+    const CRect withHandles(66, 86, 124, 124);  // half of a handle beyond every side
+    for (const CRect& update : {takes([&](CUIObject* object) { CUIDocument::DestroyObject(object); }),
+                                takes([&](CUIObject* object) { m_document->RemoveObject(object, 0); }),
+                                takes([&](CUIObject* object) { m_document->RemoveObject(object, 1); })}) {
+        EXPECT_TRUE(update.left <= withHandles.left && update.top <= withHandles.top &&
+                    update.right >= withHandles.right && update.bottom >= withHandles.bottom)
+            << update.left << ", " << update.top << ", " << update.right << ", " << update.bottom;
+        EXPECT_LT(update.right, 200);  // and no more than that
+    }
+    // A page that is cleared shows nothing of what was on it.
+    EXPECT_GE(
+        takes([&](CUIObject*) { m_document->ClearObject(m_document->GetCanvasObjectList(m_canvas)); }).right,
+        340);
+}
+
 TEST_F(PaintTest, TheDiagnosticPictureShowsItsTwoCurves) {
     Gdiplus::Bitmap bitmap(450, 420, PixelFormat32bppRGB);
     Gdiplus::Graphics g(&bitmap);
