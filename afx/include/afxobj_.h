@@ -91,11 +91,11 @@ public:                                           \
     DECLARE_DYNAMIC(class_name)       \
     static CObject* PASCAL CreateObject();
 
+// NOLINTBEGIN(bugprone-macro-parentheses): the arguments are names of classes
 #define DECLARE_SERIAL(class_name) \
     DECLARE_DYNCREATE(class_name)  \
     friend CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
 
-// NOLINTBEGIN(bugprone-macro-parentheses): the arguments are names of classes
 // The base is asked for by a function, not by an address: the address of data in another DLL is no constant.
 #define IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, pfnNew)                            \
     CRuntimeClass* PASCAL class_name::_GetBaseClass() {                                                 \

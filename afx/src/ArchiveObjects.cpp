@@ -213,7 +213,7 @@ CObject* CArchive::LoadNew(const CRuntimeClass* pClass, UINT schema) {
         object->Serialize(*this);
     } catch (...) {
         if (m_pObjects->loaded[number].isShared)
-            object.release();
+            static_cast<void>(object.release());
         m_pObjects->loaded.resize(number);  // what it had loaded goes with it
         throw;
     }

@@ -15,7 +15,8 @@ constexpr int kWholeObject = 8;
 
 Gdiplus::PointF CentreOf(const CRect& rect) {
     const auto middle = [](LONGLONG near_, LONGLONG far_) {
-        return static_cast<float>((far_ - near_) / 2 + near_);
+        const LONGLONG whole = (far_ - near_) / 2 + near_;
+        return static_cast<float>(whole);
     };
     return {middle(rect.left, rect.right), middle(rect.top, rect.bottom)};
 }

@@ -81,7 +81,8 @@ void Destruction::Forget(const std::set<Holder>& holders, IsDoomed isDoomed) {
     const std::vector<CUICanvas*>& canvases = CUICanvas::Canvases();
     for (CUICanvas* canvas : canvases)
         std::erase_if(canvas->m_selection, isDoomed);
-    for (size_t i = 0; i < canvases.size(); ++i) {  // by index: a window that goes sends messages to its host
+    // By index: a window that goes sends messages to its host.
+    for (size_t i = 0; i < canvases.size(); ++i) {  // NOLINT(modernize-loop-convert)
         CUIEdit* editor = canvases[i]->m_pEdit;
         if (editor && isDoomed(editor->GetEditedObject()))
             editor->DestroyWindow();

@@ -94,7 +94,7 @@ bool CUIDocument::HasList(const CUIObjectDeque* objects) const {
 
 // By index: what the objects of a page do as they end may make and end documents.
 void CUIDocument::ForgetCanvas(CUICanvas* canvas) {
-    for (size_t i = 0; i < Documents().size(); ++i) {
+    for (size_t i = 0; i < Documents().size(); ++i) {  // NOLINT(modernize-loop-convert)
         CUIDocument* document = Documents()[i];
         if (document->m_pages.contains(canvas))
             document->m_bModified = 1;

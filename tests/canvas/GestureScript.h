@@ -163,7 +163,7 @@ private:
         const auto page = Page();
         std::erase_if(m_known, [&](const auto& k) { return !std::ranges::count(page, k.first); });
         for (Lumo::CUIObject* object : page)
-            if (m_known.try_emplace(object, m_next, object->GetPosition()).second)
+            if (m_known.try_emplace(object, Known{m_next, object->GetPosition()}).second)
                 ++m_next;
     }
 

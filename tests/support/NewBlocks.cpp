@@ -22,7 +22,9 @@ struct Plain {
     Plain() = default;
     template <class U>
     Plain(const Plain<U>&) {}
-    T* allocate(size_t count) { return static_cast<T*>(std::malloc(count * sizeof(T))); }
+    T* allocate(size_t count) {
+        return static_cast<T*>(std::malloc(count * sizeof(T)));  // NOLINT(bugprone-sizeof-expression)
+    }
     void deallocate(T* block, size_t) { std::free(block); }
     friend bool operator==(const Plain&, const Plain&) { return true; }
 };
@@ -40,7 +42,7 @@ struct Notes {
 // Never destroyed: blocks are given back until the very end.
 Notes& TheNotes() {
     alignas(Notes) static BYTE room[sizeof(Notes)];
-    static Notes* notes = new (room) Notes;
+    static auto* notes = new (room) Notes;
     return *notes;
 }
 
