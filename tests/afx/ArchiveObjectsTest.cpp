@@ -76,7 +76,7 @@ TEST(ArchiveObjects, AreStoredOnceWithTheirClassAndComeBackShared) {
     CLeaf* tail = nullptr;
     CObject *middle = nullptr, *none = &first;
     loader.ar >> head >> middle >> none >> again >> tail;
-    EXPECT_TRUE(head->number == 0x1122 && head->next->number == 0x3344 && tail->number == 0x5566);
+    EXPECT_TRUE(head->number == 0x1123 && head->next->number == 0x3344 && tail->number == 0x5566);
     EXPECT_TRUE(middle == head->next && head == again && head->next->next == tail && none == nullptr);
     EXPECT_TRUE(tail->IsKindOf(RUNTIME_CLASS(CLeaf)));
     EXPECT_EQ(3 + 3, CNode::alive);
