@@ -64,10 +64,10 @@ const std::string kNode = "\xFF\xFF\x02\x01\x05\0CNode"s, kLeaf = "\xFF\xFF\x03\
 TEST(ArchiveObjects, AreStoredOnceWithTheirClassAndComeBackShared) {
     CNode first, second;
     CLeaf leaf;
-    first.number = 0x1123, second.number = 0x3344, leaf.number = 0x5566;
+    first.number = 0x1123, second.number = 0x3344, leaf.number = 0x5581;
     first.next = &second, second.next = &leaf;
     const std::string bytes =
-        kNode + "\x23\x11\x01\x80\x44\x33" + kLeaf + "\x66\x55" + "ww" + "\x03\0\0\0\x02\0\x05\0"s;
+        kNode + "\x23\x11\x01\x80\x44\x33" + kLeaf + "\x81\x55" + "ww" + "\x03\0\0\0\x02\0\x05\0"s;
     EXPECT_EQ(bytes, Stored([&](CArchive& ar) {
                   ar << &first << &second << static_cast<CObject*>(nullptr) << &first << &leaf;
               }));
@@ -76,7 +76,7 @@ TEST(ArchiveObjects, AreStoredOnceWithTheirClassAndComeBackShared) {
     CLeaf* tail = nullptr;
     CObject *middle = nullptr, *none = &first;
     loader.ar >> head >> middle >> none >> again >> tail;
-    EXPECT_TRUE(head->number == 0x1123 && head->next->number == 0x3344 && tail->number == 0x5566);
+    EXPECT_TRUE(head->number == 0x1123 && head->next->number == 0x3344 && tail->number == 0x5581);
     EXPECT_TRUE(middle == head->next && head == again && head->next->next == tail && none == nullptr);
     EXPECT_TRUE(tail->IsKindOf(RUNTIME_CLASS(CLeaf)));
     EXPECT_EQ(3 + 3, CNode::alive);
