@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+#include <utility>
 
 namespace Lumo::Filter {
 
@@ -36,16 +36,14 @@ std::vector<Complex> HalfOf(const std::vector<Complex>& roots, std::size_t size)
 
 enum class Which { kAny, kReal, kComplex };
 
-// Takes the root out for which `badness` is least, among those asked for. There must be one.
+// Takes the root out for which `badness` is least, of those asked for when there is one.
 template <typename Badness>
 Complex Take(std::vector<Complex>& roots, Which which, Badness badness) {
-    auto best = roots.end();
-    for (auto root = roots.begin(); root != roots.end(); ++root) {
-        if (which != Which::kAny && IsReal(*root) != (which == Which::kReal))
-            continue;
-        if (best == roots.end() || badness(*root) < badness(*best))
-            best = root;
-    }
+    const auto rank = [&](Complex root) {
+        const bool wrong = which != Which::kAny && IsReal(root) != (which == Which::kReal);
+        return std::pair(wrong, badness(root));
+    };
+    const auto best = std::ranges::min_element(roots, {}, rank);
     const Complex taken = *best;
     roots.erase(best);
     return taken;
