@@ -3,6 +3,7 @@
 #include "canvas/UICanvas.h"
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
+#include "studio/controls/MessagePoint.h"
 #include "studio/document/ObjectExtras.h"
 
 #include <cwctype>
@@ -146,14 +147,11 @@ CPoint Control::Corner() const {
 }
 
 CPoint Control::Local(LPARAM packed) const {
-    return Local(CPoint(static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))));
+    return Local(CPoint(LOWORD(packed), HIWORD(packed)));
 }
 
 CPoint Control::Local(const CPoint& point) const {
-    // A point from the library's handler is unsigned; left of the page it comes as a large number.
-    const CPoint at(static_cast<short>(point.x), static_cast<short>(point.y));
-    const CPoint corner = Corner();
-    return {at.x - corner.x, at.y - corner.y};
+    return CPoint(0, 0) + Distance(point, Corner());
 }
 
 void ChartControl::Draw(Gdiplus::Graphics* g) {

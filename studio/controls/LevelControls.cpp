@@ -3,6 +3,7 @@
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
 #include "studio/controls/Plot.h"
+#include "studio/controls/MessagePoint.h"
 #include "studio/device/Names.h"
 
 #include <algorithm>
@@ -260,7 +261,7 @@ void LevelButton::OnDragEnter(CWnd*, UINT, const CPoint&) {
 
 void LevelButton::OnDrag(CWnd*, UINT, const CPoint& point) {
     constexpr double kPerPixel = 0.25;
-    const double gain = m_gainAtPress + kPerPixel * (m_ptPress.y - static_cast<short>(point.y));
+    const double gain = m_gainAtPress + kPerPixel * Distance(m_ptPress, point).cy;
     if (Device* device = Running())
         device->Set(Binding() + L".gain", std::round(gain * 2.0) / 2.0);
 }

@@ -1,6 +1,7 @@
 #include "studio/controls/MatrixControls.h"
 
 #include "core/UIDocument.h"
+#include "studio/controls/MessagePoint.h"
 #include "studio/device/Names.h"
 
 #include <algorithm>
@@ -12,6 +13,17 @@ namespace {
 
 constexpr double kSilent = -40.0;
 constexpr DWORD kFaint = 0xFF5D6A7D;
+
+// Visits the buttons among the objects and within their groups.
+template <class Visit>
+void VisitButtons(const Lumo::CUIObjectDeque& objects, const Visit& visit) {
+    for (Lumo::CUIObject* object : objects) {
+        if (auto* button = dynamic_cast<DeviceButton*>(object))
+            visit(*button);
+        else if (const auto* group = dynamic_cast<const Lumo::CUIObjectList*>(object))
+            VisitButtons(group->GetChildren(), visit);
+    }
+}
 
 }  // namespace
 
@@ -151,7 +163,7 @@ void DeviceChart::OnDragEnter(CWnd*, UINT, const CPoint&) {
 void DeviceChart::OnDrag(CWnd*, UINT, const CPoint& point) {
     constexpr double kPerPixel = 0.25;
     constexpr int kStill = 3;  // a click may tremble
-    const int up = m_ptPress.y - static_cast<short>(point.y);
+    const int up = Distance(m_ptPress, point).cy;
     m_dragging |= std::abs(up) > kStill;
     if (Device* device = Running(); device && m_dragging && m_grabbed.input)
         device->Set(NameOf(m_grabbed, L"gain"), std::round((m_gainAtPress + kPerPixel * up) * 2.0) / 2.0);
@@ -192,15 +204,16 @@ void DeviceButton::Render(Picture& picture) {
                      4, height * 0.5f, width - 4, height * 0.94f, 10.0f, on ? ink : kFaint);
 }
 
-// A radio button is alone on in its group on the page.
+// A radio button is alone on in its radio group on the page, whatever groups of objects the others stand in.
 void DeviceButton::TurnGroupOff() {
-    auto* objects = m_pDocument ? m_pDocument->GetCanvasObjectList(m_pCanvas) : nullptr;
-    for (Lumo::CUIObject* object : objects ? *objects : Lumo::CUIObjectDeque()) {
-        auto* other = dynamic_cast<DeviceButton*>(object);
-        if (other && other != this && other->GetButtonStyle() == kRadio &&
-            other->GetRadioGroup() == GetRadioGroup() && other->SwitchValue() >= 0)
-            Running()->Set(other->SwitchValue(), 0.0);
-    }
+    const auto* objects = m_pDocument ? m_pDocument->GetCanvasObjectList(m_pCanvas) : nullptr;
+    if (!objects)
+        return;
+    VisitButtons(*objects, [this](DeviceButton& other) {
+        if (&other != this && other.GetButtonStyle() == kRadio && other.GetRadioGroup() == GetRadioGroup() &&
+            other.SwitchValue() >= 0)
+            Running()->Set(other.SwitchValue(), 0.0);
+    });
 }
 
 void DeviceButton::OnLButtonDown(CWnd* window, UINT message, UINT flags, LPARAM packed) {

@@ -1,5 +1,6 @@
 #include "studio/controls/StateControls.h"
 
+#include "studio/controls/MessagePoint.h"
 #include "studio/device/Names.h"
 
 #include <algorithm>
@@ -172,7 +173,7 @@ void CrossoverState::OnDrag(CWnd*, UINT, const CPoint& point) {
         device->Set(Binding() + L".highfreq", std::max(frequency, Value(L".lowfreq")));
     } else {
         const double perPixel = (field.high - field.low) / (field.bottom - field.top);
-        const double gain = m_gainAtPress + perPixel * (m_ptPress.y - static_cast<short>(point.y));
+        const double gain = m_gainAtPress + perPixel * Distance(m_ptPress, point).cy;
         device->Set(Binding() + (m_grabbed == kLow   ? L".low"
                                  : m_grabbed == kMid ? L".mid"
                                                      : L".high"),

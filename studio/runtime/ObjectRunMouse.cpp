@@ -4,6 +4,7 @@
 #include "canvas/UICanvas.h"
 #include "core/Geometry.h"
 #include "studio/controls/Control.h"
+#include "studio/controls/MessagePoint.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,6 +21,12 @@ constexpr Behaviour kMouseBehaviours[] = {Behaviour::kButton, Behaviour::kPage, 
                                           Behaviour::kSlider};
 
 enum Direction { kUp, kRight, kDown, kLeft };
+
+// The point of the page that a message means, the object being at `bounds`.
+CPoint OnPage(CPoint message, const RectF& bounds) {
+    const CPoint corner(Lumo::RoundToInt(bounds.X), Lumo::RoundToInt(bounds.Y));
+    return corner + Distance(message, corner);
+}
 
 }  // namespace
 
@@ -59,7 +66,9 @@ void ObjectRun::OnLButtonUp(CWnd* window, UINT message, UINT flags, LPARAM packe
     m_started = false;
     if (IsUsed(Behaviour::kButton))
         ReleaseButton();
-    const CPoint at(static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed)));
+    RectF bounds = m_object.GetPosition();
+    bounds.Offset(Origin());
+    const CPoint at = OnPage(CPoint(LOWORD(packed), HIWORD(packed)), bounds);
     if (!Answers(Lumo::PointGdiFromAtl(at)))
         return;
     if (IsUsed(Behaviour::kInput) && !IsUsed(Behaviour::kSlider))
@@ -78,12 +87,12 @@ void ObjectRun::OnDrag(CWnd*, UINT, const CPoint& point) {
     Slide(point);
 }
 
-double ObjectRun::SliderPart(CPoint at) const {
-    const CPoint signedAt(static_cast<short>(at.x), static_cast<short>(at.y));
+double ObjectRun::SliderPart(CPoint message) const {
     RectF bounds = Lumo::Normalised(m_object.GetPosition());
     bounds.Offset(Origin());
-    const double across = (signedAt.x - bounds.X) / std::max(1.0f, bounds.Width);
-    const double down = (signedAt.y - bounds.Y) / std::max(1.0f, bounds.Height);
+    const CPoint at = OnPage(message, bounds);
+    const double across = (at.x - bounds.X) / std::max(1.0f, bounds.Width);
+    const double down = (at.y - bounds.Y) / std::max(1.0f, bounds.Height);
     switch (m_extras.prefs.m_slider.m_nDirection) {
         case kRight:
             return across;

@@ -1,14 +1,10 @@
 // Run mode through real messages: controls, behaviours, repainting, and everything as before at the end.
-#include "StudioFixture.h"
+#include "RunFixture.h"
 #include "studio/controls/LevelControls.h"
 #include "studio/controls/MatrixControls.h"
 #include "studio/controls/PeqChart.h"
-#include "studio/document/ObjectExtras.h"
-#include "studio/editing/PageEdits.h"
 #include "studio/runtime/NumberEntry.h"
-#include "studio/runtime/RunSession.h"
 
-#include <afxadv.h>
 #include <gtest/gtest.h>
 
 #include <iterator>
@@ -20,58 +16,7 @@ namespace {
 
 constexpr double kTick = 1.0 / 30.0;
 
-class RunTest : public StudioFixture, public RunHost {
-protected:
-    void SetUp() override {
-        StudioFixture::SetUp();
-        m_parent.ShowWindow(SW_SHOWNA);
-        Page().ShowWindow(SW_SHOWNA);
-    }
-    void TearDown() override {
-        m_session.reset();
-        StudioFixture::TearDown();
-    }
-
-    void Run() {
-        m_session = std::make_unique<RunSession>(*m_document, m_device, *this);
-        m_session->Update();
-        Page().UpdateWindow();
-    }
-
-    ObjectExtras& Extras(CUIObject* object, Behaviour behaviour, LPCWSTR value) {
-        ObjectExtras& extras = *EditExtras(*object);
-        extras.TurnOn(behaviour, true);
-        extras.Record(behaviour).m_strName = value;
-        return extras;
-    }
-
-    std::vector<BYTE> Bytes() {
-        CSharedFile file;
-        {
-            CArchive ar(&file, CArchive::store);
-            for (CUIObject* object : Objects())
-                StoreObject(ar, *object);
-        }
-        std::vector<BYTE> bytes(static_cast<size_t>(file.GetLength()));
-        file.SeekToBegin();
-        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-        return bytes;
-    }
-
-    void GoToPage(const CString& name) override { m_asked = name; }
-    void GoToPage(int number) override { m_asked.Format(L"%d", number); }
-    void StepPage(int step) override { m_asked.Format(L"step %d", step); }
-    bool Confirm(const CString& question) override {
-        m_asked = question;
-        return m_answer;
-    }
-    void EnterNumber(int value, const Gdiplus::RectF&) override { m_asked = m_device.Info(value).name; }
-
-    Device m_device;
-    std::unique_ptr<RunSession> m_session;
-    CString m_asked;
-    bool m_answer = true;
-};
+class RunTest : public RunFixture {};
 
 }  // namespace
 
@@ -164,6 +109,188 @@ TEST_F(RunTest, BehavioursAnswerTheMouse) {
     EXPECT_STREQ(m_asked, L"in6.gain");
 }
 
+// Each behaviour with the mouse in all its ways: on the page, in a group, and far out on the page, where the
+// coordinates do not fit into a message.
+TEST_F(RunTest, EveryWayOfOperating) {
+    using Set = void (*)(CUIPreference&);
+    const CPoint kBeside(130, 90);
+    // Presses at one place of an object of 40 by 100, goes to another and releases there.
+    const struct {
+        const char* what;
+        Behaviour behaviour;
+        Set set;
+        CPoint press, release;
+        double before, held, after;
+        LPCWSTR asked;
+    } rows[] = {
+        {"slider", Behaviour::kSlider, nullptr, {7, 80}, {7, 30}, -1, -48, -18, L""},
+        {"right",
+         Behaviour::kSlider,
+         [](CUIPreference& p) { p.m_slider.m_nDirection = 1; },
+         {10, 80},
+         {30, 5},
+         -1,
+         -45,
+         -15,
+         L""},
+        {"down",
+         Behaviour::kSlider,
+         [](CUIPreference& p) { p.m_slider.m_nDirection = 2; },
+         {10, 80},
+         {30, 5},
+         -1,
+         -12,
+         -57,
+         L""},
+        {"left",
+         Behaviour::kSlider,
+         [](CUIPreference& p) { p.m_slider.m_nDirection = 3; },
+         {10, 80},
+         {30, 5},
+         -1,
+         -15,
+         -45,
+         L""},
+        {"dragged",
+         Behaviour::kSlider,
+         [](CUIPreference& p) { p.m_slider.m_nMode = 1; },
+         {7, 80},
+         {7, 60},
+         -30,
+         -30,
+         -18,
+         L""},
+        {"set",
+         Behaviour::kButton,
+         [](CUIPreference& p) { p.m_button.m_nAction = 2, p.m_button.m_nValue = -7; },
+         {11, 20},
+         kBeside,
+         -20,
+         -7,
+         -7,
+         L""},
+        {"add",
+         Behaviour::kButton,
+         [](CUIPreference& p) { p.m_button.m_nAction = 4, p.m_button.m_nValue = -7; },
+         {11, 20},
+         kBeside,
+         -20,
+         -27,
+         -27,
+         L""},
+        {"typed", Behaviour::kInput, nullptr, {11, 20}, {12, 20}, -20, -20, -20, L"in1.gain"},
+        {"not typed", Behaviour::kInput, nullptr, {11, 20}, kBeside, -20, -20, -20, L""},
+        {"page",
+         Behaviour::kPage,
+         [](CUIPreference& p) { p.m_page.m_nMode = 1, p.m_page.m_nPage = 3; },
+         {11, 20},
+         {12, 20},
+         -20,
+         -20,
+         -20,
+         L"3"},
+        {"next",
+         Behaviour::kPage,
+         [](CUIPreference& p) { p.m_page.m_nMode = 2; },
+         {11, 20},
+         {12, 20},
+         -20,
+         -20,
+         -20,
+         L"step 1"},
+        {"previous",
+         Behaviour::kPage,
+         [](CUIPreference& p) { p.m_page.m_nMode = 3; },
+         {11, 20},
+         {12, 20},
+         -20,
+         -20,
+         -20,
+         L"step -1"},
+        {"stayed",
+         Behaviour::kPage,
+         [](CUIPreference& p) { p.m_page.m_nMode = 3; },
+         {11, 20},
+         kBeside,
+         -20,
+         -20,
+         -20,
+         L""},
+    };
+    const CPoint corners[] = {{20, 30}, {40000, 70000}};
+    for (const CPoint& corner : corners) {
+        for (const bool grouped : {false, true}) {
+            for (const auto& row : rows) {
+                SCOPED_TRACE(row.what);
+                SCOPED_TRACE(corner.x + (grouped ? 1 : 0));
+                ASSERT_TRUE(m_document->NewFile());
+                Page().MoveWindow(0, 0, 600, 400);
+                const auto x = static_cast<float>(corner.x), y = static_cast<float>(corner.y);
+                CUIObject* object = Add(Lumo::DS_RECTANGLE, x, y, 40, 100);
+                auto& prefs = Extras(object, row.behaviour, L"in1.gain").prefs;
+                prefs.m_slider.m_nLowValue = -60, prefs.m_slider.m_nHighValue = 0;
+                if (row.set)
+                    row.set(prefs);
+                if (grouped) {
+                    Page().SelectOnly({object, Add(Lumo::DS_RECTANGLE, x - 9, y - 5, 3, 4)});
+                    GroupSelection(Page());
+                }
+                if (row.before != -1)
+                    m_device.Set(L"in1.gain", row.before);
+                m_asked.Empty();
+                ScrollTo(corner);
+                Run();
+                const CSize place = corner - Page().ScrollOrigin();
+                const CPoint press = row.press + place, release = row.release + place;
+                Mouse(WM_LBUTTONDOWN, press.x, press.y);
+                EXPECT_NEAR(m_device.Get(L"in1.gain"), row.held, 0.05);
+                if (row.press.x == row.release.x || row.behaviour == Behaviour::kSlider)
+                    Mouse(WM_MOUSEMOVE, release.x, release.y, MK_LBUTTON);
+                Mouse(WM_LBUTTONUP, release.x, release.y);
+                EXPECT_NEAR(m_device.Get(L"in1.gain"), row.after, 0.05);
+                EXPECT_STREQ(m_asked, row.asked);
+                m_session.reset();
+            }
+        }
+    }
+}
+
+TEST_F(RunTest, RadioButtonsOfOneGroupExcludeEachOtherWhereverTheyStand) {
+    const auto button = [&](int number, DWORD group) {
+        CUIObject* object = Add(Lumo::DS_BUTTONDEVICE, 100.0f * static_cast<float>(number) - 90, 20, 80, 40);
+        CString name;
+        name.Format(L"in%d.mute", number);
+        EditExtras(*object)->binding = name;
+        dynamic_cast<DeviceButton*>(object)->SetButtonStyle(DeviceButton::kRadio);
+        dynamic_cast<DeviceButton*>(object)->SetRadioGroup(group);
+        return object;
+    };
+    button(1, 7);
+    CUIObject* const second = button(2, 7);
+    CUIObject* const third = button(3, 7);
+    CUIObject* const other = button(4, 8);
+    CUIObject* const fifth = button(5, 7);
+    Page().SelectOnly({third, other});
+    GroupSelection(Page());
+    Page().SelectOnly({Objects().back(), second});
+    GroupSelection(Page());
+    EXPECT_EQ(Objects().size(), 3u);
+    EXPECT_NE(fifth, nullptr);
+    Run();
+    const auto on = [&] {
+        CString which;
+        for (LPCWSTR name : {L"in1.mute", L"in2.mute", L"in3.mute", L"in4.mute", L"in5.mute"})
+            which += m_device.Get(name) != 0.0 ? L'1' : L'0';
+        return which;
+    };
+    m_device.Set(L"in4.mute", 1.0);
+    const LPCWSTR expected[] = {L"10010", L"01010", L"00110", L"00010", L"00011"};
+    for (int i : {0, 1, 2, 4, 0}) {
+        Click({50 + 100 * i, 40});
+        EXPECT_STREQ(on(), expected[i]) << i;
+    }
+}
+
 TEST_F(RunTest, ControlsAnswerTheMouse) {
     auto* chart = dynamic_cast<PeqChart*>(Add(Lumo::DS_CHARTPEQ, 0, 0, 300, 180));
     auto* matrix = dynamic_cast<DeviceChart*>(Add(Lumo::DS_CHARTDEVICE, 310, 0, 260, 260));
@@ -203,6 +330,26 @@ TEST_F(RunTest, ControlsAnswerTheMouse) {
     EXPECT_EQ(m_device.Get(L"master.mute"), 1.0);
     Mouse(WM_LBUTTONUP, 50, 270);
     EXPECT_EQ(m_device.Get(L"master.mute"), 0.0);
+}
+
+TEST_F(RunTest, ControlsFarOutOnThePageAnswerTheMouse) {
+    constexpr float kX = 40000, kY = 70000;
+    auto* chart = dynamic_cast<PeqChart*>(Add(Lumo::DS_CHARTPEQ, kX, kY, 300, 180));
+    Add(Lumo::DS_BUTTONLEVEL, kX + 10, kY + 200, 100, 40);
+    auto* matrix = dynamic_cast<DeviceChart*>(Add(Lumo::DS_CHARTDEVICE, kX + 310, kY, 240, 260));
+    ScrollTo(CPoint(static_cast<int>(kX), static_cast<int>(kY)));
+    Run();
+    const CPoint handle = chart->HandleOf(3);
+    const double frequency = m_device.Get(L"out1.peq.3.freq");
+    Drag(handle, {handle.x + 30, handle.y - 20}, MK_LBUTTON);
+    EXPECT_GT(m_device.Get(L"out1.peq.3.freq"), frequency * 1.5);
+    const double gain = m_device.Get(L"in1.gain");
+    Drag({60, 220}, {60, 200}, MK_LBUTTON);
+    EXPECT_EQ(m_device.Get(L"in1.gain"), gain + 5.0);
+    CPoint cell = matrix->CellOf(4, 9);
+    cell.x += 310;
+    Drag(cell, {cell.x, cell.y + 20}, MK_LBUTTON);
+    EXPECT_EQ(m_device.Get(L"xp.4.9.gain"), -5.0);
 }
 
 TEST_F(RunTest, NothingStaysGrabbedWhenTheRunEnds) {

@@ -1,0 +1,77 @@
+// A document that runs.
+#pragma once
+
+#include "studio/StudioFixture.h"
+#include "studio/document/ObjectArchive.h"
+#include "studio/document/ObjectExtras.h"
+#include "studio/editing/PageEdits.h"
+#include "studio/runtime/RunSession.h"
+
+#include <afxadv.h>
+
+#include <memory>
+#include <vector>
+
+/// Runs the page on request, and keeps what its behaviours ask of the program.
+class RunFixture : public StudioFixture, public Studio::RunHost {
+protected:
+    void SetUp() override {
+        StudioFixture::SetUp();
+        m_parent.ShowWindow(SW_SHOWNA);
+        Page().ShowWindow(SW_SHOWNA);
+    }
+    void TearDown() override {
+        m_session.reset();
+        StudioFixture::TearDown();
+    }
+
+    /// Shows a place in the corner of the window; the page reaches a window's size beyond it.
+    void ScrollTo(CPoint corner) {
+        Add(Lumo::DS_RECTANGLE, static_cast<float>(corner.x) + 700, static_cast<float>(corner.y) + 500, 9, 5);
+        Page().NotifyState();
+        MSG message;
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessage(&message);
+        Page().ScrollTo(corner);
+    }
+
+    void Run() {
+        m_session = std::make_unique<Studio::RunSession>(*m_document, m_device, *this);
+        m_session->Update();
+        Page().UpdateWindow();
+    }
+
+    Studio::ObjectExtras& Extras(Lumo::CUIObject* object, Studio::Behaviour behaviour, LPCWSTR value) {
+        Studio::ObjectExtras& extras = *Studio::EditExtras(*object);
+        extras.TurnOn(behaviour, true);
+        extras.Record(behaviour).m_strName = value;
+        return extras;
+    }
+
+    std::vector<BYTE> Bytes() {
+        CSharedFile file;
+        {
+            CArchive ar(&file, CArchive::store);
+            for (Lumo::CUIObject* object : Objects())
+                Studio::StoreObject(ar, *object);
+        }
+        std::vector<BYTE> bytes(static_cast<size_t>(file.GetLength()));
+        file.SeekToBegin();
+        file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
+        return bytes;
+    }
+
+    void GoToPage(const CString& name) override { m_asked = name; }
+    void GoToPage(int number) override { m_asked.Format(L"%d", number); }
+    void StepPage(int step) override { m_asked.Format(L"step %d", step); }
+    bool Confirm(const CString& question) override {
+        m_asked = question;
+        return m_answer;
+    }
+    void EnterNumber(int value, const Gdiplus::RectF&) override { m_asked = m_device.Info(value).name; }
+
+    Studio::Device m_device;
+    std::unique_ptr<Studio::RunSession> m_session;
+    CString m_asked;
+    bool m_answer = true;
+};
