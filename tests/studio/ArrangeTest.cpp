@@ -68,6 +68,15 @@ TEST_F(ArrangeTest, FlipsPointsAndChildren) {
     EXPECT_FLOAT_EQ(120.0f, line->NormalizePoints()->at(0).X);
     EXPECT_FLOAT_EQ(20.0f, line->NormalizePoints()->at(0).Y);
     EXPECT_FLOAT_EQ(60.0f, line->NormalizePoints()->at(1).X);
+
+    CUIObject* flat = Add(Lumo::DS_RECTANGLE, 200, 50, 40, 11);
+    CUIObject* tall = Add(Lumo::DS_RECTANGLE, 223, 90, 9, 30);
+    Page().SelectOnly({flat, tall});
+    GroupSelection(Page());
+    FlipSelection(Page(), false);
+    UngroupSelection(Page());
+    ExpectBounds(*flat, 200, 109, 40, 11);
+    ExpectBounds(*tall, 223, 50, 9, 30);
 }
 
 TEST_F(ArrangeTest, GesturesSnapToTheGridUnlessCtrlHasItsOwnWay) {

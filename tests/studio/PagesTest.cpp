@@ -2,6 +2,7 @@
 #include "studio/StudioFixture.h"
 
 #include "studio/device/Device.h"
+#include "studio/app/Texts.h"
 #include "studio/document/Autosave.h"
 #include "studio/document/DemoProject.h"
 #include "studio/document/FileReport.h"
@@ -201,6 +202,10 @@ TEST_F(Pages, AutosaveOfADocumentWithoutFile) {
     ::RemoveDirectory(folder);
     Autosave nowhere(*m_document, L"");
     EXPECT_TRUE(nowhere.FindLeftBehind().empty());
+    EXPECT_TRUE(m_document->NewFile());
+    m_document->Edits().MarkUnsaved();
+    EXPECT_FALSE(nowhere.Update());
+    EXPECT_STREQ(nowhere.GetReason(), GetText(Text::kFaultAccess));
 }
 
 TEST_F(Pages, ADamagedCopyChangesNothing) {

@@ -118,3 +118,18 @@ TEST_F(ScrollTest, AScrolledPageIsOperatedWhereItIsSeen) {
     EXPECT_NE(0u, dc.GetPixel(1040 - origin.x, 40)) << "the object is painted there";
     EXPECT_EQ(0u, dc.GetPixel(1040 - origin.x - 100, 40));
 }
+
+// As wide as the window, but not when the other direction's bar stands in it.
+TEST_F(ScrollTest, ABarThatTakesRoomBringsTheOther) {
+    Add(Lumo::DS_RECTANGLE, 10, 10, 582, 700);
+    Page().NotifyState();
+    Settle();
+    EXPECT_TRUE(HasBar(WS_HSCROLL) && HasBar(WS_VSCROLL));
+    Device device;
+    RunSession session(*m_document, device, *this);
+    Page().ScrollTo(CPoint(10000, 10000));
+    CRect client;
+    Page().GetClientRect(client);
+    EXPECT_EQ(592, Page().ScrollOrigin().x + client.right);
+    EXPECT_EQ(710, Page().ScrollOrigin().y + client.bottom);
+}

@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Takes over the pictures that the last run of the tests found different, after somebody has looked at them.
+set -euo pipefail
+shopt -s nullglob
+
+for picture in build/checked/golden/*/*.png; do
+    folder=$(basename "$(dirname "$picture")")
+    mkdir -p "tests/$folder/golden"
+    mv -v "$picture" "tests/$folder/golden/"
+done
