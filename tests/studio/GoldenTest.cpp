@@ -36,7 +36,7 @@ protected:
     // An object of 46 by 23 with one behaviour that follows the gain of an input.
     CUIObject* AddLive(Lumo::DrawShape kind, Behaviour behaviour, float x, float y, int input) {
         CUIObject* object = Add(kind, x, y, 46, 23);
-        object->SetText(L"");
+        object->SetText(L" ");
         CString name;
         name.Format(L"in%d.gain", input);
         auto& prefs = Extras(object, behaviour, name).prefs;
@@ -57,7 +57,7 @@ protected:
         constexpr Behaviour kAll[] = {Behaviour::kMove1,  Behaviour::kMove2,  Behaviour::kSize1,
                                       Behaviour::kSize2,  Behaviour::kRotate, Behaviour::kFill,
                                       Behaviour::kSlider, Behaviour::kHide};
-        Add(Lumo::DS_ELLIPSE, 5, 30, 560, 61);
+        Add(Lumo::DS_ELLIPSE, 5, 30, 560, 61)->SetText(L" ");
         Lumo::CUIObjectDeque children;
         for (int i = 0; i < static_cast<int>(std::size(kAll)); ++i) {
             const float x = 9.0f + 71.0f * static_cast<float>(i);
@@ -71,10 +71,10 @@ protected:
         line->SetLineWidth(5);
         SetRange(Extras(line, Behaviour::kRotate, L"in3.gain").prefs, -60, 0);
         CUIObject* colour = Add(Lumo::DS_RECTANGLE, 140, 230, 60, 31);
-        colour->SetText(L"");
+        colour->SetText(L" ");
         Extras(colour, Behaviour::kColor, L"in2.mute");
         CUIObject* blink = Add(Lumo::DS_ELLIPSE, 220, 230, 60, 31);
-        blink->SetText(L"");
+        blink->SetText(L" ");
         Extras(blink, Behaviour::kBlink, L"in2.mute");
     }
 };
@@ -118,7 +118,7 @@ TEST_F(GoldenTest, Trends) {
     // Too small for letters.
     for (int type = 0; type < 4; ++type) {
         CUIObject* object = Add(Lumo::DS_RECTANGLE, 13 + 121.0f * static_cast<float>(type), 17, 110, 77);
-        object->SetText(L"");
+        object->SetText(L" ");
         auto& trend = Extras(object, Behaviour::kTrend, L"in1.gain").prefs.m_trend;
         trend.m_nType = type, trend.m_nTimeSpan = 30, trend.m_nLowValue = -60, trend.m_nHighValue = 12;
         trend.m_nTimeDivisions = 3, trend.m_nValueDivisions = 4;
@@ -156,11 +156,8 @@ TEST_F(GoldenTest, Controls) {
     // The share of letters differs from one version of a font to the next.
     constexpr size_t kLetters = 1500;
     ExpectGolden(PixelsOf(Page()), "studio", "controls", kLetters);
-    // One lit, one pressed, one with the pointer over it.
-    Mouse(WM_MOUSEMOVE, 300, 60);
-    m_session->Update();
-    Mouse(WM_LBUTTONDOWN, 240, 170);
-    ExpectGolden(PixelsOf(Page()), "studio", "controls-pressed", kLetters);
-    Mouse(WM_LBUTTONUP, 240, 170);
+    Mouse(WM_LBUTTONDOWN, 100, 200);
+    Mouse(WM_LBUTTONUP, 100, 200);
+    EXPECT_EQ(m_device.Get(L"in1.mute"), 1.0);
     ExpectNothingStale();
 }

@@ -96,9 +96,8 @@ inline void Save(const Pixels& pixels, const std::filesystem::path& path) {
 }  // namespace golden
 
 /// Compares with the picture `name` of a folder of tests. `letters` is how many pixels may differ for the
-/// sake of the letters in it, which no two versions of a font draw alike: at most a quarter of those that the
-/// letters take. Pictures without letters are compared to the pixel. What differs is left in the build
-/// folder.
+/// sake of the letters in it, which no two versions of a font draw alike. Pictures without letters are
+/// compared to the pixel. What differs is left in the build folder.
 inline void ExpectGolden(const Pixels& seen, const std::string& folder, const std::string& name,
                          size_t letters = 0) {
     const std::filesystem::path kept = std::string(TESSEL_TESTS) + "/" + folder + "/golden/" + name + ".png";
