@@ -71,7 +71,7 @@ TEST(ArchiveObjects, AreStoredOnceWithTheirClassAndComeBackShared) {
     EXPECT_EQ(bytes, Stored([&](CArchive& ar) {
                   ar << &first << &second << static_cast<CObject*>(nullptr) << &first << &leaf;
               }));
-    Loader loader(bytes);
+    LoadingArchive loader(bytes);
     CNode *head = nullptr, *again = nullptr;
     CLeaf* tail = nullptr;
     CObject *middle = nullptr, *none = &first;
@@ -87,7 +87,7 @@ TEST(ArchiveObjects, AreStoredOnceWithTheirClassAndComeBackShared) {
 TEST(ArchiveObjects, MayPointInACircle) {
     CNode first, second;
     first.next = &second, second.next = &first;
-    Loader loader(Stored([&](CArchive& ar) { ar << &first; }));
+    LoadingArchive loader(Stored([&](CArchive& ar) { ar << &first; }));
     CNode* loaded = nullptr;
     loader.ar >> loaded;
     EXPECT_EQ(loaded, loaded->next->next);
@@ -103,7 +103,7 @@ TEST(ArchiveObjects, HaveLongNumbersFrom7FFFOn) {
         ar << &leaves[0x7FFC] << &leaves[0x7FFD] << &leaves[0x7FFE];
     });
     EXPECT_EQ("\xFE\x7F\xFF\x7F\xFF\x7F\0\0\xFF\x7F\0\x80\0\0"s, bytes.substr(bytes.size() - 14));
-    Loader loader(bytes);
+    LoadingArchive loader(bytes);
     std::vector<std::unique_ptr<CObject>> loaded;
     for (size_t i = 0; i < leaves.size(); ++i)
         loaded.emplace_back(loader.ar.ReadObject(RUNTIME_CLASS(CLeaf)));
@@ -117,7 +117,7 @@ TEST(ArchiveObjects, TellTheirSchemaOnce) {
         CVersioned stored;
         EXPECT_EQ(bytes, Stored([&](CArchive& ar) { ar << &stored; }));
         bytes[2] = char(schema);
-        Loader loader(bytes);
+        LoadingArchive loader(bytes);
         CVersioned* loaded = nullptr;
         loader.ar >> loaded;
         EXPECT_TRUE(loaded->first == schema && loaded->second == UINT(-1));
@@ -150,20 +150,20 @@ TEST(ArchiveObjects, HostileDataRaiseTheirCauseAndLeaveNothing) {
         {kNode + "\x07\0\x03\0"s, CArchiveException::badIndex},
     };
     for (const auto& c : cases) {
-        Loader loader(c.bytes);
+        LoadingArchive loader(c.bytes);
         CNode* loaded = nullptr;
         EXPECT_EQ(c.cause, CauseOf<CArchiveException>([&] { loader.ar >> loaded; })) << &c - cases;
         EXPECT_TRUE(!loaded && CNode::alive == 0) << &c - cases;
     }
     // A reference to a node where a leaf is wanted.
-    Loader loader(kNode + "\x07\0\0\0w\x02\0"s);
+    LoadingArchive loader(kNode + "\x07\0\0\0w\x02\0"s);
     CNode* node = nullptr;
     CLeaf* leaf = nullptr;
     loader.ar >> node;
     EXPECT_EQ(CArchiveException::badClass, CauseOf<CArchiveException>([&] { loader.ar >> leaf; }));
     delete node;
     // One that another object already points to is not deleted when its loading fails afterwards.
-    Loader shared(kNode + "\x07\0\x01\x80\x08\0\x02\0w"s);
+    LoadingArchive shared(kNode + "\x07\0\x01\x80\x08\0\x02\0w"s);
     EXPECT_EQ(CArchiveException::endOfFile, CauseOf<CArchiveException>([&] { shared.ar >> node; }));
     ASSERT_EQ(2, CNode::alive);
     EXPECT_EQ(CNode::newest, CNode::newest->next->next);
@@ -178,7 +178,7 @@ TEST(ArchiveObjects, NeedNamesAndTheRightDirection) {
     EXPECT_EQ(RUNTIME_CLASS(CLeaf), CRuntimeClass::FromName("CLeaf"));
     EXPECT_EQ(nullptr, CRuntimeClass::FromName("CPlain"));
     EXPECT_TRUE(Throws<CNotSupportedException>([&] { Stored([&](CArchive& ar) { ar << &plain; }); }));
-    Loader loader(kNode);
+    LoadingArchive loader(kNode);
     EXPECT_TRUE(Throws<CNotSupportedException>([&] { loader.ar.ReadObject(RUNTIME_CLASS(CObject)); }));
     EXPECT_EQ(CArchiveException::readOnly, CauseOf<CArchiveException>([&] { loader.ar << &node; }));
     EXPECT_EQ(CArchiveException::writeOnly, CauseOf<CArchiveException>([&] {
@@ -202,7 +202,7 @@ TEST(ArchiveObjects, GoAThousandDeepAndNoDeeper) {
         bytes = kNode + "\x07\0"s;
         for (int i = 1; i < count; ++i)
             bytes += "\x01\x80\x07\0"s;
-        Loader loader(bytes + "\0\0"s + std::string(count, 'w'));
+        LoadingArchive loader(bytes + "\0\0"s + std::string(count, 'w'));
         CNode* loaded = nullptr;
         EXPECT_EQ(cause, CauseOf<CArchiveException>([&] { loader.ar >> loaded; }));
         delete loaded;
@@ -216,7 +216,7 @@ TEST(ArchiveText, LinesComeBackWithoutTheirEnds) {
         "end"s.substr(0, 26);
     EXPECT_EQ("x\0\n\0"s, Stored([](CArchive& ar) { ar.WriteString(L"x\n"); }));
     {
-        Loader loader(bytes, 128);
+        LoadingArchive loader(bytes, 128);
         CString line;
         for (LPCWSTR expected : {L"one", L"", L"a\rb", L"\xAC00\x6E65"}) {
             EXPECT_TRUE(loader.ar.ReadString(line));
@@ -225,7 +225,7 @@ TEST(ArchiveText, LinesComeBackWithoutTheirEnds) {
         EXPECT_FALSE(loader.ar.ReadString(line));
         EXPECT_TRUE(line.IsEmpty());
     }
-    Loader loader(bytes);
+    LoadingArchive loader(bytes);
     wchar_t line[4];
     for (LPCWSTR expected : {L"one", L"", L"", L"a\rb", L"", L"\xAC00\x6E65"}) {
         EXPECT_EQ(line, loader.ar.ReadString(line, 4));

@@ -11,7 +11,7 @@
 namespace {
 
 int LoadCause(const std::string& bytes, CString& text) {
-    Loader loader(bytes);
+    LoadingArchive loader(bytes);
     return CauseOf<CArchiveException>([&] { loader.ar >> text; });
 }
 
@@ -39,7 +39,7 @@ TEST(Archive, StoresAndLoadsEveryTypeLittleEndian) {
     });
     EXPECT_EQ(kAllTypes, stored);
 
-    Loader loader(stored);
+    LoadingArchive loader(stored);
     BYTE byte = 0;
     char narrow = 0;
     bool flag = false;
@@ -87,7 +87,7 @@ TEST(Archive, StringsHaveTheUnicodeFormAtEveryLength) {
         EXPECT_TRUE(c.prefix + characters + '\x09' == stored) << c.length;
 
         for (int bufferSize : {128, 4096}) {
-            Loader loader(stored, bufferSize);
+            LoadingArchive loader(stored, bufferSize);
             CString loaded(L"old");
             BYTE following = 0;
             loader.ar >> loaded >> following;
@@ -110,7 +110,7 @@ TEST(Archive, LoadsTheAnsiFormToo) {
         {"\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x03\0\0\0\0\0\0\0"s + "abc", L"abc"},
     };
     for (const auto& c : cases) {
-        Loader loader(c.bytes);
+        LoadingArchive loader(c.bytes);
         CString loaded;
         loader.ar >> loaded;
         EXPECT_EQ(c.text, loaded);
@@ -141,7 +141,7 @@ TEST(Archive, LengthsBeyondTheDataRaiseEndOfFile) {
 
 TEST(Archive, EveryCutOfAStreamIsNoticed) {
     for (size_t length = 0; length < kAllTypes.size(); ++length) {
-        Loader loader(kAllTypes.substr(0, length));
+        LoadingArchive loader(kAllTypes.substr(0, length));
         EXPECT_EQ(CArchiveException::endOfFile, CauseOf<CArchiveException>([&] {
                       BYTE byte;
                       ULONGLONG rest[6];
@@ -155,7 +155,7 @@ TEST(Archive, EveryCutOfAStreamIsNoticed) {
 TEST(Archive, LoadingATextThatIsThereAlreadyKeepsItShared) {
     const CString usual(L"Arial");
     // Behind something else, so that the archive's buffer holds it.
-    Loader loader(Stored([&](CArchive& ar) { ar << 7 << usual << CString(L"Other"); }));
+    LoadingArchive loader(Stored([&](CArchive& ar) { ar << 7 << usual << CString(L"Other"); }));
     CString same = usual, other = usual;
     int seven;
     loader.ar >> seven >> same >> other;
@@ -199,7 +199,7 @@ TEST(Archive, RawBlocksPassThroughBuffersOfAnySize) {
         ASSERT_EQ("\x01"s + block.substr(0, 300) + "\0\0\0\0\0\0\x04\x40"s + block.substr(300), stored)
             << bufferSize;
 
-        Loader loader(stored, bufferSize);
+        LoadingArchive loader(stored, bufferSize);
         std::string loaded(block.size() + 50, '\0');
         BYTE byte;
         double number;
@@ -213,7 +213,7 @@ TEST(Archive, RawBlocksPassThroughBuffersOfAnySize) {
 }
 
 TEST(Archive, ClosingALoadLeavesTheFileAtTheNextValue) {
-    Loader loader("\x01\0\0\0next"s);
+    LoadingArchive loader("\x01\0\0\0next"s);
     int number;
     loader.ar >> number;
     loader.ar.Close();

@@ -114,10 +114,10 @@ TEST(Dialog, BelongsToTheMainWindowUnlessToldOtherwise) {
     program.m_pMainWnd = &main;
     EmptyTemplate memory;
     for (CWnd* parent : {static_cast<CWnd*>(nullptr), &other}) {
-        CWnd& owner = parent ? *parent : main;
+        CWnd* const owner = parent ? parent : &main;
         AskDialog modeless;
         ASSERT_TRUE(modeless.Create(MAKEINTRESOURCE(700), parent));
-        EXPECT_EQ(&owner, modeless.GetOwner());
+        EXPECT_EQ(owner, modeless.GetOwner());
         EXPECT_TRUE(modeless.GetDlgItem(710) && modeless.starts == 1);
         modeless.DestroyWindow();
         EXPECT_FALSE(modeless.Create(MAKEINTRESOURCE(701), parent)) << "no such template";
@@ -125,11 +125,11 @@ TEST(Dialog, BelongsToTheMainWindowUnlessToldOtherwise) {
         modal.InitModalIndirect(&memory.header, parent);
         bool wasDisabled = false;
         DialogUser user([&](HWND window) {
-            wasDisabled = !owner.IsWindowEnabled();
+            wasDisabled = !owner->IsWindowEnabled();
             ::PostMessage(window, WM_COMMAND, IDOK, 0);
         });
         EXPECT_EQ(IDOK, modal.DoModal());
-        EXPECT_TRUE(wasDisabled && owner.IsWindowEnabled());
+        EXPECT_TRUE(wasDisabled && owner->IsWindowEnabled());
     }
     program.m_pMainWnd = nullptr;
 }

@@ -24,8 +24,8 @@ std::string Stored(Store store, int bufferSize = 4096) {
 }
 
 /// A loading archive on bytes in memory.
-struct Loader {
-    explicit Loader(const std::string& bytes, int bufferSize = 4096)
+struct LoadingArchive {
+    explicit LoadingArchive(const std::string& bytes, int bufferSize = 4096)
         : file(Filled(bytes)), ar(&file, CArchive::load, bufferSize) {}
 
     CMemFile& Filled(const std::string& bytes) {

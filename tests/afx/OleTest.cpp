@@ -134,9 +134,11 @@ TEST_F(Ole, DataSourceListsItsFormats) {
     EXPECT_EQ(S_OK, source.GetDataObject()->GetDataHere(&format, &room));
     EXPECT_EQ("xy", Content(room.hGlobal, 2));
     ::GlobalFree(room.hGlobal);
-    room.hGlobal = ::GlobalAlloc(GMEM_MOVEABLE, 1);
-    EXPECT_EQ(STG_E_MEDIUMFULL, source.GetDataObject()->GetDataHere(&format, &room));
-    ::GlobalFree(room.hGlobal);
+    STGMEDIUM little{};
+    little.tymed = TYMED_HGLOBAL;
+    little.hGlobal = ::GlobalAlloc(GMEM_MOVEABLE, 1);
+    EXPECT_EQ(STG_E_MEDIUMFULL, source.GetDataObject()->GetDataHere(&format, &little));
+    ::GlobalFree(little.hGlobal);
     format = {ownFormat, nullptr, DVASPECT_CONTENT, -1, TYMED_ISTREAM};
     EXPECT_EQ(DV_E_FORMATETC, source.GetDataObject()->QueryGetData(&format)) << "memory is no stream";
     STGMEDIUM streamed{};

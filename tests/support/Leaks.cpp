@@ -75,15 +75,16 @@ int RunTestsAndCountLeaks() {
     NewBlocks::Install();
     auto* listener = new Listener;
     ::testing::UnitTest::GetInstance()->listeners().Append(listener);
-    const int result = RUN_ALL_TESTS();
+    int result = RUN_ALL_TESTS();
+    // The system keeps things that it made for one test until another one; a leak comes every time.
+    for (int again = 0; again < 2 && result == 0 && !listener->names.empty(); ++again) {
+        std::printf("\nOnce more, those that left something:\n");
+        ::testing::GTEST_FLAG(filter) = std::exchange(listener->names, {});
+        listener->report.clear();
+        result = RUN_ALL_TESTS();
+    }
     if (result != 0 || listener->names.empty())
         return result;
-    std::printf("\nOnce more, those that left something:\n");
-    ::testing::GTEST_FLAG(filter) = std::exchange(listener->names, {});
-    listener->report.clear();
-    const int again = RUN_ALL_TESTS();
-    if (listener->report.empty())
-        return again;
     std::printf("\nLeaks, left at the end of each run of a test:\n%s", listener->report.c_str());
     return 1;
 }
