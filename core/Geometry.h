@@ -57,8 +57,8 @@ inline bool IsDrawable(const Gdiplus::RectF& rect) {
            rect.Y + rect.Height <= kFarthest;
 }
 
-/// True when the rectangles (sizes not negative) have a point in common, edges included; also when one holds
-/// NaN.
+/// True when `a` and `b` (sizes not negative) have a point in common, edges included; also when one of them
+/// holds NaN.
 inline bool Touches(const Gdiplus::RectF& a, const Gdiplus::RectF& b) {
     return !(b.X > a.X + a.Width || b.X + b.Width < a.X || b.Y > a.Y + a.Height || b.Y + b.Height < a.Y);
 }
