@@ -2,7 +2,7 @@
 
 namespace {
 
-COLORREF customColours[16];  // kept for the next time, as the user expects
+COLORREF customColours[16];  // stay for the next time, as the user expects
 
 }  // namespace
 

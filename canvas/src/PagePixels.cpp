@@ -6,7 +6,7 @@ namespace Lumo {
 
 namespace {
 
-constexpr size_t kWasteful = 4;  // kept memory that is this many times larger than needed is let go
+constexpr size_t kWasteful = 4;  // memory this many times larger than needed is let go
 
 std::vector<DWORD>& Spare() {
     static std::vector<DWORD> spare;
