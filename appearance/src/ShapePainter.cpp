@@ -5,6 +5,7 @@
 #include "appearance/PictureFile.h"
 #include "core/EllipseOutline.h"
 #include "core/Geometry.h"
+#include "core/internal/Caption.h"
 #include "core/internal/GraphicsStateScope.h"
 #include "core/PaintScope.h"
 
@@ -24,12 +25,18 @@ public:
                  PaintStage stage)
         : m_graphics(graphics),
           m_part(PaintScope::PartOf(graphics)),
+          m_coordinate(coordinate),
           m_fill(coordinate.Format<CUIShapeFormatFill>()),
           m_lineColor(coordinate.Format<CUIShapeFormatLineColor>()),
           m_position(coordinate.GetPosition()),
           m_penWidth(coordinate.GetLineWidth() * (stage == PaintStage::Dragged ? 2.0f : 1.0f)),
           m_kind(kind),
           m_stage(stage) {}
+
+    void PaintCaption() {
+        if (HasCaption(m_coordinate))
+            DrawCaption(m_graphics, m_coordinate, m_part);
+    }
 
     void PaintOutline() {
         DWORD color = 0;
@@ -130,6 +137,7 @@ private:
 
     Gdiplus::Graphics& m_graphics;
     Gdiplus::RectF m_part;
+    const CUICoordinate& m_coordinate;
     const CUIShapeFormatFill& m_fill;
     const CUIShapeFormatLineColor& m_lineColor;
     Gdiplus::RectF m_position;
@@ -144,6 +152,8 @@ void PaintShape(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, Sh
                 PaintStage stage) {
     ShapePainter painter(graphics, coordinate, kind, stage);
     // Kept: the fill comes last and covers the inner half of the outline, and the caption drawn before both.
+    if (stage == PaintStage::Normal)
+        painter.PaintCaption();
     painter.PaintOutline();
     painter.PaintFill();
 }

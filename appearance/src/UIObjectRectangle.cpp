@@ -22,7 +22,6 @@ void CUIObjectRectangle::Serialize(CArchive& ar) {
 }
 
 void CUIObjectRectangle::Draw(Gdiplus::Graphics* graphics) {
-    CUIObject::Draw(graphics);
     if (graphics != nullptr)
         PaintShape(*graphics, m_coordinate, ShapeKind::Rectangle, PaintStage::Normal);
 }
@@ -50,7 +49,6 @@ void CUIObjectEllipse::Serialize(CArchive& ar) {
 }
 
 void CUIObjectEllipse::Draw(Gdiplus::Graphics* graphics) {
-    CUIObject::Draw(graphics);
     if (graphics != nullptr)
         PaintShape(*graphics, m_coordinate, ShapeKind::Ellipse, PaintStage::Normal);
 }

@@ -1,4 +1,4 @@
-#include "core/src/Caption.h"
+#include "core/internal/Caption.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,8 +39,7 @@ Gdiplus::RectF CaptionBox(const Gdiplus::RectF& position, const Gdiplus::SizeF& 
     return {left, centre.Y - size.Height * 0.5f, size.Width + room, size.Height};
 }
 
-}  // namespace
-
+// An area that is sure to hold the caption of an object at `position`, found without measuring the text.
 Gdiplus::RectF CaptionBounds(const CUIShapeFormatText& text, const Gdiplus::RectF& position) {
     const LPCWSTR begin = text.m_strText;
     const auto lines = 1 + std::count_if(begin, begin + text.m_strText.GetLength(),
@@ -51,8 +50,19 @@ Gdiplus::RectF CaptionBounds(const CUIShapeFormatText& text, const Gdiplus::Rect
     return {position.X - em, middle - reach, position.Width + 2.0f * em, 2.0f * reach};
 }
 
-void DrawCaption(Gdiplus::Graphics& graphics, const CUIShapeFormatText& text,
-                 const Gdiplus::RectF& position) {
+}  // namespace
+
+bool HasCaption(const CUICoordinate& coordinate) {
+    const auto& text = coordinate.Format<CUIShapeFormatText>();
+    return text.m_bEnabled != 0 && !text.m_strText.IsEmpty();
+}
+
+void DrawCaption(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, const Gdiplus::RectF& part) {
+    const auto& text = coordinate.Format<CUIShapeFormatText>();
+    const Gdiplus::RectF position = coordinate.GetPosition();
+    const Gdiplus::RectF bounds = CaptionBounds(text, position);
+    if (!HasCaption(coordinate) || !IsDrawable(bounds) || !Touches(part, bounds))
+        return;
     CaptionCache& cache = CaptionCache::Get();
     const Gdiplus::Font* font = cache.FontOf(text);
     if (font == nullptr || position.Width <= 0.0f)

@@ -4,7 +4,7 @@
 #include "core/Geometry.h"
 #include "core/PaintScope.h"
 #include "core/UIObject.h"
-#include "core/src/Caption.h"
+#include "core/internal/Caption.h"
 #include "core/src/HandlePainter.h"
 
 namespace Lumo {
@@ -17,13 +17,8 @@ constexpr int kTrackedHandles = 8;
 }  // namespace
 
 void CUIObject::Draw(Gdiplus::Graphics* graphics) {
-    const auto& text = m_coordinate.Format<CUIShapeFormatText>();
-    if (graphics == nullptr || text.m_bEnabled == 0 || text.m_strText.IsEmpty())
-        return;
-    const Gdiplus::RectF position = m_coordinate.GetPosition();
-    if (PaintScope::Misses(*graphics, CaptionBounds(text, position)))
-        return;
-    DrawCaption(*graphics, text, position);
+    if (graphics != nullptr && HasCaption(m_coordinate))
+        DrawCaption(*graphics, m_coordinate, PaintScope::PartOf(*graphics));
 }
 
 void CUIObject::DrawType(Gdiplus::Graphics*) {}
