@@ -61,7 +61,7 @@ if(MINGW)
     foreach(dll ${TESSEL_RUNTIME_DLLS})
         execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
                         OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
-        foreach(other "${compiler_folder}" "/usr/${TESSEL_TRIPLET}/lib")
+        foreach(other ${TESSEL_GCC_FOLDER} "${compiler_folder}" "/usr/${TESSEL_TRIPLET}/lib")
             if(NOT EXISTS "${path}")
                 set(path "${other}/${dll}")
             endif()

@@ -28,15 +28,12 @@ double ArithmeticGeometricMean(double a, double b) {
 }
 
 Modulus FromNome(double q) {
-    double theta2 = 0.0, theta3 = 0.5, theta4 = 0.5;
-    double sign = 1.0;
+    double theta2 = 0.0, theta3 = 0.5;
     for (int n = 0; n < 200; ++n) {
         const double odd = std::pow(q, n * (n + 1.0));
         const double even = std::pow(q, (n + 1.0) * (n + 1.0));
         theta2 += odd;
         theta3 += even;
-        sign = -sign;
-        theta4 += sign * even;
         if (odd < 1e-20)
             break;
     }
