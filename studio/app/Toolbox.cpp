@@ -7,6 +7,7 @@
 
 #include <commctrl.h>
 
+#include <cstddef>
 #include <utility>
 
 namespace Studio {
@@ -20,6 +21,8 @@ constexpr int kStep = 44;
 constexpr int kMargin = 8;
 constexpr int kGap = 9;  // between the drawing tools and the audio controls
 constexpr float kIcon = 24.0f;
+// As much of the record as every version of the platform's controls takes.
+constexpr UINT kToolInfoSize = offsetof(TTTOOLINFO, lParam);
 
 int ButtonCount() {
     return static_cast<int>(Tools().size());
@@ -90,7 +93,7 @@ void Toolbox::AddTooltips() {
         // Some systems make the tip a few pixels too narrow for a long text.
         text += L"  ";
         TTTOOLINFO info = {};
-        info.cbSize = TTTOOLINFO_V1_SIZE;
+        info.cbSize = kToolInfoSize;
         info.uFlags = TTF_SUBCLASS;
         info.hwnd = m_hWnd;
         info.uId = static_cast<UINT_PTR>(button);
@@ -120,7 +123,7 @@ void Toolbox::OnSize(UINT type, int cx, int cy) {
     m_columns = ColumnsFor(cy);
     for (int button = 0; button < ButtonCount(); ++button) {
         TTTOOLINFO info = {};
-        info.cbSize = TTTOOLINFO_V1_SIZE;
+        info.cbSize = kToolInfoSize;
         info.hwnd = m_hWnd;
         info.uId = static_cast<UINT_PTR>(button);
         info.rect = ButtonRect(button);
