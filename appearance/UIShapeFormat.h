@@ -67,6 +67,13 @@ public:
     /// Copies every field.
     virtual void Set(const CUIShapeFormatText& other) { *this = other; }
 
+    /// What `m_nAlignment` means to GDI+; near for a number that means nothing.
+    Gdiplus::StringAlignment GetAlignment() const;
+    /// What `m_nUnit` means to GDI+; for a number that means nothing a unit that no font can have.
+    Gdiplus::Unit GetUnit() const;
+    /// What `m_nRenderHint` means to GDI+; the system's default for a number that means nothing.
+    Gdiplus::TextRenderingHint GetRenderHint() const;
+
     CString m_strText;         ///< caption
     float m_fFontSize = 0.0f;  ///< em size in the unit below
     CString m_strFontName;     ///< font family

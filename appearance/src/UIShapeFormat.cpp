@@ -12,8 +12,15 @@ DWORD MergeAlpha(float alpha, DWORD color) {
     return static_cast<DWORD>(TruncToInt(alpha)) << 24 | color;
 }
 
+// A record's number as one of GDI+'s, the last of which is `last`.
+template <class Value>
+Value ValueOf(int number, Value last, Value otherwise) {
+    return number >= 0 && number <= last ? static_cast<Value>(number) : otherwise;
+}
+
 Gdiplus::LineCap CapOf(int code) {
-    return code == Gdiplus::LineCapCustom ? Gdiplus::LineCapFlat : static_cast<Gdiplus::LineCap>(code);
+    const auto cap = ValueOf(code, Gdiplus::LineCapCustom, Gdiplus::LineCapFlat);
+    return cap == Gdiplus::LineCapCustom ? Gdiplus::LineCapFlat : cap;
 }
 
 }  // namespace
@@ -75,6 +82,19 @@ void CUIShapeFormatText::Serialize(CArchive& ar) {
     // neither.
     int unit = m_nUnit;
     ArchiveFields(ar, m_dwBackColor, m_dwBackColor, unit, m_nFontStyle, m_nRenderHint);
+}
+
+Gdiplus::StringAlignment CUIShapeFormatText::GetAlignment() const {
+    return ValueOf(m_nAlignment, Gdiplus::StringAlignmentFar, Gdiplus::StringAlignmentNear);
+}
+
+Gdiplus::Unit CUIShapeFormatText::GetUnit() const {
+    return ValueOf(m_nUnit, Gdiplus::UnitMillimeter, Gdiplus::UnitDisplay);
+}
+
+Gdiplus::TextRenderingHint CUIShapeFormatText::GetRenderHint() const {
+    return ValueOf(m_nRenderHint, Gdiplus::TextRenderingHintClearTypeGridFit,
+                   Gdiplus::TextRenderingHintSystemDefault);
 }
 
 CUIShapeFormatFill::CUIShapeFormatFill() : CUIShapeFormatFill(L"ShapeFormatFill", 1) {

@@ -17,11 +17,8 @@ public:
     // font. Valid until the next call.
     const Gdiplus::Font* FontOf(const CUIShapeFormatText& text);
 
-    // The alignment code of a record, 0 to 2; an unknown code aligns near.
-    static int AlignmentOf(const CUIShapeFormatText& text);
-
-    // The format with an alignment code of 0 to 2 in both directions.
-    const Gdiplus::StringFormat* FormatOf(int alignment);
+    // The format with an alignment.
+    const Gdiplus::StringFormat* FormatOf(Gdiplus::StringAlignment alignment);
 
     // Size of the text without a layout limit, in page units.
     Gdiplus::SizeF Measure(Gdiplus::Graphics& graphics, const CUIShapeFormatText& text,

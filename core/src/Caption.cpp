@@ -71,9 +71,9 @@ void DrawCaption(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, c
     // Nothing has been saved or changed yet, so there is nothing to restore on this path.
     if (size.Width > position.Width)
         return;
-    const int alignment = CaptionCache::AlignmentOf(text);
+    const Gdiplus::StringAlignment alignment = text.GetAlignment();
     GraphicsStateScope state(graphics);
-    graphics.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(text.m_nRenderHint));
+    graphics.SetTextRenderingHint(text.GetRenderHint());
     Gdiplus::SolidBrush brush{Gdiplus::Color(text.m_dwTextColor)};
     graphics.DrawString(text.m_strText, text.m_strText.GetLength(), font,
                         CaptionBox(position, size, alignment), cache.FormatOf(alignment), &brush);

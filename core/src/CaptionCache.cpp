@@ -24,8 +24,7 @@ size_t HashOf(const CString& text) {
 }
 
 std::unique_ptr<Gdiplus::Font> MakeFont(const Gdiplus::FontFamily& family, const CUIShapeFormatText& text) {
-    auto font = std::make_unique<Gdiplus::Font>(&family, text.m_fFontSize, text.m_nFontStyle,
-                                                static_cast<Gdiplus::Unit>(text.m_nUnit));
+    auto font = std::make_unique<Gdiplus::Font>(&family, text.m_fFontSize, text.m_nFontStyle, text.GetUnit());
     if (font->GetLastStatus() != Gdiplus::Ok)
         font.reset();
     return font;
@@ -76,18 +75,13 @@ const Gdiplus::Font* CaptionCache::FontOf(const CUIShapeFormatText& text) {
     return m_fonts.emplace(key, MakeFont(text)).first->second.get();
 }
 
-int CaptionCache::AlignmentOf(const CUIShapeFormatText& text) {
-    const bool known = text.m_nAlignment >= 0 && text.m_nAlignment <= Gdiplus::StringAlignmentFar;
-    return known ? text.m_nAlignment : Gdiplus::StringAlignmentNear;
-}
-
-const Gdiplus::StringFormat* CaptionCache::FormatOf(int alignment) {
+const Gdiplus::StringFormat* CaptionCache::FormatOf(Gdiplus::StringAlignment alignment) {
     auto& format = m_formats[alignment];
     if (format == nullptr) {
         format = std::make_unique<Gdiplus::StringFormat>(Gdiplus::StringFormatFlagsNoClip);
         // The box that a caption is laid out in is as high as its text, so that the line alignment moves
         // nothing; but for any other than the first the text is measured once more at every drawing.
-        format->SetAlignment(static_cast<Gdiplus::StringAlignment>(alignment));
+        format->SetAlignment(alignment);
     }
     return format.get();
 }
@@ -100,10 +94,10 @@ Gdiplus::SizeF CaptionCache::Measure(Gdiplus::Graphics& graphics, const CUIShape
     if (const auto found = m_sizes.find(key); found != m_sizes.end())
         return found->second;
     GraphicsStateScope state(graphics);
-    graphics.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(text.m_nRenderHint));
+    graphics.SetTextRenderingHint(text.GetRenderHint());
     Gdiplus::RectF box;
     graphics.MeasureString(text.m_strText, text.m_strText.GetLength(), &font, Gdiplus::PointF(),
-                           FormatOf(AlignmentOf(text)), &box);
+                           FormatOf(text.GetAlignment()), &box);
     const Gdiplus::SizeF size(box.Width, box.Height);
     if (m_sizes.size() >= kMaxSizes)
         m_sizes.clear();

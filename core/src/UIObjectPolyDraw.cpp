@@ -97,7 +97,9 @@ void PaintAsLines(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, 
     graphics.SetCompositingQuality(Gdiplus::CompositingQualityDefault);
     graphics.SetInterpolationMode(Gdiplus::InterpolationModeDefault);
     Gdiplus::Pen pen{Gdiplus::Color(color), width};
-    pen.SetAlignment(static_cast<Gdiplus::PenAlignment>(coordinate.GetLineAlignment()));
+    pen.SetAlignment(coordinate.GetLineAlignment() == Gdiplus::PenAlignmentInset
+                         ? Gdiplus::PenAlignmentInset
+                         : Gdiplus::PenAlignmentCenter);
     coordinate.Format<CUIShapeFormatLineStyle>().SetPenCaps(pen);
     segments.ForEachIn(part, reach, [&](const Gdiplus::PointF& from, const Gdiplus::PointF& to) {
         graphics.DrawLine(&pen, from, to);

@@ -54,15 +54,14 @@ void TextBox::DrawText(Gdiplus::Graphics& g, const RectF& bounds) {
         !(format.m_fFontSize > 0.0f && format.m_fFontSize <= kLargestFont))
         return;
     const Gdiplus::FontFamily family(GetTextFontName());
-    const Gdiplus::Font font(&family, format.m_fFontSize, format.m_nFontStyle,
-                             static_cast<Gdiplus::Unit>(format.m_nUnit));
+    const Gdiplus::Font font(&family, format.m_fFontSize, format.m_nFontStyle, format.GetUnit());
     Gdiplus::StringFormat layout;
-    layout.SetAlignment(static_cast<Gdiplus::StringAlignment>(format.m_nAlignment));
+    layout.SetAlignment(format.GetAlignment());
     layout.SetLineAlignment(Gdiplus::StringAlignmentCenter);
     layout.SetTrimming(Gdiplus::StringTrimmingEllipsisCharacter);
     const Gdiplus::SolidBrush brush{Gdiplus::Color(format.m_dwTextColor)};
     GraphicsStateScope state(g);
-    g.SetTextRenderingHint(static_cast<Gdiplus::TextRenderingHint>(format.m_nRenderHint));
+    g.SetTextRenderingHint(format.GetRenderHint());
     // The editor ends a line with two characters, of which not every system draws only the line's end.
     CString text = format.m_strText;
     text.Replace(L"\r\n", L"\n");

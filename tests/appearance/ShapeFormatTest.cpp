@@ -148,6 +148,29 @@ TEST(ShapeFormatTest, AlignmentAndUnitStayTheReceivers) {
     EXPECT_EQ(receiver.m_nAlignment, 0);
 }
 
+TEST(ShapeFormatTest, NumbersThatMeanNothingHaveAMeaningOfTheirOwn) {
+    CUIShapeFormatText text;
+    for (int number : {-1, 0, 1, 2, 3, 5, 6, 7, 1000000}) {
+        text.m_nAlignment = text.m_nUnit = text.m_nRenderHint = number;
+        EXPECT_EQ(text.GetAlignment(), number == 1 || number == 2 ? number : 0) << number;
+        EXPECT_EQ(text.GetUnit(), number >= 0 && number <= 6 ? number : Gdiplus::UnitDisplay) << number;
+        EXPECT_EQ(text.GetRenderHint(), number >= 0 && number <= 5 ? number : 0) << number;
+    }
+    CUIShapeFormatLineStyle line;
+    Gdiplus::Pen pen(Gdiplus::Color(0xFF000000));
+    for (auto [number, cap] : {std::pair{2, Gdiplus::LineCapRound},
+                               {0x14, Gdiplus::LineCapArrowAnchor},
+                               {0xFF, Gdiplus::LineCapFlat},
+                               {256, Gdiplus::LineCapFlat},
+                               {-1, Gdiplus::LineCapFlat}}) {
+        line.m_nStartCap = number;
+        line.m_nEndCap = Gdiplus::LineCapSquare;
+        line.SetPenCaps(pen);
+        EXPECT_EQ(pen.GetStartCap(), cap) << number;
+        EXPECT_EQ(pen.GetEndCap(), Gdiplus::LineCapSquare);
+    }
+}
+
 TEST(ShapeFormatTest, BaseSetCopiesTheBasePartOnly) {
     CUIShapeFormatFill source(L"mine", 0);
     source.m_dwColor = 1;
