@@ -7,7 +7,7 @@ target_include_directories(tessel_options INTERFACE "${PROJECT_SOURCE_DIR}")
 if(MINGW)
     target_compile_options(tessel_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wpedantic>)
     # The compilers that the tree was tried with. Another one finds other things to warn of, which stop nobody's build.
-    set(compilers_tried GNU-12 GNU-14)
+    set(compilers_tried GNU-12 GNU-14 Clang-14)
     string(REGEX MATCH "^[0-9]+" compiler_version "${CMAKE_CXX_COMPILER_VERSION}")
     if("${CMAKE_CXX_COMPILER_ID}-${compiler_version}" IN_LIST compilers_tried)
         set(TESSEL_WARNINGS_ARE_ERRORS ON)
