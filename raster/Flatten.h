@@ -5,8 +5,8 @@
 
 namespace raster {
 
-/// How far, in pixels, a chain of lines may be from its curve: 6 of 255 along an edge in the worst place.
-inline constexpr double kTolerance = 1.0 / 64;
+/// How far, in pixels, a chain of lines may be from its curve: 5 of 255 along an edge in the worst place.
+inline constexpr double kTolerance = 1.0 / 36;
 
 /// Chains of straight lines.
 struct Chains {

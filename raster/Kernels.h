@@ -21,6 +21,8 @@ struct Kernels {
     void (*blendPixelsMask)(uint32_t* to, int count, const uint32_t* from, const uint8_t* mask);
     /// Replaces the pixels as far as they are covered.
     void (*copyPixelsMask)(uint32_t* to, int count, const uint32_t* from, const uint8_t* mask);
+    /// `blendColor` for `rows` rows.
+    void (*blendColorRows)(uint32_t* to, intptr_t stride, int count, int rows, uint32_t color);
 };
 
 /// The loops for a set; those of the best set below it where the processor does not have it.

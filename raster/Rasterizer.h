@@ -61,14 +61,21 @@ private:
         int direction;
     };
 
+    // The memory of a row in the band.
+    struct BandRow {
+        int* cells;
+        uint64_t* touched;
+        void Mark(int first, int last) const;
+    };
+
     void AddChain(std::span<const Chains::Vertex> chain, Point offset);
     void AddSegment(Point a, Point b);
     void AddFar(Point a, Point b);
     void AddEdge(int x0, int y0, int x1, int y1);
 
-    bool MakeBand();
-    void Mark(int row, int first, int last);
-    void Cover(int row, int x0, int y0, int x1, int y1, int direction);
+    BandRow InBand(int row);
+    void Cover(const BandRow& row, int x0, int x1, int height, int64_t slope);
+    void CoverMany(const BandRow& row, int x0, int x1, int height, int64_t slope);
     void AddSmooth(const Edge& edge);
     void AddSharp(const Edge& edge);
     void SweepBand(FillRule rule);

@@ -47,6 +47,7 @@ private:
 
     void Row(int y, std::span<const Run> runs) override;
     void Draw(int y, int x, int length, const uint8_t* coverage, uint8_t value);
+    void DrawColor(uint32_t* to, int length, const uint8_t* coverage, uint8_t value);
     void DrawOnPixels(uint32_t* to, int y, int x, int length, const uint8_t* coverage, uint8_t value);
     void DrawFrame(const Box& outer, const Box& inner);
     void FrameRow(const Box& outer, const Box& inner, int outerHeight, int innerHeight);
@@ -68,6 +69,7 @@ private:
     // The shape in work.
     const Paint* m_paint = nullptr;
     bool m_solid = false;
+    bool m_plain = false;  // one colour over pixels of the surface in a rectangle
     Color m_color = 0;
 
     Rasterizer m_rasterizer;

@@ -18,24 +18,25 @@ using raster::Rect;
 
 constexpr int kWidth = 640, kHeight = 400, kStride = kWidth * 4;
 
-// Microseconds a call takes; `draw` gets a place that moves over the surface. The best of several rounds
-// counts: whatever else the machine does only adds to the others.
-template <class Draw>
-double Time(Draw draw) {
-    constexpr int calls = 2000, rounds = 9;
-    double best = 1e9;
-    for (int round = 0; round < rounds; ++round) {
+// Prints the microseconds that a call takes on both sides, whose rounds take turns; calls get a place that
+// moves over the surface. The best round of each counts: whatever else the machine does only adds to the
+// others.
+template <class Ours, class Cairo>
+void Compare(const char* name, Ours ours, Cairo cairo) {
+    constexpr int calls = 2000, rounds = 25;
+    const auto round = [](auto& draw, double& best) {
         const auto start = std::chrono::steady_clock::now();
         for (int i = 0; i < calls; ++i)
             draw(10 + i * 37 % 550, 20 + i * 53 % 320);
         const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
         best = std::min(best, time.count() / calls);
+    };
+    double mine = 1e9, theirs = 1e9;
+    for (int i = 0; i < rounds; ++i) {
+        round(ours, mine);
+        round(cairo, theirs);
     }
-    return best;
-}
-
-void Print(const char* name, double ours, double cairo) {
-    std::printf("| %-44s | %7.2f | %7.2f | %5.2f |\n", name, ours, cairo, ours / cairo);
+    std::printf("| %-44s | %7.2f | %7.2f | %5.2f |\n", name, mine, theirs, mine / theirs);
 }
 
 // Letters of straight and curved strokes, about 9 pixels high.
@@ -72,13 +73,15 @@ public:
     void AlphaFill() {
         const raster::SolidPaint paint(0x8040C080);
         cairo_set_source_rgba(m_cairo, 0.25, 0.75, 0.5, 0.5);
-        Print("alpha fill 60x40", Time([&](int x, int y) {
-                  m_renderer.FillRectangle({x + 0.5, y + 0.5, x + 60.5, y + 40.5}, {}, paint);
-              }),
-              Time([&](int x, int y) {
-                  cairo_rectangle(m_cairo, x, y, 60, 40);
-                  cairo_fill(m_cairo);
-              }));
+        Compare(
+            "alpha fill 60x40",
+            [&](int x, int y) {
+                m_renderer.FillRectangle({x + 0.5, y + 0.5, x + 60.5, y + 40.5}, {}, paint);
+            },
+            [&](int x, int y) {
+                cairo_rectangle(m_cairo, x, y, 60, 40);
+                cairo_fill(m_cairo);
+            });
     }
 
     void EllipseOutline() {
@@ -88,19 +91,21 @@ public:
         cairo_set_source_rgb(m_cairo, 0.25, 0.75, 0.5);
         cairo_set_line_width(m_cairo, 2);
         Path path;
-        Print("smooth ellipse outline 60x40, 2 wide", Time([&](int x, int y) {
-                  path.Clear();
-                  path.AddEllipse({1.0 * x, 1.0 * y, x + 60.0, y + 40.0});
-                  m_renderer.Stroke(path, pen, {}, paint);
-              }),
-              Time([&](int x, int y) {
-                  cairo_save(m_cairo);
-                  cairo_translate(m_cairo, x + 30, y + 20);
-                  cairo_scale(m_cairo, 30, 20);
-                  cairo_arc(m_cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
-                  cairo_restore(m_cairo);
-                  cairo_stroke(m_cairo);
-              }));
+        Compare(
+            "smooth ellipse outline 60x40, 2 wide",
+            [&](int x, int y) {
+                path.Clear();
+                path.AddEllipse({1.0 * x, 1.0 * y, x + 60.0, y + 40.0});
+                m_renderer.Stroke(path, pen, {}, paint);
+            },
+            [&](int x, int y) {
+                cairo_save(m_cairo);
+                cairo_translate(m_cairo, x + 30, y + 20);
+                cairo_scale(m_cairo, 30, 20);
+                cairo_arc(m_cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
+                cairo_restore(m_cairo);
+                cairo_stroke(m_cairo);
+            });
     }
 
     void Line() {
@@ -109,14 +114,16 @@ public:
         pen.width = 1.5;
         cairo_set_source_rgb(m_cairo, 0.25, 0.75, 0.5);
         cairo_set_line_width(m_cairo, 1.5);
-        Print("smooth line 60 long", Time([&](int x, int y) {
-                  m_renderer.StrokeLine({1.0 * x, 1.0 * y}, {x + 52.0, y + 30.0}, pen, {}, paint);
-              }),
-              Time([&](int x, int y) {
-                  cairo_move_to(m_cairo, x, y);
-                  cairo_line_to(m_cairo, x + 52, y + 30);
-                  cairo_stroke(m_cairo);
-              }));
+        Compare(
+            "smooth line 60 long",
+            [&](int x, int y) {
+                m_renderer.StrokeLine({1.0 * x, 1.0 * y}, {x + 52.0, y + 30.0}, pen, {}, paint);
+            },
+            [&](int x, int y) {
+                cairo_move_to(m_cairo, x, y);
+                cairo_line_to(m_cairo, x + 52, y + 30);
+                cairo_stroke(m_cairo);
+            });
     }
 
     void Text() {
@@ -132,19 +139,21 @@ public:
         cairo_scaled_font_text_to_glyphs(font, 0, 0, "Temperature", 11, &glyphs, &count, nullptr, nullptr,
                                          nullptr);
         std::vector<cairo_glyph_t> moved(glyphs, glyphs + count);
-        Print("11 letters, cached", Time([&](int x, int y) {
-                  for (uint32_t i = 0; i < 11; ++i)
-                      m_renderer.DrawMask(cache.Get({1, i, i % 4}, letters), x + 7 * static_cast<int>(i), y,
-                                          paint);
-              }),
-              Time([&](int x, int y) {
-                  for (int i = 0; i < count; ++i) {
-                      moved[i] = glyphs[i];
-                      moved[i].x += x;
-                      moved[i].y += y;
-                  }
-                  cairo_show_glyphs(m_cairo, moved.data(), count);
-              }));
+        Compare(
+            "11 letters, cached",
+            [&](int x, int y) {
+                for (uint32_t i = 0; i < 11; ++i)
+                    m_renderer.DrawMask(cache.Get({1, i, i % 4}, letters), x + 7 * static_cast<int>(i), y,
+                                        paint);
+            },
+            [&](int x, int y) {
+                for (int i = 0; i < count; ++i) {
+                    moved[i] = glyphs[i];
+                    moved[i].x += x;
+                    moved[i].y += y;
+                }
+                cairo_show_glyphs(m_cairo, moved.data(), count);
+            });
         cairo_glyph_free(glyphs);
     }
 

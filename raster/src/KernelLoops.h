@@ -62,23 +62,31 @@ struct Loops {
     }
 };
 
-// What wider loops leave over goes to the narrower ones.
+// What wider loops leave over goes to the narrower ones, out of line: mostly that is nothing.
 template <class Wide, class Middle, class Narrow>
 struct InTurn {
     static void BlendColor(uint32_t* to, int count, uint32_t color) {
         int done = Loops<Wide>::BlendColor(to, count, color);
-        done += Loops<Middle>::BlendColor(to + done, count - done, color);
-        Loops<Narrow>::BlendColor(to + done, count - done, color);
+        if (done < count)
+            done += Loops<Middle>::BlendColor(to + done, count - done, color);
+        if (done < count)
+            BlendColorRest(to + done, count - done, color);
     }
     static void BlendColorMask(uint32_t* to, int count, uint32_t color, const uint8_t* mask) {
-        int done = Loops<Wide>::BlendColorMask(to, count, color, mask);
-        done += Loops<Middle>::BlendColorMask(to + done, count - done, color, mask + done);
-        Loops<Narrow>::BlendColorMask(to + done, count - done, color, mask + done);
+        const int done = Loops<Wide>::BlendColorMask(to, count, color, mask);
+        if (done < count)
+            BlendColorMaskRest(to + done, count - done, color, mask + done);
     }
     static void BlendColorMasks(uint32_t* to, intptr_t stride, int count, int rows, uint32_t color,
                                 const uint8_t* mask, intptr_t maskStride) {
         for (int row = 0; row < rows; ++row, mask += maskStride) {
             BlendColorMask(to, count, color, mask);
+            to = reinterpret_cast<uint32_t*>(reinterpret_cast<uint8_t*>(to) + stride);
+        }
+    }
+    static void BlendColorRows(uint32_t* to, intptr_t stride, int count, int rows, uint32_t color) {
+        for (int row = 0; row < rows; ++row) {
+            BlendColor(to, count, color);
             to = reinterpret_cast<uint32_t*>(reinterpret_cast<uint8_t*>(to) + stride);
         }
     }
@@ -97,8 +105,18 @@ struct InTurn {
         done += Loops<Middle>::CopyPixelsMask(to + done, count - done, from + done, mask + done);
         Loops<Narrow>::CopyPixelsMask(to + done, count - done, from + done, mask + done);
     }
-    static constexpr raster::Kernels kTable = {BlendColor,  BlendColorMask,  BlendColorMasks,
-                                               BlendPixels, BlendPixelsMask, CopyPixelsMask};
+    static constexpr raster::Kernels kTable = {BlendColor,      BlendColorMask, BlendColorMasks, BlendPixels,
+                                               BlendPixelsMask, CopyPixelsMask, BlendColorRows};
+
+private:
+    [[gnu::noinline]] static void BlendColorRest(uint32_t* to, int count, uint32_t color) {
+        Loops<Narrow>::BlendColor(to, count, color);
+    }
+    [[gnu::noinline]] static void BlendColorMaskRest(uint32_t* to, int count, uint32_t color,
+                                                     const uint8_t* mask) {
+        const int done = Loops<Middle>::BlendColorMask(to, count, color, mask);
+        Loops<Narrow>::BlendColorMask(to + done, count - done, color, mask + done);
+    }
 };
 
 // One pixel, its channels in the halves of two words.

@@ -1,5 +1,7 @@
 #include "raster/Rasterizer.h"
 
+#include "CoverageBlock.h"
+
 #include <bit>
 #include <numeric>
 
@@ -8,8 +10,6 @@ namespace raster {
 namespace {
 
 constexpr int kUnit = 256;                  // of a coordinate to a pixel
-constexpr int kWhole = 2 * kUnit * kUnit;   // a cell wholly covered
-constexpr int kBlock = 8;                   // cells that share a bit
 constexpr int kBandCells = 1 << 16;         // 256 kB: stays in the second cache
 constexpr size_t kManyEdges = 48;           // in one row: cut into 16 strips at most
 constexpr int64_t kOne = int64_t{1} << 32;  // fraction of positions that go down an edge
@@ -42,10 +42,6 @@ int At(const Edge& edge, int y) {
     return edge.x0 + static_cast<int>(FloorDivide(
                          static_cast<int64_t>(edge.x1 - edge.x0) * (y - edge.y0) * 2 + (edge.y1 - edge.y0),
                          int64_t{2} * (edge.y1 - edge.y0)));
-}
-
-uint8_t Smooth(int cell) {
-    return static_cast<uint8_t>((std::min(std::abs(cell), kWhole) * 255 + kWhole / 2) / kWhole);
 }
 
 bool Inside(int winding, FillRule rule) {
@@ -120,24 +116,32 @@ void Rasterizer::Add(const Chains& chains, Point offset, bool apart) {
 }
 
 void Rasterizer::AddChain(std::span<const Chains::Vertex> chain, Point offset) {
-    Point before = chain.back().at + offset;
-    for (const Chains::Vertex& vertex : chain) {
+    struct Place {
+        Point at;
+        bool near;
+        int x, y;
+    };
+    const auto place = [offset](const Chains::Vertex& vertex) {
         const Point at = vertex.at + offset;
-        AddSegment(before, at);
-        before = at;
+        const bool near = std::abs(at.x) <= kFarthestPixel && std::abs(at.y) <= kFarthestPixel;
+        return near ? Place{at, true, ToFixed(at.x), ToFixed(at.y)} : Place{at, false, 0, 0};
+    };
+    Place before = place(chain.back());
+    for (const Chains::Vertex& vertex : chain) {
+        const Place now = place(vertex);
+        if (before.near && now.near)
+            AddEdge(before.x, before.y, now.x, now.y);
+        else
+            AddSegment(before.at, now.at);
+        before = now;
     }
 }
 
 // Edges stay whole, so that a part of a shape is drawn as in the whole; only what is very far away is cut
 // off.
 void Rasterizer::AddSegment(Point a, Point b) {
-    if (!(std::max(a.y, b.y) > m_clip.top && std::min(a.y, b.y) < m_clip.bottom &&
-          std::min(a.x, b.x) < m_clip.right))
+    if (!(std::max(a.y, b.y) > m_clip.top && std::min(a.y, b.y) < m_clip.bottom))
         return;
-    if (std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)}) <= kFarthestPixel) {
-        AddEdge(ToFixed(a.x), ToFixed(a.y), ToFixed(b.x), ToFixed(b.y));
-        return;
-    }
     const auto cut = [](Point& end, Point other) {
         const double y = std::clamp<double>(end.y, -kFarthestPixel, kFarthestPixel);
         if (y != end.y)
@@ -180,19 +184,19 @@ void Rasterizer::AddFar(Point a, Point b) {
 }
 
 void Rasterizer::AddEdge(int x0, int y0, int x1, int y1) {
-    if (y0 == y1)
-        return;
-    m_minX = std::min(m_minX, std::min(x0, x1));
-    m_maxX = std::max(m_maxX, std::max(x0, x1));
-    if (y0 < y1) {
-        m_edges.push_back({x0, y0, x1, y1, 1});
-        m_minY = std::min(m_minY, y0);
-        m_maxY = std::max(m_maxY, y1);
-    } else {
-        m_edges.push_back({x1, y1, x0, y0, -1});
-        m_minY = std::min(m_minY, y1);
-        m_maxY = std::max(m_maxY, y0);
+    const int direction = y0 < y1 ? 1 : -1;
+    if (y0 > y1) {
+        std::swap(x0, x1);
+        std::swap(y0, y1);
     }
+    const int left = std::min(x0, x1);
+    if (y0 == y1 || y1 <= m_clip.top * kUnit || y0 >= m_clip.bottom * kUnit || left >= m_clip.right * kUnit)
+        return;
+    m_minX = std::min(m_minX, left);
+    m_maxX = std::max(m_maxX, std::max(x0, x1));
+    m_minY = std::min(m_minY, y0);
+    m_maxY = std::max(m_maxY, y1);
+    m_edges.push_back({x0, y0, x1, y1, direction});
 }
 
 void Rasterizer::Finish(FillRule rule, Edges edges, RowSink& sink) {
@@ -237,59 +241,81 @@ void Rasterizer::Finish(FillRule rule, Edges edges, RowSink& sink) {
     m_edges.clear();
 }
 
-void Rasterizer::Mark(int row, int first, int last) {
-    uint64_t* words = &m_touched[static_cast<size_t>(row - m_top) * m_words];
-    for (int block = first / kBlock; block <= last / kBlock; ++block)
-        words[block / 64] |= uint64_t{1} << (block % 64);
+inline Rasterizer::BandRow Rasterizer::InBand(int row) {
+    const auto index = static_cast<size_t>(row - m_top);
+    return {&m_cells[index * m_stride], &m_touched[index * m_words]};
 }
 
-// Adds the area to the right of a line within one row, heights 0 to kUnit from the row's top.
-void Rasterizer::Cover(int row, int x0, int y0, int x1, int y1, int direction) {
+inline void Rasterizer::BandRow::Mark(int first, int last) const {
+    const auto mark = [this](unsigned block) { touched[block / 64] |= uint64_t{1} << (block % 64); };
+    unsigned block = static_cast<unsigned>(first) / kBlock;
+    const unsigned end = static_cast<unsigned>(last) / kBlock;
+    mark(block);
+    while (block < end)
+        mark(++block);
+}
+
+// Adds the area to the right of a line of `height` (negative when the figure goes up) within one row.
+// `slope` is that of the line's height to its width, or 0 when it is not known.
+inline void Rasterizer::Cover(const BandRow& row, int x0, int x1, int height, int64_t slope) {
     // From left to right, whichever way the line goes down.
-    if (x0 > x1)
-        std::swap(x0, x1);
-    x0 -= m_left * kUnit;
-    x1 -= m_left * kUnit;
-    int* cells = &m_cells[static_cast<size_t>(row - m_top) * m_stride];
-    const int height = (y1 - y0) * direction;
-    const auto add = [cells](int cell, int high, int inset) {
-        const int area = high * inset;
-        cells[cell] += high * (2 * kUnit) - area;
-        cells[cell + 1] += area;
-    };
+    const int from = std::min(x0, x1) - m_left * kUnit, to = std::max(x0, x1) - m_left * kUnit;
+    const int cell = PixelOf(from);
+    if (cell != PixelOf(to) || cell < 0) {
+        CoverMany(row, from, to, height, slope);
+        return;
+    }
+    if (cell >= m_columns)
+        return;
+    const int area = height * (from + to - 2 * cell * kUnit);
+    row.cells[cell] += height * (2 * kUnit) - area;
+    row.cells[cell + 1] += area;
+    row.Mark(cell, cell + 1);
+}
+
+// The same for a line from `x0` to `x1`, counted from the first cell, that leaves its cell or lies before
+// all.
+[[gnu::always_inline]] inline void Rasterizer::CoverMany(const BandRow& row, int x0, int x1, int height,
+                                                         int64_t slope) {
+    int* cells = row.cells;
     if (x1 <= 0) {
-        add(0, height, 0);
-        Mark(row, 0, 0);
+        cells[0] += height * (2 * kUnit);
+        row.Mark(0, 0);
         return;
     }
     int cell = PixelOf(x0);
     const int last = PixelOf(x1);
     if (cell >= m_columns)
         return;
-    if (cell == last) {
-        add(cell, height, x0 + x1 - 2 * cell * kUnit);
-        Mark(row, cell, cell + 1);
-        return;
-    }
-    const int64_t slope = Slope(height, x1 - x0);
-    const auto reached = [&](int x) { return static_cast<int>(slope * (x - x0) >> 32); };
+    if (slope == 0)
+        slope = Slope(height, x1 - x0);
+    int inset = x0 - (cell - 1) * kUnit;  // of both ends of the part in a cell
     int done = 0;
-    int entry = x0 - cell * kUnit;
+    int carried = 0;  // the change that belongs to the next cell
     if (cell < 0) {
-        done = reached(0);
-        add(0, done, 0);
-        cell = entry = 0;
+        done = static_cast<int>(slope * -x0 >> 32);
+        cells[0] += done * (2 * kUnit);
+        cell = 0;
+        inset = kUnit;
     }
     const int end = std::min(last, m_columns);
-    Mark(row, cell, std::min(last + 1, m_columns));
-    for (; cell < end; ++cell) {
-        const int now = reached((cell + 1) * kUnit);
-        add(cell, now - done, entry + kUnit);
+    row.Mark(cell, std::min(last + 1, m_columns));
+    int64_t reached = slope * ((cell + 1) * kUnit - x0);
+    for (; cell < end; ++cell, reached += slope * kUnit) {
+        const int now = static_cast<int>(reached >> 32), high = now - done;
+        const int area = high * inset;
+        cells[cell] += carried + high * (2 * kUnit) - area;
+        carried = area;
         done = now;
-        entry = 0;
+        inset = kUnit;
     }
-    if (last < m_columns)
-        add(last, height - done, x1 - last * kUnit);
+    if (last < m_columns) {
+        const int high = height - done, area = high * (x1 - last * kUnit);
+        cells[last] += carried + high * (2 * kUnit) - area;
+        cells[last + 1] += area;
+    } else {
+        cells[cell] += carried;
+    }
 }
 
 void Rasterizer::AddSmooth(const Edge& edge) {
@@ -297,19 +323,27 @@ void Rasterizer::AddSmooth(const Edge& edge) {
     if (top >= bottom)
         return;
     int row = PixelOf(top);
+    BandRow at = InBand(row);
+    const int height = edge.y1 - edge.y0;
     if (edge.y1 <= (row + 1) * kUnit && edge.y0 == top) {
-        Cover(row, edge.x0, edge.y0 - row * kUnit, edge.x1, edge.y1 - row * kUnit, edge.direction);
+        Cover(at, edge.x0, edge.x1, height * edge.direction, 0);
         return;
     }
-    const int64_t slope = Slope(edge.x1 - edge.x0, edge.y1 - edge.y0);
-    const auto at = [&](int y) {
+    const int width = edge.x1 - edge.x0;
+    const int64_t slope = Slope(width, height);
+    // Of a steeper line the rounded ends within a row say little about it.
+    const bool steep = std::abs(width) < height / kUnit + 1;
+    const int64_t rise = steep ? 0 : Slope(height * edge.direction, std::abs(width));
+    const auto reached = [&](int y) {
         return static_cast<int>((edge.x0 * kOne + kOne / 2 + slope * (y - edge.y0)) >> 32);
     };
-    int x = top == edge.y0 ? edge.x0 : at(top);
+    int x = top == edge.y0 ? edge.x0 : reached(top);
     for (int y = top; y < bottom; ++row) {
         const int next = std::min(bottom, (row + 1) * kUnit);
-        const int nextX = next == edge.y1 ? edge.x1 : at(next);
-        Cover(row, x, y - row * kUnit, nextX, next - row * kUnit, edge.direction);
+        const int nextX = next == edge.y1 ? edge.x1 : reached(next);
+        Cover(at, x, nextX, (next - y) * edge.direction, rise);
+        at.cells += m_stride;
+        at.touched += m_words;
         x = nextX;
         y = next;
     }
@@ -329,8 +363,9 @@ void Rasterizer::AddSharp(const Edge& edge) {
         const int cell = std::max(0, static_cast<int>(position >> 40) - m_left);
         if (cell >= m_columns)
             continue;
-        m_cells[static_cast<size_t>(row - m_top) * m_stride + cell] += edge.direction * kWhole;
-        Mark(row, cell, cell);
+        const BandRow at = InBand(row);
+        at.cells[cell] += edge.direction * kWhole;
+        at.Mark(cell, cell);
     }
 }
 
@@ -396,21 +431,18 @@ void Rasterizer::SweepStrip(int row, int top, int bottom, int least, FillRule ru
         winding += piece.direction;
         const bool after = Inside(winding, rule);
         if (before != after)
-            Cover(row, piece.top, top - row * kUnit, piece.bottom, bottom - row * kUnit, after ? 1 : -1);
+            Cover(InBand(row), piece.top, piece.bottom, after ? bottom - top : top - bottom, 0);
     }
 }
 
 void Rasterizer::EmitRow(int row, bool alternate, RowSink& sink) {
-    uint64_t* words = &m_touched[static_cast<size_t>(row - m_top) * m_words];
-    int* cells = &m_cells[static_cast<size_t>(row - m_top) * m_stride];
-    const auto convert = [alternate](int cell) -> uint8_t {
-        return alternate ? ((cell / kWhole) & 1 ? 255 : 0) : Smooth(cell);
-    };
+    const auto [cells, words] = InBand(row);
+    const int width = m_clip.right - m_left;
     m_runs.clear();
     int sum = 0;
     int at = 0;  // the first cell not yet handled
     const auto even = [&](int end) {
-        const uint8_t value = end > at ? convert(sum) : 0;
+        const uint8_t value = alternate ? AlternateCoverage(sum) : ToCoverage(sum);
         if (value != 0)
             m_runs.push_back({m_left + at, end - at, nullptr, value});
     };
@@ -420,26 +452,20 @@ void Rasterizer::EmitRow(int row, bool alternate, RowSink& sink) {
             const int blocks = std::countr_one(bits >> skip);
             bits = skip + blocks < 64 ? bits >> (skip + blocks) << (skip + blocks) : 0;
             const int first = (word * 64 + skip) * kBlock, end = first + blocks * kBlock;
-            even(first);
-            for (int i = first; i < end; ++i) {
-                sum += cells[i];
-                cells[i] = 0;
-                m_coverage[i] = convert(sum);
-            }
-            m_runs.push_back({m_left + first, end - first, &m_coverage[first], 255});
+            if (sum != 0 && first > at)
+                even(first);
+            uint8_t* coverage = &m_coverage[first];
+            sum = alternate ? AddUpAlternate(cells + first, end - first, sum, coverage)
+                            : AddUp(cells + first, end - first, sum, coverage);
+            if (first < width)
+                m_runs.push_back({m_left + first, std::min(end, width) - first, coverage, 255});
             at = end;
         }
         words[word] = 0;
     }
     // Edges to the right of the clip are missing: what they would end goes on to there.
-    if (m_left + at < m_clip.right)
-        even(m_clip.right - m_left);
-    if (!m_runs.empty()) {
-        Run& last = m_runs.back();
-        last.length = std::min(last.length, m_clip.right - last.x);
-        if (last.length <= 0)
-            m_runs.pop_back();
-    }
+    if (sum != 0 && at < width)
+        even(width);
     if (!m_runs.empty())
         sink.Row(row, m_runs);
 }

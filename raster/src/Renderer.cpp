@@ -38,6 +38,7 @@ Rect Renderer::Limits() const {
 void Renderer::Begin(const Paint& paint) {
     m_paint = &paint;
     m_solid = paint.IsSolid(m_color);
+    m_plain = m_solid && m_clip.IsRectangle() && IsDirect() && m_settings.mode == Settings::Mode::Over;
     m_chains.Clear();
 }
 
@@ -152,17 +153,17 @@ void Renderer::DrawFrame(const Box& outer, const Box& inner) {
 
 // The same runs in each of these rows; one colour goes down run by run.
 void Renderer::DrawRows(int y, int end) {
-    if (m_solid && m_clip.IsRectangle() && IsDirect() && m_settings.mode == Settings::Mode::Over) {
+    if (m_plain) {
         for (const Run& run : m_runs) {
             const Color color = ScaleColor(m_color, run.value);
             uint8_t* to = m_surface.At(run.x, y);
-            for (int row = y; row < end; ++row, to += m_surface.stride) {
-                auto* pixels = reinterpret_cast<uint32_t*>(to);
-                if (color >> 24 == 255)
-                    std::fill_n(pixels, run.length, color);
-                else
-                    m_kernels.blendColor(pixels, run.length, color);
+            if (color >> 24 != 255) {
+                m_kernels.blendColorRows(reinterpret_cast<uint32_t*>(to), m_surface.stride, run.length,
+                                         end - y, color);
+                continue;
             }
+            for (int row = y; row < end; ++row, to += m_surface.stride)
+                std::fill_n(reinterpret_cast<uint32_t*>(to), run.length, color);
         }
         return;
     }
@@ -188,7 +189,12 @@ void Renderer::FrameRow(const Box& outer, const Box& inner, int outerHeight, int
         from = std::max(from, left);
         to = std::min(to, right);
         const uint8_t covered = from < to ? value(from) : 0;
-        if (covered != 0)
+        if (covered == 0)
+            return;
+        Run* before = m_runs.empty() ? nullptr : &m_runs.back();
+        if (before && before->value == covered && before->x + before->length == from)
+            before->length += to - from;
+        else
             m_runs.push_back({from, to - from, nullptr, covered});
     };
     int at = left;
@@ -214,7 +220,7 @@ void Renderer::DrawMask(const GlyphMask& mask, int x, int y, const Paint& paint)
     const int length = std::min(column + mask.width, clip.right) - column - skipped;
     const int first = std::max(0, clip.top - row), end = std::min(mask.height, clip.bottom - row);
     const uint8_t* coverage = &mask.coverage[static_cast<size_t>(first) * mask.width + skipped];
-    if (m_solid && m_clip.IsRectangle() && IsDirect() && m_settings.mode == Settings::Mode::Over) {
+    if (m_plain) {
         m_kernels.blendColorMasks(reinterpret_cast<uint32_t*>(m_surface.At(column + skipped, row + first)),
                                   m_surface.stride, length, end - first, m_color, coverage, mask.width);
         return;
@@ -226,6 +232,12 @@ void Renderer::DrawMask(const GlyphMask& mask, int x, int y, const Paint& paint)
 }
 
 void Renderer::Row(int y, std::span<const Run> runs) {
+    if (m_plain) {
+        auto* row = reinterpret_cast<uint32_t*>(m_surface.At(0, y));
+        for (const Run& run : runs)
+            DrawColor(row + run.x, run.length, run.coverage, run.value);
+        return;
+    }
     if (m_clip.IsRectangle()) {
         for (const Run& run : runs)
             Draw(y, run.x, run.length, run.coverage, run.value);
@@ -268,18 +280,22 @@ void Renderer::Draw(int y, int x, int length, const uint8_t* coverage, uint8_t v
     }
 }
 
+void Renderer::DrawColor(uint32_t* to, int length, const uint8_t* coverage, uint8_t value) {
+    if (coverage) {
+        m_kernels.blendColorMask(to, length, m_color, coverage);
+        return;
+    }
+    const Color color = ScaleColor(m_color, value);
+    if (color >> 24 == 255)
+        std::fill_n(to, length, color);
+    else if (color >> 24 != 0)
+        m_kernels.blendColor(to, length, color);
+}
+
 void Renderer::DrawOnPixels(uint32_t* to, int y, int x, int length, const uint8_t* coverage, uint8_t value) {
     const bool copies = m_settings.mode == Settings::Mode::Copy;
     if (m_solid && (!copies || m_color >> 24 == 255)) {
-        if (coverage) {
-            m_kernels.blendColorMask(to, length, m_color, coverage);
-            return;
-        }
-        const Color color = ScaleColor(m_color, value);
-        if (color >> 24 == 255)
-            std::fill_n(to, length, color);
-        else if (color >> 24 != 0)
-            m_kernels.blendColor(to, length, color);
+        DrawColor(to, length, coverage, value);
         return;
     }
     if (m_colors.size() < static_cast<size_t>(length))

@@ -1,6 +1,7 @@
 #include "raster/Rasterizer.h"
 
 #include "raster/Truth.h"
+#include "raster/src/CoverageBlock.h"
 
 #include <limits>
 
@@ -131,6 +132,20 @@ TEST(RasterizerTest, APartIsAsTheWhole) {
                             edges == Edges::Smooth ? 1 : 0)
                     << seed << ": " << x << ", " << y;
         }
+    }
+}
+
+TEST(RasterizerTest, WideLoopsAddUpAsThePlainOnes) {
+    Random random(3);
+    for (int round = 0; round < 300; ++round) {
+        std::vector<int> cells(24), same;
+        for (int& cell : cells)
+            cell = random.Below(round % 3 == 0 ? kWhole * 300 : 90000) - (round % 3 == 0 ? 1 << 24 : 45000);
+        same = cells;
+        uint8_t wide[24], plain[24];
+        ASSERT_EQ(AddUp(cells.data(), 24, round - 99, wide), AddUpPlain(same.data(), 24, round - 99, plain));
+        ASSERT_TRUE(std::equal(wide, wide + 24, plain)) << round;
+        ASSERT_EQ(cells, same);
     }
 }
 
