@@ -298,24 +298,29 @@ void Renderer::DrawOnPixels(uint32_t* to, int y, int x, int length, const uint8_
         DrawColor(to, length, coverage, value);
         return;
     }
-    if (m_colors.size() < static_cast<size_t>(length))
-        m_colors.resize(length);
-    if (m_solid)
-        std::fill_n(m_colors.begin(), length, m_color);
-    else
-        m_paint->Row({x + 0.5 - Shift(), y + 0.5 - Shift()}, length, m_colors.data());
+    const uint32_t* colors =
+        m_solid ? nullptr : m_paint->Pixels({x + 0.5 - Shift(), y + 0.5 - Shift()}, length);
+    if (!colors) {
+        if (m_colors.size() < static_cast<size_t>(length))
+            m_colors.resize(length);
+        if (m_solid)
+            std::fill_n(m_colors.begin(), length, m_color);
+        else
+            m_paint->Row({x + 0.5 - Shift(), y + 0.5 - Shift()}, length, m_colors.data());
+        colors = m_colors.data();
+    }
     if (!coverage && value == 255) {
         if (copies)
-            std::copy_n(m_colors.begin(), length, to);
+            std::copy_n(colors, length, to);
         else
-            m_kernels.blendPixels(to, length, m_colors.data());
+            m_kernels.blendPixels(to, length, colors);
         return;
     }
     if (!coverage) {
         m_values.assign(length, value);
         coverage = m_values.data();
     }
-    (copies ? m_kernels.copyPixelsMask : m_kernels.blendPixelsMask)(to, length, m_colors.data(), coverage);
+    (copies ? m_kernels.copyPixelsMask : m_kernels.blendPixelsMask)(to, length, colors, coverage);
 }
 
 }  // namespace raster

@@ -1,0 +1,57 @@
+// A picture's pixels as textures want them.
+#pragma once
+
+#include "raster/Recolor.h"
+
+namespace raster {
+
+/// Premultiplied pixels of a picture, repeated, recoloured and made smaller by whole factors; worked out
+/// where they are asked for.
+class PictureRows {
+public:
+    /// The picture's pixels and the effects are kept by their owner.
+    PictureRows(const Surface& picture, int factorX, int factorY, Wrap wrap, const ColorEffects* effects,
+                Color outside);
+
+    /// The pixel at any place.
+    Color Pixel(int64_t x, int64_t y);
+    /// Pixels [left, right) of a row; they stay until the next call but one.
+    const uint32_t* Row(int64_t y, int64_t left, int64_t right);
+
+private:
+    struct Kept {
+        int64_t y = 0, left = 0, right = 0;
+        std::vector<uint32_t> pixels;
+    };
+
+    int WrapX(int64_t x) const {
+        return Wrapped(x, m_width, m_wrap == Wrap::FlipX || m_wrap == Wrap::FlipXY);
+    }
+    int WrapY(int64_t y) const {
+        return Wrapped(y, m_height, m_wrap == Wrap::FlipY || m_wrap == Wrap::FlipXY);
+    }
+    int Wrapped(int64_t at, int64_t size, bool flips) const;
+    bool IsReduced() const { return m_factorX > 1 || m_factorY > 1; }
+    void Load(int x, int y, int count, uint32_t* to);
+    void Reduce(int x, int y);
+    Color Mean(int x, int y, int right, int bottom) const;
+
+    Surface m_picture;
+    int m_factorX, m_factorY;
+    int m_width, m_height;  // after that
+    Wrap m_wrap;
+    const ColorEffects* m_effects;
+    Color m_outside;
+    bool m_direct;  // the picture's own memory has what is wanted
+
+    std::array<Kept, 4> m_kept;
+    size_t m_next = 0;  // of m_kept to be used again
+
+    // The smaller picture, and which of its blocks of a row are there.
+    static constexpr int kBlock = 64;
+    int m_blocks = 0;
+    std::vector<uint32_t> m_reduced;
+    std::vector<bool> m_there;
+};
+
+}  // namespace raster
