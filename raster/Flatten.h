@@ -20,6 +20,9 @@ struct Chains {
         size_t first = 0;
         size_t count = 0;
         bool closed = false;
+        /// A dash begins or ends there, and not the figure.
+        bool startsInside = false;
+        bool endsInside = false;
     };
 
     std::vector<Vertex> vertices;

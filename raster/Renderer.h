@@ -6,6 +6,7 @@
 #include "raster/Paint.h"
 #include "raster/Region.h"
 #include "raster/Stroker.h"
+#include "raster/ThinLines.h"
 
 namespace raster {
 
@@ -31,6 +32,7 @@ public:
     Settings& Style() { return m_settings; }
 
     void Fill(const Path& path, const Matrix& matrix, FillRule rule, const Paint& paint);
+    /// Lines with sharp edges and at most a pixel wide are lines of single pixels, their last one included.
     void Stroke(const Path& path, const Pen& pen, const Matrix& matrix, const Paint& paint);
     /// The same as with a path of the rectangle, in less time.
     void FillRectangle(const Rect& rect, const Matrix& matrix, const Paint& paint);
@@ -52,6 +54,7 @@ private:
     void DrawFrame(const Box& outer, const Box& inner);
     void FrameRow(const Box& outer, const Box& inner, int outerHeight, int innerHeight);
     void DrawRows(int y, int end);
+    bool IsThin(const Pen& pen, const Matrix& matrix) const;
     bool ToBox(const Rect& rect, const Matrix& matrix, Box& box) const;
     void Begin(const Paint& paint);
     // The surface's pixels are what the loops work on.
@@ -74,6 +77,7 @@ private:
 
     Rasterizer m_rasterizer;
     Stroker m_stroker;
+    ThinLines m_thin;
     Chains m_chains;
     Path m_path;
     std::vector<uint32_t> m_colors;

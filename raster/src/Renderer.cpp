@@ -53,10 +53,22 @@ void Renderer::Fill(const Path& path, const Matrix& matrix, FillRule rule, const
 
 void Renderer::Stroke(const Path& path, const Pen& pen, const Matrix& matrix, const Paint& paint) {
     Begin(paint);
+    if (IsThin(pen, matrix)) {
+        m_stroker.Lines(path, pen, matrix, Limits());
+        m_thin.Begin(m_clip.Bounds());
+        m_thin.Add(m_stroker.Outline(), {Shift(), Shift()});
+        m_thin.Finish(*this);
+        return;
+    }
     m_stroker.Stroke(path, pen, matrix, Limits());
     m_rasterizer.Begin(m_clip.Bounds());
     m_rasterizer.Add(m_stroker.Outline(), {Shift(), Shift()}, m_stroker.Apart());
     m_rasterizer.Finish(FillRule::Winding, m_settings.edges, *this);
+}
+
+// An anchor hides the end of the line and needs its outline.
+bool Renderer::IsThin(const Pen& pen, const Matrix& matrix) const {
+    return m_settings.edges == Edges::Sharp && pen.width * matrix.LargestScale() <= 1 && !pen.HasAnchors();
 }
 
 bool Renderer::ToBox(const Rect& rect, const Matrix& matrix, Box& box) const {
@@ -89,14 +101,21 @@ void Renderer::FillRectangle(const Rect& rect, const Matrix& matrix, const Paint
 }
 
 void Renderer::StrokeRectangle(const Rect& rect, const Pen& pen, const Matrix& matrix, const Paint& paint) {
-    const double scale = matrix.LargestScale();
-    const bool plain = pen.dashes.empty() && pen.alignment == Alignment::Center && pen.width * scale >= 1 &&
-                       (pen.join == Join::Miter || pen.join == Join::MiterOrBevel) && pen.miterLimit >= 1.5;
-    const double half = pen.width / 2;
-    const Rect inside{std::min(rect.left, rect.right) + half, std::min(rect.top, rect.bottom) + half,
-                      std::max(rect.left, rect.right) - half, std::max(rect.top, rect.bottom) - half};
+    const bool whole = pen.dashes.empty() && pen.compound.empty() && !rect.Empty();
+    const bool wide = pen.alignment == Alignment::Center && pen.width * matrix.LargestScale() >= 1 &&
+                      (pen.join == Join::Miter || pen.join == Join::MiterOrBevel) && pen.miterLimit >= 1.5;
     Box outer, inner;
-    if (plain && !rect.Empty() &&
+    if (whole && IsThin(pen, matrix) && ToBox(rect, matrix, outer)) {
+        Begin(paint);
+        const auto pixel = [](int place) { return (place - 1) >> 8 << 8; };
+        outer = {pixel(outer.left), pixel(outer.top), pixel(outer.right) + kUnit,
+                 pixel(outer.bottom) + kUnit};
+        DrawFrame(outer, {outer.left + kUnit, outer.top + kUnit, outer.right - kUnit, outer.bottom - kUnit});
+        return;
+    }
+    const double half = pen.width / 2;
+    const Rect inside{rect.left + half, rect.top + half, rect.right - half, rect.bottom - half};
+    if (whole && wide &&
         ToBox({rect.left - half, rect.top - half, rect.right + half, rect.bottom + half}, matrix, outer)) {
         Begin(paint);
         if (inside.Empty() || !ToBox(inside, matrix, inner))
@@ -110,9 +129,17 @@ void Renderer::StrokeRectangle(const Rect& rect, const Pen& pen, const Matrix& m
 }
 
 void Renderer::StrokeLine(Point from, Point to, const Pen& pen, const Matrix& matrix, const Paint& paint) {
-    const bool plain = pen.dashes.empty() && (from.x == to.x) != (from.y == to.y) &&
-                       pen.startCap == Cap::Flat && pen.endCap == Cap::Flat &&
-                       pen.width * matrix.LargestScale() >= 1;
+    const bool whole = pen.dashes.empty() && pen.compound.empty() && !pen.HasAnchors();
+    const Point a = matrix.Map(from) + Point{Shift(), Shift()}, b = matrix.Map(to) + Point{Shift(), Shift()};
+    if (whole && IsThin(pen, matrix) && IsFinite(a) && IsFinite(b) && !(from == to)) {
+        Begin(paint);
+        m_thin.Begin(m_clip.Bounds());
+        m_thin.Add(a, b);
+        m_thin.Finish(*this);
+        return;
+    }
+    const bool plain = whole && (from.x == to.x) != (from.y == to.y) && pen.startCap == Cap::Flat &&
+                       pen.endCap == Cap::Flat && pen.width * matrix.LargestScale() >= 1;
     Box box;
     const double half = pen.width / 2;
     const double x = from.x == to.x ? half : 0, y = from.y == to.y ? half : 0;

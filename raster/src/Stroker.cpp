@@ -124,11 +124,10 @@ void Stroker::Stroke(const Path& path, const Pen& pen, const Matrix& matrix, con
     m_outline.Clear();
     m_flat.Clear();
     m_apart = false;
-    m_fits = true;
-    m_patterns = 0;
     const double scale = matrix.LargestScale();
     if (!matrix.IsFinite() || !std::isfinite(scale) || !std::isfinite(pen.width))
         return;
+    m_linesOnly = false;
     double width = std::min(pen.width, kWidest);
     // Lines are a little longer than their curve, which adds up from dash to dash.
     const double tolerance = pen.dashes.empty() ? kTolerance : kTolerance / 4;
@@ -147,45 +146,141 @@ void Stroker::Stroke(const Path& path, const Pen& pen, const Matrix& matrix, con
     m_miterLimit = pen.miterLimit >= 1 ? std::min(pen.miterLimit, 1e6) : 1;
     const double reach = width * std::max(scale, 1.0) * (1 + std::min(m_miterLimit, 100.0) / 2) + 2;
     m_visible = {clip.left - reach, clip.top - reach, clip.right + reach, clip.bottom + reach};
+    StrokeChains(pen, width);
+    // Lines that all keep their directions leave a convex chain on both sides of one.
+    m_apart = m_fits && m_flat.chains.size() == 1 && m_flat.chains[0].closed &&
+              m_outline.chains.size() == 2 && IsConvex(m_flat.vertices);
+}
+
+void Stroker::Lines(const Path& path, const Pen& pen, const Matrix& matrix, const Rect& clip) {
+    m_outline.Clear();
+    m_flat.Clear();
+    m_apart = false;
+    if (!matrix.IsFinite())
+        return;
+    m_linesOnly = true;
+    m_matrix = {};
+    m_tolerance = kTolerance;
+    Flatten(path, matrix, m_tolerance, nullptr, m_flat);
+    m_visible = {clip.left - 2, clip.top - 2, clip.right + 2, clip.bottom + 2};
+    StrokeChains(pen, 1);
+}
+
+void Stroker::StrokeChains(const Pen& pen, double width) {
+    m_fits = true;
+    m_patterns = 0;
+    m_width = width;
     for (const Chains::Chain& chain : m_flat.chains) {
         m_spine.Load(m_flat.Of(chain), chain.closed);
-        m_left = m_right = width / 2;
-        if (pen.alignment == Alignment::Inset && m_spine.closed) {
-            double area = 0;
-            for (size_t i = 0; i < m_spine.corners.size(); ++i)
-                area += Cross(m_spine.corners[i].at - m_spine.corners[0].at,
-                              m_spine.lines[i].direction * m_spine.lines[i].length);
-            m_left = area > 0 ? 0 : width;
-            m_right = area > 0 ? width : 0;
-        }
-        StrokeChain(pen);
+        if (!m_spine.corners.empty())
+            StrokeChain(pen);
     }
-    const std::span<const Chains::Chain> chains = m_outline.chains;
-    // Lines that all keep their directions leave a convex chain on both sides of one.
-    m_apart = m_fits && m_flat.chains.size() == 1 && m_flat.chains[0].closed && chains.size() == 2 &&
-              IsConvex(m_flat.vertices);
+}
+
+// Twice the area inside the spine; above 0 when it goes clockwise.
+double Stroker::TotalArea() const {
+    double area = 0;
+    for (size_t i = 0; i < m_spine.corners.size(); ++i)
+        area += Cross(m_spine.corners[i].at - m_spine.corners[0].at,
+                      m_spine.lines[i].direction * m_spine.lines[i].length);
+    return area;
 }
 
 void Stroker::StrokeChain(const Pen& pen) {
-    if (m_spine.corners.empty())
+    m_left = m_right = m_width / 2;
+    if (pen.alignment == Alignment::Inset && m_spine.closed) {
+        const bool clockwise = TotalArea() > 0;
+        m_left = clockwise ? 0 : m_width;
+        m_right = clockwise ? m_width : 0;
+    }
+    if (!m_spine.closed && !m_linesOnly && pen.HasAnchors()) {
+        const bool dot = m_spine.lines.empty();
+        const Point start = m_spine.corners.front().at, end = m_spine.corners.back().at;
+        const Point first = dot ? Point{1, 0} : m_spine.Tangent(0, 0);
+        const Point last = dot ? first : m_spine.Tangent(m_spine.lines.size() - 1, 1);
+        const auto inset = [&](Cap cap, const CustomCap* custom) {
+            const double widths = custom ? custom->inset * custom->scale : cap == Cap::ArrowAnchor ? 1 : 0;
+            return widths > 0 && std::isfinite(widths) ? widths * m_width : 0;
+        };
+        Trim(inset(pen.startCap, pen.startCustom.get()), inset(pen.endCap, pen.endCustom.get()));
+        if (!m_spine.lines.empty())
+            StrokeParts(pen);
+        AddAnchor(start, first * -1, pen.startCap, pen.startCustom.get());
+        AddAnchor(end, last, pen.endCap, pen.endCustom.get());
         return;
-    const double unit = m_left + m_right;
+    }
+    StrokeParts(pen);
+}
+
+void Stroker::StrokeParts(const Pen& pen) {
+    if (pen.compound.size() < 2 || m_linesOnly) {
+        StrokePart(pen);
+        return;
+    }
+    const double left = m_left;
+    for (size_t i = 0; i + 1 < pen.compound.size(); i += 2) {
+        const double from = std::clamp(pen.compound[i], 0.0, 1.0);
+        const double to = std::clamp(pen.compound[i + 1], 0.0, 1.0);
+        m_left = left - from * m_width;
+        m_right = to * m_width - left;
+        if (from < to)
+            StrokePart(pen);
+    }
+}
+
+// The line between m_left and m_right.
+void Stroker::StrokePart(const Pen& pen) {
+    const auto plain = [](Cap cap, bool custom) {
+        return custom || cap >= Cap::SquareAnchor ? Cap::Flat : cap;
+    };
+    const Cap start = plain(pen.startCap, pen.startCustom != nullptr);
+    const Cap end = plain(pen.endCap, pen.endCustom != nullptr);
     if (!pen.dashes.empty() && !m_spine.lines.empty()) {
-        const double total = Pattern(pen, unit).Total();
+        const double total = Pattern(pen, m_width).Total();
         if (total * m_matrix.LargestScale() > kFinestPattern) {
-            Dash(pen, total);
+            Dash(pen, total, start, end);
             return;
         }
     }
     if (m_spine.lines.empty()) {
-        StrokeDot(m_spine.corners[0].at, pen.startCap, pen.endCap);
+        StrokeDot(m_spine.corners[0].at, start, end);
     } else if (m_spine.closed) {
         StrokeClosed();
     } else {
         m_spine.first = m_spine.Tangent(0, 0);
         m_spine.last = m_spine.Tangent(m_spine.lines.size() - 1, 1);
-        StrokeOpen(m_spine, pen.startCap, pen.endCap);
+        StrokeOpen(m_spine, {start}, {end});
     }
+}
+
+// Makes the spine shorter at its ends; when nothing is left it has no line.
+void Stroker::Trim(double start, double end) {
+    double total = 0;
+    for (const Line& line : m_spine.lines)
+        total += line.length;
+    if (start == 0 && end == 0)
+        return;
+    if (!(start + end < total)) {
+        m_spine.Clear();
+        return;
+    }
+    m_trimmed.clear();
+    double done = 0;
+    for (size_t i = 0; i < m_spine.lines.size(); ++i) {
+        const Line& line = m_spine.lines[i];
+        const Chains::Vertex& from = m_spine.corners[i];
+        const double first = std::max(start - done, 0.0), last = std::min(total - end - done, line.length);
+        done += line.length;
+        if (first > last)
+            continue;
+        if (m_trimmed.empty())
+            m_trimmed.push_back({from.at + line.direction * first, false});
+        if (last < line.length)
+            m_trimmed.push_back({from.at + line.direction * last, false});
+        else
+            m_trimmed.push_back(m_spine.corners[i + 1]);
+    }
+    m_spine.Load(m_trimmed, false);
 }
 
 // The part of a line that may be seen, in parts of its length; false when there is none.
@@ -205,16 +300,16 @@ bool Stroker::Visible(Point from, Point to, double& first, double& last) const {
            cut(a.y, way.y, m_visible.top, m_visible.bottom) && first < last;
 }
 
-void Stroker::Dash(const Pen& pen, double total) {
+void Stroker::Dash(const Pen& pen, double total, Cap startCap, Cap endCap) {
     const bool even = m_left == m_right;
-    const Cap dashCap = even ? pen.dashCap : Cap::Flat;
-    const Cap startCap = m_spine.closed ? dashCap : pen.startCap,
-              endCap = m_spine.closed ? dashCap : pen.endCap;
-    const double offset = std::isfinite(pen.dashOffset) ? pen.dashOffset * (m_left + m_right) : 0;
-    Pattern pattern(pen, m_left + m_right);
+    const End dashEnd{even && pen.dashCap < Cap::SquareAnchor ? pen.dashCap : Cap::Flat, true};
+    const End startEnd{m_spine.closed ? dashEnd.cap : startCap, false};
+    const End endEnd{m_spine.closed ? dashEnd.cap : endCap, m_spine.closed};
+    const double offset = std::isfinite(pen.dashOffset) ? pen.dashOffset * m_width : 0;
+    Pattern pattern(pen, m_width);
     m_dash.Clear();
     m_dash.closed = false;
-    Cap start = startCap;
+    End start = startEnd;
     double done = 0;  // length of the lines before this one
     double sought = -1;
     const size_t count = m_spine.corners.size();
@@ -225,7 +320,7 @@ void Stroker::Dash(const Pen& pen, double total) {
         double first = 0, last = 0;
         const bool visible = Visible(from.at, to.at, first, last);
         if (!visible || first > 0)
-            EndDash(start, dashCap);
+            EndDash(start, dashEnd);
         if (visible) {
             double at = first * line.length;
             const double end = last * line.length;
@@ -234,7 +329,7 @@ void Stroker::Dash(const Pen& pen, double total) {
             const bool dashed = m_patterns < kMostPatterns && at + total > at;
             if (sought != done + at) {
                 pattern.Seek(offset + done + at, total);
-                start = i == 0 && at == 0 ? startCap : dashCap;
+                start = i == 0 && at == 0 ? startEnd : dashEnd;
             }
             const auto add = [&](double place) {
                 const double part = place / line.length;
@@ -249,10 +344,10 @@ void Stroker::Dash(const Pen& pen, double total) {
                 at += pattern.Rest();
                 if (pattern.InDash()) {
                     add(at);
-                    EndDash(start, dashCap);
+                    EndDash(start, dashEnd);
                 }
                 pattern.Next();
-                start = dashCap;
+                start = dashEnd;
                 if (pattern.InDash())
                     add(at);
             }
@@ -261,20 +356,20 @@ void Stroker::Dash(const Pen& pen, double total) {
                 add(end);
             sought = last < 1 ? -1 : done + line.length;
             if (last < 1)
-                EndDash(start, dashCap);
+                EndDash(start, dashEnd);
         }
         done += line.length;
     }
     if (!m_dash.lines.empty())
-        EndDash(start, endCap);
+        EndDash(start, endEnd);
     m_dash.Clear();
 }
 
-void Stroker::EndDash(Cap start, Cap end) {
+void Stroker::EndDash(End start, End end) {
     if (!m_dash.lines.empty())
         StrokeOpen(m_dash, start, end);
     else if (!m_dash.corners.empty())
-        StrokeDot(m_dash.corners[0].at, start, end);
+        StrokeDot(m_dash.corners[0].at, start.cap, end.cap);
     m_dash.Clear();
 }
 
@@ -285,26 +380,41 @@ void Stroker::EndOutline() {
 
 // A line of no length: what the caps make of it.
 void Stroker::StrokeDot(Point at, Cap start, Cap end) {
-    if (start == Cap::Flat && end == Cap::Flat)
+    if (m_linesOnly || (start == Cap::Flat && end == Cap::Flat))
         return;
     BeginOutline();
     Add(at + Point{0, -m_left});
-    AddCap(at, {1, 0}, end);
+    AddCap(at, {1, 0}, end, m_left, m_right);
     Add(at + Point{0, m_right});
-    AddCap(at, {-1, 0}, start);
+    AddCap(at, {-1, 0}, start, m_right, m_left);
     EndOutline();
 }
 
-void Stroker::StrokeOpen(const Spine& spine, Cap start, Cap end) {
+void Stroker::AddLines(const Spine& spine, bool startsInside, bool endsInside) {
+    m_outline.chains.push_back({m_outline.vertices.size(), 0, spine.closed, startsInside, endsInside});
+    for (const Chains::Vertex& corner : spine.corners)
+        Add(corner.at);
+    EndOutline();
+}
+
+void Stroker::StrokeOpen(const Spine& spine, End start, End end) {
+    if (m_linesOnly) {
+        AddLines(spine, start.inside, end.inside);
+        return;
+    }
     BeginOutline();
     Walk(spine, m_left, true);
-    AddCap(spine.corners.back().at, spine.last, end);
+    AddCap(spine.corners.back().at, spine.last, end.cap, m_left, m_right);
     Walk(spine, m_right, false);
-    AddCap(spine.corners.front().at, spine.first * -1, start);
+    AddCap(spine.corners.front().at, spine.first * -1, start.cap, m_right, m_left);
     EndOutline();
 }
 
 void Stroker::StrokeClosed() {
+    if (m_linesOnly) {
+        AddLines(m_spine, false, false);
+        return;
+    }
     BeginOutline();
     Walk(m_spine, m_left, true);
     EndOutline();
@@ -350,16 +460,18 @@ void Stroker::AddCorner(const Chains::Vertex& corner, const Line& before, const 
         Add(corner.at);
         return;
     }
-    const double turn = Cross(before.direction, after.direction),
+    // As seen from the side that is walked along.
+    const double reach = std::abs(offset);
+    const double turn = std::copysign(1.0, offset) * Cross(before.direction, after.direction),
                  cosine = Dot(before.direction, after.direction);
     const Point first = Left(before.direction) * offset, second = Left(after.direction) * offset;
     const double bend = 1 - cosine;
-    if (bend < kHardlyBent && offset * bend * (1 + bend / 8) <= 4 * m_tolerance) {
+    if (bend < kHardlyBent && reach * bend * (1 + bend / 8) <= 4 * m_tolerance) {
         // Hardly a corner. Two thirds of the way to the miter keep the area within a curve: of half the
         // turn's cosine c, (1 + (1 / c - 1) * 2 / 3) / (2 * c), here as the beginning of its series.
-        const double reach = 0.5 + bend * (5.0 / 24 + bend * (19.0 / 192));
-        if (turn >= 0 || offset * -turn * 2 < (1 + cosine) * std::min(before.length, after.length)) {
-            Add(corner.at + (first + second) * reach);
+        const double part = 0.5 + bend * (5.0 / 24 + bend * (19.0 / 192));
+        if (turn >= 0 || reach * -turn * 2 < (1 + cosine) * std::min(before.length, after.length)) {
+            Add(corner.at + (first + second) * part);
             return;
         }
     }
@@ -369,7 +481,7 @@ void Stroker::AddCorner(const Chains::Vertex& corner, const Line& before, const 
     }
     // The inner side: where both sides meet, when both lines are long enough; else by way of the corner,
     // which leaves a second layer on what is covered already.
-    if (cosine > -0.99 && offset * -turn / (1 + cosine) < std::min(before.length, after.length) / 2) {
+    if (cosine > -0.99 && reach * -turn / (1 + cosine) < std::min(before.length, after.length) / 2) {
         Add(corner.at + (first + second) * (1 / (1 + cosine)));
         return;
     }
@@ -386,13 +498,14 @@ void Stroker::AddOuter(const Chains::Vertex& corner, Point before, Point after, 
     Add(corner.at + first);
     if (join == Join::Round) {
         const double turn = std::atan2(Cross(before, after), cosine);
-        AddArc(corner.at, first, turn > 0 ? turn : kPi);
+        const double full = std::copysign(kPi, offset);
+        AddArc(corner.at, first, turn * full > 0 ? turn : full);
     } else if (join != Join::Bevel && cosine > -0.99999) {
         const double halfCosine = std::sqrt((1 + cosine) / 2), halfSine = std::sqrt((1 - cosine) / 2);
         if (1 <= m_miterLimit * halfCosine) {
             Add(corner.at + (first + second) * (1 / (1 + cosine)));
         } else if (join == Join::Miter) {
-            const double reach = offset * (m_miterLimit - halfCosine) / halfSine;
+            const double reach = std::abs(offset) * (m_miterLimit - halfCosine) / halfSine;
             Add(corner.at + first + before * reach);
             Add(corner.at + second - after * reach);
         }
@@ -400,21 +513,18 @@ void Stroker::AddOuter(const Chains::Vertex& corner, Point before, Point after, 
     Add(corner.at + second);
 }
 
-void Stroker::AddCap(Point at, Point outward, Cap cap) {
-    const Point side = Left(outward) * m_left;
-    switch (cap) {
-        case Cap::Flat:
-            break;
-        case Cap::Square:
-            Add(at + side + outward * m_left);
-            Add(at - side + outward * m_left);
-            break;
-        case Cap::Round:
-            AddArc(at, side, kPi);
-            break;
-        case Cap::Triangle:
-            Add(at + outward * m_left);
-            break;
+// From the point `left` of `at`, seen outwards, to that `right` of it.
+void Stroker::AddCap(Point at, Point outward, Cap cap, double left, double right) {
+    const Point side = Left(outward), out = outward * (m_width / 2);
+    if (cap == Cap::Square) {
+        Add(at + side * left + out);
+        Add(at - side * right + out);
+    } else if (left != right) {
+        return;
+    } else if (cap == Cap::Round) {
+        AddArc(at, side * left, kPi);
+    } else if (cap == Cap::Triangle) {
+        Add(at + out);
     }
 }
 
@@ -424,7 +534,7 @@ void Stroker::AddArc(Point centre, Point from, double turn) {
     if (!(radius > 0))
         return;
     const double step = std::max(std::sqrt(8 * m_tolerance / radius), kFinestTurn);
-    const int pieces = static_cast<int>(std::max(std::ceil(turn / step), 1.0));
+    const int pieces = static_cast<int>(std::max(std::ceil(std::abs(turn) / step), 1.0));
     // As in a flattened curve, a little outside.
     const Point start = from * (1 + 2.0 / 3 * (1 - std::cos(turn / pieces / 2)));
     for (int i = 1; i < pieces; ++i)

@@ -3,6 +3,7 @@
 #include "raster/Rasterizer.h"
 #include "raster/Truth.h"
 
+#include <array>
 #include <limits>
 #include <numbers>
 
@@ -257,6 +258,108 @@ TEST(StrokerTest, InsetPensStayInside) {
     }
 }
 
+TEST(StrokerTest, CompoundPensLeaveOutWhatIsBetweenTheirLines) {
+    Random random(2);
+    for (int seed = 0; seed < 30; ++seed) {
+        Path path;
+        if (seed % 3 == 0)
+            path.AddEllipse({8.5, 7, 36, 26});
+        else
+            path.AddPolygon(std::array<Point, 4>{Point{9, 8}, {35, 9.5}, {30, 24}, {11, 23}});
+        if (seed % 3 == 2) {
+            path.Clear();
+            path.MoveTo({6, 5});
+            path.LineTo({27, 7});
+            path.LineTo({36, 27});
+        }
+        Pen pen = RandomPen(random);
+        pen.width = random.Between(5, 9);
+        pen.startCap = pen.endCap = seed % 2 == 0 ? Cap::Flat : Cap::Square;
+        pen.miterLimit = 10;
+        const Matrix matrix = seed % 2 == 0 ? Matrix() : Matrix{1, 0.1, -0.2, 1, 3, -2};
+        const Coverage whole = Draw(path, pen, matrix);
+        const double from = random.Between(0.1, 0.4), to = random.Between(0.5, 0.9);
+        const auto drawn = [&](std::vector<double> compound) {
+            pen.compound = std::move(compound);
+            return Draw(path, pen, matrix);
+        };
+        const Coverage lines = drawn({0, from, to, 1}), between = drawn({from, to});
+        for (int y = 0; y < kHeight; ++y) {
+            for (int x = 0; x < kWidth; ++x)
+                ASSERT_NEAR(lines.At(x, y) + between.At(x, y), whole.At(x, y), 6)
+                    << seed << ": " << x << ", " << y;
+        }
+        // The middle half is a line of half the width.
+        const Coverage middle = drawn({0.25, 0.75});
+        pen.compound.clear();
+        if (pen.startCap == Cap::Square)
+            continue;
+        pen.width /= 2;
+        EXPECT_EQ(middle, Draw(path, pen, matrix)) << seed;
+    }
+}
+
+TEST(StrokerTest, AnchorsAndCustomCapsStandAtTheEnds) {
+    // From (9, 17) to (33, 17), 4 wide: the arrow's tip is the end, its base two widths before it.
+    Path line;
+    line.MoveTo({9, 17});
+    line.LineTo({33, 17});
+    Pen pen;
+    pen.width = 4;
+    const double side = 8 / std::sqrt(3.0);
+    const auto expect = [&](const std::vector<std::vector<Point>>& figures, const Path& path) {
+        Chains chains;
+        for (const auto& figure : figures) {
+            chains.chains.push_back({chains.vertices.size(), figure.size(), true});
+            for (const Point& point : figure)
+                chains.vertices.push_back({point, false});
+        }
+        const Difference difference = CompareWithTruth(Draw(path, pen, {}), chains, FillRule::Winding);
+        EXPECT_LE(difference.largest, 2) << difference.x << ", " << difference.y;
+    };
+    const auto box = [](double left, double top, double right, double bottom) {
+        return std::vector<Point>{{left, top}, {right, top}, {right, bottom}, {left, bottom}};
+    };
+    pen.endCap = Cap::ArrowAnchor;
+    expect({box(9, 15, 29, 19), {{25, 17 - side}, {33, 17}, {25, 17 + side}}}, line);
+    pen.startCap = Cap::DiamondAnchor;
+    pen.endCap = Cap::SquareAnchor;
+    const double half = 4 / std::sqrt(2.0);
+    expect({box(9, 15, 33, 19),
+            {{5, 17}, {9, 13}, {13, 17}, {9, 21}},
+            box(33 - half, 17 - half, 33 + half, 17 + half)},
+           line);
+    // A flag to the left of where the line goes, half a width before its end; drawn against the clock.
+    auto flag = std::make_shared<CustomCap>();
+    flag->fill.AddPolygon(std::array<Point, 3>{Point{0, -1.5}, {2, -1.5}, {0, 0.5}});
+    flag->inset = 0.5;
+    pen.startCap = Cap::Flat;
+    pen.endCustom = flag;
+    expect({box(9, 15, 31, 19), {{27, 17}, {27, 9}, {35, 17}}}, line);
+    // The same arrow either way, along a curve, dashed.
+    auto arrow = std::make_shared<CustomCap>();
+    arrow->fill.AddPolygon(
+        std::array<Point, 3>{Point{0, 0}, {-2 / std::sqrt(3.0), -2}, {2 / std::sqrt(3.0), -2}});
+    arrow->inset = 1;
+    Path curve;
+    curve.AddArc({6, 5, 40, 30}, 160, 200);
+    pen = {};
+    pen.width = 3;
+    pen.dashes = {2, 1};
+    pen.startCap = Cap::ArrowAnchor;
+    const Coverage anchored = Draw(curve, pen, {});
+    pen.startCustom = arrow;
+    EXPECT_EQ(Draw(curve, pen, {}), anchored);
+    // Lines of a cap are as wide as the pen's.
+    auto bar = std::make_shared<CustomCap>();
+    bar->line.MoveTo({-2, 0});
+    bar->line.LineTo({2, 0});
+    pen = {};
+    pen.width = 4;
+    pen.startCustom = bar;
+    expect({box(9, 15, 33, 19), box(7, 9, 11, 25)}, line);
+}
+
 TEST(StrokerTest, ThinLinesAreAPixelWide) {
     Path path;
     path.MoveTo({3, 70});
@@ -305,6 +408,9 @@ TEST(StrokerTest, TakesAnyNumber) {
         pen.width = number();
         pen.miterLimit = number();
         pen.alignment = static_cast<Alignment>(random.Below(2));
+        pen.startCap = static_cast<Cap>(random.Below(8));
+        if (seed % 3 == 0)
+            pen.compound = {number(), number(), 0.5, number()};
         for (int i = random.Below(4); i > 0; --i)
             pen.dashes.push_back(number());
         pen.dashOffset = number();
