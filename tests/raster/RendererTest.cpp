@@ -1,3 +1,4 @@
+#include "raster/PathRegion.h"
 #include "raster/Renderer.h"
 
 #include "raster/Truth.h"
@@ -121,6 +122,96 @@ TEST(KernelsTest, AllInstructionsGiveTheSameBits) {
                 EXPECT_NEAR(scalar[70 + start] >> shift & 255, std::min(255.0, want), 0.51) << round;
             }
         }
+    }
+}
+
+TEST(RendererTest, ScenesAreTheSameWithAllInstructions) {
+    Canvas canvases[] = {Canvas(Format::Premultiplied32), Canvas(Format::Premultiplied32),
+                         Canvas(Format::Premultiplied32)};
+    for (int i = 0; i < 3; ++i) {
+        Renderer renderer(canvases[i].Get(), KernelsFor(static_cast<Instructions>(i)));
+        for (uint32_t seed = 0; seed < 20; ++seed)
+            DrawScene(renderer, seed);
+    }
+    EXPECT_EQ(canvases[1].Bytes(), canvases[0].Bytes());
+    EXPECT_EQ(canvases[2].Bytes(), canvases[0].Bytes());
+}
+
+TEST(RendererTest, ThinSharpLinesHaveBothEndsAndEachPixelOnce) {
+    const SolidPaint half(0x80FFFFFF);
+    std::vector<uint32_t> pixels(kWidth * kHeight);
+    const auto drawn = [&](const auto& draw) {
+        std::fill(pixels.begin(), pixels.end(), 0);
+        Renderer renderer({reinterpret_cast<uint8_t*>(pixels.data()), kWidth * 4, kWidth, kHeight});
+        draw(renderer);
+        std::vector<std::pair<int, int>> places;
+        for (int i = 0; i < kWidth * kHeight; ++i) {
+            EXPECT_TRUE(pixels[i] == 0 || pixels[i] == 0x80808080) << i % kWidth << ", " << i / kWidth;
+            if (pixels[i] != 0)
+                places.emplace_back(i % kWidth, i / kWidth);
+        }
+        return places;
+    };
+    Pen pen;
+    Random random(8);
+    for (int round = 0; round < 200; ++round) {
+        const Point a{1.0 * random.Below(50), 1.0 * random.Below(40)},
+            b{1.0 * random.Below(50), 1.0 * random.Below(40)};
+        if (a == b)
+            continue;
+        const auto line = drawn([&](Renderer& renderer) { renderer.StrokeLine(a, b, pen, {}, half); });
+        EXPECT_EQ(drawn([&](Renderer& renderer) { renderer.StrokeLine(b, a, pen, {}, half); }), line);
+        Path path;
+        path.MoveTo(a);
+        path.LineTo(b);
+        EXPECT_EQ(drawn([&](Renderer& renderer) { renderer.Stroke(path, pen, {}, half); }), line);
+        const Point way = b - a;
+        const double length = std::max(std::abs(way.x), std::abs(way.y));
+        ASSERT_EQ(line.size(), length + 1);
+        for (const auto& [x, y] : line) {
+            // Off by at most half a pixel across.
+            const Point from = Point{1.0 * x, 1.0 * y} - a;
+            EXPECT_LE(std::abs(Cross(from, way)) / length, 0.5);
+        }
+    }
+    // Rectangles and their paths, dashes, and what the clip leaves of it.
+    const Rect rect{4, 3, 30, 20};
+    Path path;
+    path.AddRectangle(rect);
+    const auto frame = drawn([&](Renderer& renderer) { renderer.Stroke(path, pen, {}, half); });
+    EXPECT_EQ(frame.size(), 2u * (26 + 17));
+    EXPECT_EQ(frame.back(), std::pair(30, 20));
+    EXPECT_EQ(drawn([&](Renderer& renderer) { renderer.StrokeRectangle(rect, pen, {}, half); }), frame);
+    pen.dashes = {3, 1};
+    pen.dashOffset = 1;
+    const auto dashed = drawn([&](Renderer& renderer) {
+        renderer.StrokeLine({5, 7}, {15, 7}, pen, {}, half);
+    });
+    std::vector<std::pair<int, int>> want;
+    for (const int x : {5, 6, 8, 9, 10, 12, 13, 14})
+        want.emplace_back(x, 7);
+    EXPECT_EQ(dashed, want);
+    const Region clip({20, 0, 61, 11});
+    const auto cut = drawn([&](Renderer& renderer) {
+        renderer.SetClip(clip);
+        renderer.StrokeLine({-1e9, 10.2}, {1e9, 10.2}, Pen(), {}, half);
+    });
+    EXPECT_EQ(cut.size(), 41u);
+}
+
+TEST(RendererTest, RegionsOfPathsAreWhatSharpEdgesFill) {
+    Path path;
+    path.AddEllipse({3.2, 2, 50, 39.5});
+    path.AddPie({10, 5, 60, 30}, 30, 200);
+    const Matrix matrix{0.9, 0.2, -0.1, 1, 2, -3};
+    const IntRect limits{6, 4, 47, 40};
+    const Region region = ToRegion(path, matrix, FillRule::Alternate, {0.5, 0.5}, limits);
+    std::vector<uint32_t> pixels(kWidth * kHeight);
+    Renderer renderer({reinterpret_cast<uint8_t*>(pixels.data()), kWidth * 4, kWidth, kHeight});
+    renderer.Fill(path, matrix, FillRule::Alternate, SolidPaint(0xFFFFFFFF));
+    for (int i = 0; i < kWidth * kHeight; ++i) {
+        const int x = i % kWidth, y = i / kWidth;
+        ASSERT_EQ(region.Contains(x, y), pixels[i] != 0 && limits.Contains(x, y)) << x << ", " << y;
     }
 }
 
