@@ -105,7 +105,7 @@ private:
     void StrokePart(const Pen& pen);
     double TotalArea() const;
     void Trim(double start, double end);
-    void Dash(const Pen& pen, double total, Cap startCap, Cap endCap);
+    bool Dash(const Pen& pen, Cap startCap, Cap endCap);
     void EndDash(End start, End end);
     bool Visible(Point from, Point to, double& first, double& last) const;
     void StrokeOpen(const Spine& spine, End start, End end);

@@ -73,13 +73,4 @@ Color Apply(const ColorMatrix& matrix, Color color) {
     return FromChannels({to[2], to[1], to[0], to[3]});
 }
 
-Color ReadPixel(const Surface& surface, int x, int y) {
-    const uint8_t* from = surface.At(x, y);
-    const Color color = from[0] | from[1] << 8 | from[2] << 16;
-    if (surface.format == Format::Opaque24 || surface.format == Format::Opaque32)
-        return color | 0xFF000000;
-    const Color whole = color | static_cast<Color>(from[3]) << 24;
-    return surface.format == Format::Plain32 ? Premultiply(whole) : whole;
-}
-
 }  // namespace raster

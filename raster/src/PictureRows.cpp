@@ -1,6 +1,6 @@
 #include "PictureRows.h"
 
-#include <cstring>
+#include "PixelRows.h"
 
 namespace raster {
 
@@ -33,7 +33,7 @@ int PictureRows::Wrapped(int64_t at, int64_t size, bool flips) const {
     return static_cast<int>(rest < size ? rest : period - 1 - rest);
 }
 
-Color PictureRows::Pixel(int64_t x, int64_t y) {
+Color PictureRows::AnyPixel(int64_t x, int64_t y) {
     const int column = WrapX(x), row = WrapY(y);
     if (column < 0 || row < 0)
         return m_outside;
@@ -45,7 +45,7 @@ Color PictureRows::Pixel(int64_t x, int64_t y) {
 const uint32_t* PictureRows::Row(int64_t y, int64_t left, int64_t right) {
     const int row = WrapY(y);
     if (m_direct && row >= 0 && left >= 0 && right <= m_width)
-        return reinterpret_cast<const uint32_t*>(m_picture.At(static_cast<int>(left), row));
+        return PixelAt(static_cast<int>(left), row);
     for (size_t i = 0; i < m_kept.size(); ++i) {
         const Kept& kept = m_kept[i];
         if (kept.y == row && kept.left == left && kept.right == right) {
@@ -65,15 +65,13 @@ const uint32_t* PictureRows::Row(int64_t y, int64_t left, int64_t right) {
     for (size_t i = 0; i < count;) {
         const int64_t place = left + static_cast<int64_t>(i);
         const int column = row < 0 ? -1 : WrapX(place);
-        size_t length = 1;
-        if (column < 0) {
+        // Unless they run backwards there.
+        const bool forwards = column >= 0 && (column + 1 == m_width || WrapX(place + 1) > column);
+        const size_t length = forwards ? std::min(count - i, static_cast<size_t>(m_width - column)) : 1;
+        if (column < 0)
             kept.pixels[i] = m_outside;
-        } else {
-            while (i + length < count &&
-                   WrapX(place + static_cast<int64_t>(length)) == column + static_cast<int>(length))
-                ++length;
+        else
             Load(column, row, static_cast<int>(length), &kept.pixels[i]);
-        }
         i += length;
     }
     return kept.pixels.data();
@@ -89,12 +87,7 @@ void PictureRows::Load(int x, int y, int count, uint32_t* to) {
         std::copy_n(&m_reduced[static_cast<size_t>(y) * m_width + x], count, to);
         return;
     }
-    if (m_picture.format == Format::Premultiplied32) {
-        std::memcpy(to, m_picture.At(x, y), static_cast<size_t>(count) * 4);
-    } else {
-        for (int i = 0; i < count; ++i)
-            to[i] = ReadPixel(m_picture, x + i, y);
-    }
+    LoadPixels(m_picture, x, y, count, to);
     if (m_effects)
         m_effects->ApplyTo({to, static_cast<size_t>(count)});
 }
@@ -114,8 +107,7 @@ Color PictureRows::Mean(int left, int top, int right, int bottom) const {
     for (int y = top; y < bottom; ++y) {
         for (int x = left; x < right; x += static_cast<int>(pixels.size())) {
             const int count = std::min<int>(pixels.size(), right - x);
-            for (int i = 0; i < count; ++i)
-                pixels[i] = ReadPixel(m_picture, x + i, y);
+            LoadPixels(m_picture, x, y, count, pixels.data());
             if (m_effects)
                 m_effects->ApplyTo({pixels.data(), static_cast<size_t>(count)});
             for (int i = 0; i < count; ++i) {

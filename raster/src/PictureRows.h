@@ -14,7 +14,12 @@ public:
                 Color outside);
 
     /// The pixel at any place.
-    Color Pixel(int64_t x, int64_t y);
+    Color Pixel(int64_t x, int64_t y) {
+        const bool inside = x >= 0 && x < m_width && y >= 0 && y < m_height;
+        if (inside && m_direct)
+            return *PixelAt(static_cast<int>(x), static_cast<int>(y));
+        return AnyPixel(x, y);
+    }
     /// Pixels [left, right) of a row; they stay until the next call but one.
     const uint32_t* Row(int64_t y, int64_t left, int64_t right);
 
@@ -30,6 +35,10 @@ private:
     int WrapY(int64_t y) const {
         return Wrapped(y, m_height, m_wrap == Wrap::FlipY || m_wrap == Wrap::FlipXY);
     }
+    const uint32_t* PixelAt(int x, int y) const {
+        return reinterpret_cast<const uint32_t*>(m_picture.At(x, y));
+    }
+    Color AnyPixel(int64_t x, int64_t y);
     int Wrapped(int64_t at, int64_t size, bool flips) const;
     bool IsReduced() const { return m_factorX > 1 || m_factorY > 1; }
     void Load(int x, int y, int count, uint32_t* to);

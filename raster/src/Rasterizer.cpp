@@ -12,6 +12,7 @@ namespace {
 constexpr int kUnit = 256;                  // of a coordinate to a pixel
 constexpr int kBandCells = 1 << 16;         // 256 kB: stays in the second cache
 constexpr size_t kManyEdges = 48;           // in one row: cut into 16 strips at most
+constexpr size_t kMostEdges = 1000;         // and with more of them not at all
 constexpr int64_t kOne = int64_t{1} << 32;  // fraction of positions that go down an edge
 
 // The pixel in which a coordinate lies.
@@ -384,7 +385,8 @@ void Rasterizer::SweepBand(FillRule rule) {
 
 void Rasterizer::SweepRow(int row, FillRule rule) {
     const int top = row * kUnit, bottom = top + kUnit;
-    const int least = m_active.size() > kManyEdges ? kUnit / 16 : 1;
+    const size_t edges = m_active.size();
+    const int least = edges > kMostEdges ? kUnit : edges > kManyEdges ? kUnit / 16 : 1;
     m_heights.assign({top, bottom});
     for (const size_t active : m_active) {
         for (const int y : {m_edges[active].y0, m_edges[active].y1}) {

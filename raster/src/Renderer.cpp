@@ -1,5 +1,7 @@
 #include "raster/Renderer.h"
 
+#include "PixelRows.h"
+
 namespace raster {
 
 namespace {
@@ -288,23 +290,19 @@ void Renderer::Draw(int y, int x, int length, const uint8_t* coverage, uint8_t v
         DrawOnPixels(reinterpret_cast<uint32_t*>(m_surface.At(x, y)), y, x, length, coverage, value);
         return;
     }
-    m_pixels.resize(length);
-    for (int i = 0; i < length; ++i)
-        m_pixels[i] = ReadPixel(m_surface, x + i, y);
-    DrawOnPixels(m_pixels.data(), y, x, length, coverage, value);
-    const bool plain = m_surface.format == Format::Plain32;
-    for (int i = 0; i < length; ++i) {
-        // What was not covered keeps its colour, even under an alpha of 0.
-        if ((coverage ? coverage[i] : value) == 0)
-            continue;
-        const Color color = plain ? Unpremultiply(m_pixels[i]) : m_pixels[i];
-        uint8_t* to = m_surface.At(x + i, y);
-        to[0] = static_cast<uint8_t>(color);
-        to[1] = static_cast<uint8_t>(color >> 8);
-        to[2] = static_cast<uint8_t>(color >> 16);
-        if (plain)
-            to[3] = static_cast<uint8_t>(color >> 24);
+    if (!coverage && value == 0)
+        return;
+    if (m_pixels.size() < static_cast<size_t>(length))
+        m_pixels.resize(length);
+    const bool covers = m_solid && !coverage && value == 255 && m_color >> 24 == 255;
+    if (covers && m_surface.format == Format::Plain32) {
+        std::fill_n(reinterpret_cast<uint32_t*>(m_surface.At(x, y)), length, m_color);
+        return;
     }
+    if (!covers)
+        LoadPixels(m_surface, x, y, length, m_pixels.data());
+    DrawOnPixels(m_pixels.data(), y, x, length, coverage, value);
+    StorePixels(m_surface, x, y, length, m_pixels.data(), coverage);
 }
 
 void Renderer::DrawColor(uint32_t* to, int length, const uint8_t* coverage, uint8_t value) {

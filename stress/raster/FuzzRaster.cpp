@@ -1,5 +1,7 @@
 // Drawing calls made of arbitrary bytes: no access beside the pixels, no undefined behaviour, no call without
 // end.
+#include "raster/PathRegion.h"
+#include "raster/Recolor.h"
 #include "raster/Renderer.h"
 
 #include <cstring>
@@ -104,13 +106,24 @@ Pen ReadPen(Bytes& bytes) {
     pen.width = bytes.Number();
     pen.join = static_cast<Join>(bytes.Below(4));
     pen.miterLimit = bytes.Number();
-    pen.startCap = static_cast<Cap>(bytes.Below(4));
-    pen.endCap = static_cast<Cap>(bytes.Below(4));
+    pen.startCap = static_cast<Cap>(bytes.Below(8));
+    pen.endCap = static_cast<Cap>(bytes.Below(8));
     pen.dashCap = static_cast<Cap>(bytes.Below(4));
     pen.alignment = static_cast<Alignment>(bytes.Below(2));
     for (int i = bytes.Below(4); i > 0; --i)
         pen.dashes.push_back(bytes.Number());
     pen.dashOffset = bytes.Number();
+    for (int i = bytes.Below(5); i > 0; --i)
+        pen.compound.push_back(bytes.Number());
+    if (bytes.Below(8) == 0) {
+        auto cap = std::make_shared<CustomCap>();
+        cap->fill = ReadPath(bytes);
+        cap->line = ReadPath(bytes);
+        cap->inset = bytes.Number();
+        cap->scale = bytes.Number();
+        cap->startCap = static_cast<Cap>(bytes.Below(4));
+        pen.startCustom = cap;
+    }
     return pen;
 }
 
@@ -142,33 +155,58 @@ void Draw(Renderer& renderer, Bytes& bytes, const Paint& paint) {
     }
 }
 
+PathGradientShape ReadGradient(Bytes& bytes) {
+    PathGradientShape shape;
+    for (int i = bytes.Below(8); i > 0; --i)
+        shape.outline.push_back(bytes.Place());
+    for (int i = bytes.Below(4); i > 0; --i)
+        shape.surround.push_back(bytes.Ink());
+    for (int i = bytes.Below(3); i > 0; --i)
+        shape.colors.push_back({bytes.Number() / 64, bytes.Ink()});
+    for (int i = bytes.Below(3); i > 0; --i)
+        shape.blend.push_back({bytes.Number() / 64, bytes.Number() / 64});
+    shape.centre = bytes.Place();
+    shape.center = bytes.Ink();
+    shape.focusX = bytes.Number() / 64;
+    shape.focusY = bytes.Number() / 64;
+    shape.wrap = static_cast<Wrap>(bytes.Below(5));
+    shape.gamma = bytes.Below(2) != 0;
+    return shape;
+}
+
 void DrawWithPaint(Renderer& renderer, Bytes& bytes) {
     static uint32_t pixels[6] = {0xFF804020, 0x40102030, 0xFF00FF80, 0, 0x80808080, 0xFFFFFFFF};
-    switch (bytes.Below(5)) {
+    switch (bytes.Below(6)) {
         case 0:
             Draw(renderer, bytes, SolidPaint(bytes.Ink()));
             break;
         case 1: {
-            const GradientStop stops[] = {{0, bytes.Ink()}, {0.4, bytes.Ink()}, {1, bytes.Ink()}};
+            const GradientStop stops[] = {
+                {0, bytes.Ink()}, {bytes.Number() / 64, bytes.Ink()}, {1, bytes.Ink()}};
             const Point from = bytes.Place(), to = bytes.Place();
             Draw(renderer, bytes,
                  LinearGradient(from, to, bytes.Map(), stops, static_cast<Wrap>(bytes.Below(5)),
                                 bytes.Below(2) != 0));
             break;
         }
-        case 2: {
-            const Point outline[] = {bytes.Place(), bytes.Place(), bytes.Place(), bytes.Place()};
-            const Color colors[] = {bytes.Ink(), bytes.Ink()};
-            Draw(renderer, bytes, PathGradient(outline, colors, bytes.Place(), bytes.Ink(), {}, bytes.Map()));
+        case 2:
+            Draw(renderer, bytes, PathGradient(ReadGradient(bytes), bytes.Map()));
             break;
-        }
         case 3: {
             const Surface picture{reinterpret_cast<uint8_t*>(pixels), 12, 3, 2, Format::Plain32};
-            Draw(renderer, bytes,
-                 Texture(picture, bytes.Map(), static_cast<Wrap>(bytes.Below(5)),
-                         static_cast<Sampling>(bytes.Below(3))));
+            ColorEffects effects;
+            if (bytes.Below(2) == 0)
+                effects.matrix.emplace()[bytes.Below(5)][bytes.Below(5)] = bytes.Number();
+            effects.gamma = bytes.Number();
+            const Matrix map = bytes.Map();
+            const auto wrap = static_cast<Wrap>(bytes.Below(5));
+            const auto sampling = static_cast<Sampling>(bytes.Below(5));
+            Draw(renderer, bytes, Texture(picture, map, wrap, sampling, &effects, bytes.Ink()));
             break;
         }
+        case 4:
+            Draw(renderer, bytes, Hatch(bytes.Next(), bytes.Ink(), bytes.Ink(), bytes.Next(), bytes.Next()));
+            break;
         default:
             Draw(renderer, bytes,
                  Hatch({1, 2, 4, 8, 16, 32, 64, 128}, bytes.Ink(), bytes.Ink(), bytes.Next(), bytes.Next()));
@@ -192,6 +230,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             Region clip({bytes.Below(70), bytes.Below(50), bytes.Below(80), bytes.Below(60)});
             clip.Apply(Region({bytes.Below(70), bytes.Below(50), bytes.Below(80), bytes.Below(60)}),
                        static_cast<Combine>(bytes.Below(6)));
+            if (style >= 240)
+                clip.Apply(
+                    ToRegion(ReadPath(bytes), bytes.Map(), FillRule::Alternate, {0.5, 0.5}, {0, 0, 70, 50}),
+                    Combine::Xor);
             renderer.SetClip(clip);
         }
         DrawWithPaint(renderer, bytes);
