@@ -157,6 +157,81 @@ public:
         cairo_glyph_free(glyphs);
     }
 
+    void EllipseFill() {
+        const raster::SolidPaint paint(0xFF40C080);
+        cairo_set_source_rgb(m_cairo, 0.25, 0.75, 0.5);
+        Path path;
+        Compare(
+            "smooth ellipse 60x40",
+            [&](int x, int y) {
+                path.Clear();
+                path.AddEllipse({1.0 * x, 1.0 * y, x + 60.0, y + 40.0});
+                m_renderer.Fill(path, {}, raster::FillRule::Winding, paint);
+            },
+            [&](int x, int y) {
+                cairo_save(m_cairo);
+                cairo_translate(m_cairo, x + 30, y + 20);
+                cairo_scale(m_cairo, 30, 20);
+                cairo_arc(m_cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
+                cairo_restore(m_cairo);
+                cairo_fill(m_cairo);
+            });
+    }
+
+    // The brush is made for each call on both sides.
+    void GradientFill() {
+        const raster::GradientStop stops[] = {{0, 0xFF203040}, {1, 0xFF40C080}};
+        Compare(
+            "rectangle 60x40, slanted gradient",
+            [&](int x, int y) {
+                const raster::LinearGradient gradient({1.0 * x, 1.0 * y}, {x + 60.0, y + 40.0}, {}, stops,
+                                                      raster::Wrap::FlipX, false);
+                m_renderer.FillRectangle({x + 0.5, y + 0.5, x + 60.5, y + 40.5}, {}, gradient);
+            },
+            [&](int x, int y) {
+                cairo_pattern_t* gradient = cairo_pattern_create_linear(x, y, x + 60.0, y + 40.0);
+                cairo_pattern_add_color_stop_rgb(gradient, 0, 0.125, 0.19, 0.25);
+                cairo_pattern_add_color_stop_rgb(gradient, 1, 0.25, 0.75, 0.5);
+                cairo_pattern_set_extend(gradient, CAIRO_EXTEND_REFLECT);
+                cairo_set_source(m_cairo, gradient);
+                cairo_rectangle(m_cairo, x, y, 60, 40);
+                cairo_fill(m_cairo);
+                cairo_pattern_destroy(gradient);
+            });
+    }
+
+    void Picture(const char* name, double scale, raster::Sampling sampling, cairo_filter_t filter) {
+        std::vector<uint32_t> pixels(60 * 40);
+        for (size_t i = 0; i < pixels.size(); ++i)
+            pixels[i] = raster::Premultiply(static_cast<uint32_t>(i * 2654435761u));
+        auto* bytes = reinterpret_cast<uint8_t*>(pixels.data());
+        const int width = static_cast<int>(60 / scale), height = static_cast<int>(40 / scale);
+        cairo_surface_t* source =
+            cairo_image_surface_create_for_data(bytes, CAIRO_FORMAT_ARGB32, width, height, 240);
+        const raster::Surface picture{bytes, 240, width, height, raster::Format::Premultiplied32};
+        Compare(
+            name,
+            [&](int x, int y) {
+                const raster::Texture texture(
+                    picture, Matrix::Scaling(scale, scale) * Matrix::Translation(x - 0.5, y - 0.5),
+                    raster::Wrap::FlipXY, sampling);
+                m_renderer.FillRectangle({x - 0.5, y - 0.5, x + 59.5, y + 39.5}, {}, texture);
+            },
+            [&](int x, int y) {
+                cairo_save(m_cairo);
+                cairo_translate(m_cairo, x, y);
+                cairo_scale(m_cairo, scale, scale);
+                cairo_set_source_surface(m_cairo, source, 0, 0);
+                cairo_pattern_set_filter(cairo_get_source(m_cairo), filter);
+                cairo_pattern_set_extend(cairo_get_source(m_cairo), CAIRO_EXTEND_REFLECT);
+                cairo_rectangle(m_cairo, 0, 0, 60 / scale, 40 / scale);
+                cairo_fill(m_cairo);
+                cairo_restore(m_cairo);
+            });
+        cairo_set_source_rgb(m_cairo, 0, 0, 0);
+        cairo_surface_destroy(source);
+    }
+
 private:
     std::vector<uint32_t> m_pixels;
     uint8_t* m_bytes;
@@ -175,5 +250,9 @@ int main() {
     bench.EllipseOutline();
     bench.Line();
     bench.Text();
+    bench.EllipseFill();
+    bench.GradientFill();
+    bench.Picture("picture 60x40 as it is", 1, raster::Sampling::Bilinear, CAIRO_FILTER_BILINEAR);
+    bench.Picture("picture twice as large, 60x40", 2, raster::Sampling::Bilinear, CAIRO_FILTER_BILINEAR);
     return 0;
 }

@@ -43,27 +43,39 @@ void Ramp::Fill(const GradientStop& from, const GradientStop& to, int first, int
         std::fill(&m_colors[first], m_colors.data() + end, Premultiply(to.color));
         return;
     }
+    Channels4 a = Channels(from.color), b = Channels(to.color);
     if (gamma) {
-        for (int i = first; i < end; ++i)
-            m_colors[i] = Premultiply(Mix(from.color, to.color, part(i), true));
+        for (int c = 0; c < 3; ++c) {
+            a[c] = Brightness(a[c]);
+            b[c] = Brightness(b[c]);
+        }
+        for (int i = first; i < end; ++i) {
+            const double share = part(i);
+            Channels4 mixed;
+            for (int c = 0; c < 4; ++c) {
+                const double between = a[c] + (b[c] - a[c]) * share;
+                mixed[c] = c < 3 ? FromBrightness(between) : between;
+            }
+            m_colors[i] = Premultiply(FromChannels(mixed));
+        }
         return;
     }
-    // Channels of 2^20, a step at a time. A step is larger than a channel where there is only one.
+    // Channels of 2^20, a step at a time. Where there is only one colour the step may be too large for that.
     constexpr double unit = 1 << 20;
-    int64_t channels[4], steps[4];
-    const Channels4 a = Channels(from.color), b = Channels(to.color);
+    int32_t channels[4], steps[4];
     for (int c = 0; c < 4; ++c) {
-        channels[c] = std::llrint((a[c] + (b[c] - a[c]) * part(first) + 0.5) * unit);
+        channels[c] = static_cast<int32_t>(std::lrint((a[c] + (b[c] - a[c]) * part(first) + 0.5) * unit));
         const double step = (b[c] - a[c]) / ((to.position - from.position) * (1 << kBits));
-        steps[c] = std::llrint(std::clamp(step, -256.0, 256.0) * unit);
+        steps[c] = end - first > 1 ? static_cast<int32_t>(std::lrint(step * unit)) : 0;
     }
+    const bool opaque = (from.color & to.color) >> 24 == 255;
     for (int i = first; i < end; ++i) {
         Color color = 0;
         for (int c = 0; c < 4; ++c) {
-            color |= static_cast<Color>(std::clamp<int64_t>(channels[c] >> 20, 0, 255)) << (8 * c);
+            color |= static_cast<Color>(channels[c] >> 20) << (8 * c);
             channels[c] += steps[c];
         }
-        m_colors[i] = Premultiply(color);
+        m_colors[i] = opaque ? color : Premultiply(color);
     }
 }
 

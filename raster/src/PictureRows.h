@@ -20,6 +20,13 @@ public:
             return *PixelAt(static_cast<int>(x), static_cast<int>(y));
         return AnyPixel(x, y);
     }
+    /// Two pixels and the two below them where they are in memory; nulls where they are not.
+    std::pair<const uint32_t*, const uint32_t*> Square(int64_t x, int64_t y) const {
+        if (!m_direct || x < 0 || x + 1 >= m_width || y < 0 || y + 1 >= m_height)
+            return {nullptr, nullptr};
+        return {PixelAt(static_cast<int>(x), static_cast<int>(y)),
+                PixelAt(static_cast<int>(x), static_cast<int>(y) + 1)};
+    }
     /// Pixels [left, right) of a row; they stay until the next call but one.
     const uint32_t* Row(int64_t y, int64_t left, int64_t right);
 

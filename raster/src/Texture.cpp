@@ -1,6 +1,6 @@
 #include "PictureRows.h"
 
-#include "Channels.h"
+#include "Bilinear.h"
 
 namespace raster {
 
@@ -13,14 +13,6 @@ template <class Real>
 std::array<Real, 4> CubicWeights(Real t) {
     const Real s = t * t, c = s * t;
     return {(-c + 2 * s - t) / 2, (3 * c - 5 * s + 2) / 2, (-3 * c + 4 * s + t) / 2, (c - s) / 2};
-}
-
-// Both, in parts of 256 of the second.
-uint32_t Between(uint32_t a, uint32_t b, uint32_t part) {
-    constexpr uint32_t halves = 0x00FF00FF;
-    const uint32_t low = (a & halves) * (256 - part) + (b & halves) * part + 0x00800080;
-    const uint32_t high = (a >> 8 & halves) * (256 - part) + (b >> 8 & halves) * part + 0x00800080;
-    return (low >> 8 & halves) | (high & ~halves);
 }
 
 // What swings over stays within the alpha.
@@ -115,8 +107,7 @@ bool Texture::AlongRows(Point start, int count, uint32_t* out) const {
         for (int i = 0; i < count; ++i, place += change) {
             const size_t at = pixel();
             const auto across = static_cast<uint32_t>(((place & 0xFFFFFFFF) + (1 << 23)) >> 24);
-            out[i] = Between(Between(upper[at], upper[at + 1], across),
-                             Between(lower[at], lower[at + 1], across), down);
+            out[i] = raster::Bilinear(upper + at, lower + at, across, down);
         }
         return true;
     }
@@ -159,8 +150,11 @@ Color Texture::Bilinear(double x, double y) const {
     const auto across = static_cast<uint32_t>(std::lrint((x - 0.5 - left) * 256));
     const auto down = static_cast<uint32_t>(std::lrint((y - 0.5 - top) * 256));
     const auto column = static_cast<int64_t>(left), row = static_cast<int64_t>(top);
-    return Between(Between(m_rows->Pixel(column, row), m_rows->Pixel(column + 1, row), across),
-                   Between(m_rows->Pixel(column, row + 1), m_rows->Pixel(column + 1, row + 1), across), down);
+    if (const auto [upper, lower] = m_rows->Square(column, row); upper)
+        return raster::Bilinear(upper, lower, across, down);
+    const uint32_t upper[] = {m_rows->Pixel(column, row), m_rows->Pixel(column + 1, row)};
+    const uint32_t lower[] = {m_rows->Pixel(column, row + 1), m_rows->Pixel(column + 1, row + 1)};
+    return raster::Bilinear(upper, lower, across, down);
 }
 
 Color Texture::Bicubic(double x, double y) const {

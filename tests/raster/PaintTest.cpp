@@ -1,6 +1,7 @@
 #include "raster/HatchPatterns.h"
 #include "raster/Recolor.h"
 #include "raster/Truth.h"
+#include "raster/src/Bilinear.h"
 
 #include <bit>
 
@@ -107,6 +108,35 @@ TEST(HatchTest, StandardPatternsHaveTheSharesAndDirectionsOfTheirNames) {
     EXPECT_EQ(At(hatch, {4.5, 1.5}) & 255, 255u - 64);
     EXPECT_EQ(At(hatch, {5.5, 1.5}), 0xFFFFFFFF);
     EXPECT_EQ(At(Hatch(999, 1, 2, 0, 0), {0, 0}), At(Hatch(0, 1, 2, 0, 0), {0, 0}));
+}
+
+TEST(LinearGradientTest, BlendsAndCorrectsBrightness) {
+    const Color from = 0xFF204060, to = 0xFFE0C0FF;
+    const BlendStop blend[] = {{0, 0}, {0.25, 0.8}, {1, 0.3}};
+    for (const bool gamma : {false, true}) {
+        const LinearGradient gradient({10, 0}, {210, 0}, {}, BlendStops(from, to, blend, gamma), Wrap::FlipX,
+                                      gamma);
+        for (int x = -180; x < 400; ++x) {
+            double place = std::abs(x + 0.5 - 10) / 200;
+            place = place > 1 ? 2 - place : place;
+            const double factor = place < 0.25 ? place / 0.25 * 0.8 : 0.8 - (place - 0.25) / 0.75 * 0.5;
+            const Color drawn = At(gradient, {x + 0.5, 3});
+            for (int shift = 0; shift < 24; shift += 8) {
+                const double a = from >> shift & 255, b = to >> shift & 255;
+                double want = a + (b - a) * factor;
+                if (gamma)
+                    want =
+                        std::pow(std::pow(a, 2.2) + (std::pow(b, 2.2) - std::pow(a, 2.2)) * factor, 1 / 2.2);
+                ASSERT_NEAR(drawn >> shift & 255, want, 2) << gamma << ": " << x;
+            }
+        }
+    }
+    // Stops that are no use leave no trace but their colours.
+    for (const double odd : {std::nan(""), 1e300, -1e300, 0.3, 1e-320}) {
+        const GradientStop stops[] = {{0, from}, {odd, to}, {odd, from}, {0.3, to}, {0.2, from}};
+        At(LinearGradient({0, 0}, {1, 0}, {}, stops, Wrap::Tile, true), {0.25, 0});
+        At(LinearGradient({0, 0}, {1, 0}, {}, stops, Wrap::Tile, false), {0.25, 0});
+    }
 }
 
 TEST(PathGradientTest, FollowsTheFormula) {
@@ -252,6 +282,19 @@ TEST(TextureTest, SamplesAsTheFormulaSays) {
                             sampling == Sampling::Bilinear ? 2 : 1)
                     << round << ": " << i << ", " << c;
         }
+    }
+}
+
+TEST(TextureTest, WideLoopsMixAsThePlainOnes) {
+    Random random(5);
+    for (int round = 0; round < 1000; ++round) {
+        uint32_t pixels[4];
+        for (uint32_t& pixel : pixels)
+            pixel = round % 3 == 0 ? 0xFFFFFFFF : static_cast<uint32_t>(random.Between(0, 4294967296.0));
+        const auto across = static_cast<uint32_t>(random.Below(257)),
+                   down = static_cast<uint32_t>(random.Below(257));
+        ASSERT_EQ(Bilinear(pixels, pixels + 2, across, down),
+                  BilinearPlain(pixels, pixels + 2, across, down));
     }
 }
 
