@@ -18,7 +18,7 @@ PictureRows::PictureRows(const Surface& picture, int factorX, int factorY, Wrap 
     if (!IsReduced())
         return;
     m_blocks = (m_width + kBlock - 1) / kBlock;
-    m_reduced.resize(static_cast<size_t>(m_width) * m_height);
+    m_reduced = std::make_unique_for_overwrite<uint32_t[]>(static_cast<size_t>(m_width) * m_height);
     m_there.resize(static_cast<size_t>(m_blocks) * m_height);
 }
 

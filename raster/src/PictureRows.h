@@ -63,10 +63,11 @@ private:
     std::array<Kept, 4> m_kept;
     size_t m_next = 0;  // of m_kept to be used again
 
-    // The smaller picture, and which of its blocks of a row are there.
+    // The smaller picture, whose memory is not touched before it is needed, and which of its blocks of a row
+    // are there.
     static constexpr int kBlock = 64;
     int m_blocks = 0;
-    std::vector<uint32_t> m_reduced;
+    std::unique_ptr<uint32_t[]> m_reduced;
     std::vector<bool> m_there;
 };
 

@@ -36,8 +36,15 @@ void ThinLines::AddLine(Point from, Point to, bool startsInside, bool endsInside
     const double width = to.x - from.x, slope = width > 0 ? (to.y - from.y) / width : 0;
     if (!(last >= low && first < high))
         return;
-    const int end = static_cast<int>(std::min(last, high - 1));
-    for (int x = static_cast<int>(std::max(first, low)); x <= end; ++x) {
+    const int begin = static_cast<int>(std::max(first, low)),
+              end = static_cast<int>(std::min(last, high - 1));
+    if (flat && slope == 0) {
+        const double y = PixelOf(from.y);
+        if (begin <= end && y >= m_clip.top && y < m_clip.bottom)
+            m_spans.push_back({static_cast<int>(y), begin, end + 1});
+        return;
+    }
+    for (int x = begin; x <= end; ++x) {
         const double along = std::clamp(x + 0.5 - from.x, 0.0, width);
         const double y = PixelOf(from.y + along * slope);
         if (y >= -kFarthestPixel && y <= kFarthestPixel)
@@ -62,9 +69,9 @@ void ThinLines::Finish(RowSink& sink) {
         m_runs.clear();
         for (; i < m_spans.size() && m_spans[i].y == y; ++i) {
             const Span& span = m_spans[i];
-            Run* before = m_runs.empty() ? nullptr : &m_runs.back();
-            if (before && before->x + before->length >= span.left)
-                before->length = std::max(before->length, span.right - before->x);
+            Run* last = m_runs.empty() ? nullptr : &m_runs.back();
+            if (last && last->x + last->length >= span.left)
+                last->length = std::max(last->length, span.right - last->x);
             else
                 m_runs.push_back({span.left, span.right - span.left, nullptr, 255});
         }
