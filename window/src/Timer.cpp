@@ -1,8 +1,9 @@
 #include "window/Timer.h"
 
+#include "Callback.h"
+
 #include <algorithm>
 #include <mutex>
-#include <new>
 #include <vector>
 
 namespace Lumo {
@@ -16,16 +17,6 @@ std::vector<Timer*> g_running;
 bool IsListed(Timer* timer) {
     const std::lock_guard guard(g_lock);
     return std::find(g_running.begin(), g_running.end(), timer) != g_running.end();
-}
-
-void Report(CException* exception, HWND window, UINT message, WPARAM id) {
-    MSG current = {};
-    current.hwnd = window;
-    current.message = message;
-    current.wParam = id;
-    if (CWinThread* thread = AfxGetThread())
-        thread->ProcessWndProcException(exception, &current);
-    exception->Delete();
 }
 
 }  // namespace
@@ -61,14 +52,7 @@ void CALLBACK Timer::OnTick(HWND window, UINT message, UINT_PTR id, DWORD) {
         return;
     // A copy, for a tick that starts the timer anew or destroys it.
     const auto tick = timer->m_tick;
-    // The system calls this past every window procedure, whose guard would end an exception.
-    try {
-        tick();
-    } catch (CException* exception) {
-        Report(exception, window, message, id);
-    } catch (const std::bad_alloc&) {
-        Report(new CMemoryException, window, message, id);
-    }
+    CallGuarded(tick, window, message, id);
 }
 
 }  // namespace Lumo
