@@ -199,11 +199,18 @@ TEST_F(Tabs, EditorRenamesOnReturnAndOnLeaving) {
     EXPECT_EQ(L"One* New name Left Four", Order());
 
     m_host.refused = 0;
+    type(2, L"Pressed");
+    ::SetCursorPos(300, 150);
+    INPUT press = {};
+    press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
+    ::SendInput(1, &press, sizeof press);
+    PumpQueue();
+    EXPECT_EQ(L"One* New name Pressed Four", Order()) << "the host takes no keyboard";
     type(3, L"Gone");
     m_tabs.RemoveTab(3);
     EXPECT_FALSE(m_tabs.IsRenaming());
     PumpQueue();
-    EXPECT_EQ(L"One* New name Left", Order());
+    EXPECT_EQ(L"One* New name Pressed", Order());
 }
 
 TEST_F(Tabs, ButtonsAskTheHost) {

@@ -21,6 +21,8 @@ bool TabCtrl::Editor::Open(const CRect& rect, const CString& text, HFONT font) {
     SetWindowText(text);
     SetSel(0, -1);
     SetFocus();
+    // Not every window takes the keyboard when it is pressed.
+    m_elsewhere.StartElsewhere(m_hWnd, [this] { Leave(); });
     return true;
 }
 
@@ -39,7 +41,11 @@ BOOL TabCtrl::Editor::PreTranslateMessage(MSG* msg) {
 
 void TabCtrl::Editor::OnKillFocus(CWnd* next) {
     CEdit::OnKillFocus(next);
-    // Not at once: the window must outlive its own message.
+    Leave();
+}
+
+// Not at once: the window must outlive its own message.
+void TabCtrl::Editor::Leave() {
     m_owner.PostMessage(kEditorLeft, 0, reinterpret_cast<LPARAM>(this));
 }
 
