@@ -54,7 +54,7 @@ void End(Host<Base>* object) {
         object->Host<Base>::~Host();
 }
 END
-    sed -nE 's/^class TESSEL_API ([A-Za-z]+).*/template void End(Host<\1>*);/p' "${headers[@]}"
+    sed -nE 's/^class TESSEL_API ([A-Za-z0-9]+).*/template void End(Host<\1>*);/p' "${headers[@]}"
 } >"$work/slots.cpp"
 
 # slots COMPILER_OPTIONS...: lines of a class, the number of a slot and the member in it. Slots of the class library's own

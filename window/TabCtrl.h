@@ -1,6 +1,7 @@
 // A window with one tab per page.
 #pragma once
 
+#include "window/ImageListRotate270.h"
 #include "window/TabStyle.h"
 #include "window/Timer.h"
 
@@ -42,14 +43,14 @@ enum class TabPart {
     kTab,          ///< a tab beside its close button
     kClose,        ///< a tab's close button
     kAdd,          ///< the add button
-    kScrollLeft,   ///< the button that scrolls towards the first tab
-    kScrollRight,  ///< the button that scrolls towards the last tab
+    kScrollLeft,   ///< the button that scrolls towards the first tab, up at the left and right of the pages
+    kScrollRight,  ///< the button that scrolls towards the last tab, down at the left and right
 };
 
-/// A strip of tabs above or below the pages that its host shows. Tabs can be chosen with the mouse, the
+/// A strip of tabs at any side of the pages that its host shows. Tabs can be chosen with the mouse, the
 /// arrows, Home and End; dragged to another place (Escape ends the drag); renamed by a double click or F2;
 /// closed by a button, the middle button or Del; scrolled by two buttons and the wheel when they do not fit.
-/// The pages are the host's affair. Indices start with 0.
+/// The pages are the host's affair. Indices start with 0. Sizes follow the scale of the window's monitor.
 class TESSEL_API TabCtrl : public CWnd {
     DECLARE_DYNAMIC(TabCtrl)
 
@@ -69,10 +70,21 @@ public:
     void SetStyle(std::unique_ptr<TabStyle> style);
     /// The style in use; valid until the next `SetStyle`.
     const TabStyle& Style() const { return *m_style; }
-    /// The height the style wants.
+    /// The thickness of the strip that the style wants, its width at the left and right.
     int GetHeight() const { return m_style->Height(); }
+    /// Paints at `dpi` dots per inch, 96 being 100 %; 0, as at the start, takes the window's own.
+    void SetDpi(int dpi);
     /// On which side of the pages the control is; above at the start.
     void SetSide(TabSide side);
+    /// With `shown` the window has the pages in it: the strip is `GetHeight` thick, and the style paints its
+    /// frame around the rest. Without, as at the start, the strip is the whole window.
+    void SetPageFrame(bool shown);
+    /// Where the pages go within the frame, in client coordinates: the host puts its windows there, children
+    /// of the control or on top of it. Empty without a frame.
+    CRect GetPageRect() const;
+    /// Shows pictures of `list`, which outlives the control or the next call, on the tabs; null for none. At
+    /// the left and right they are turned with the texts.
+    void SetImages(HIMAGELIST list);
     /// Shows a close button on every tab; none at the start.
     void SetCloseButtons(bool shown);
     /// Shows an add button behind the last tab; none at the start.
@@ -105,6 +117,10 @@ public:
     DWORD_PTR GetTabData(int index) const;
     /// Changes the host's value of a tab to `data`. False for an index that is none.
     bool SetTabData(int index, DWORD_PTR data);
+    /// The number of a tab's picture, -1 for none.
+    int GetTabImage(int index) const { return IsTab(index) ? m_tabs[index].image : -1; }
+    /// Shows the picture `image` of the list on a tab; -1 for none. False for an index that is none.
+    bool SetTabImage(int index, int image);
 
     /// The current tab, -1 when there are none.
     int GetCurrent() const { return m_current; }
@@ -159,6 +175,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* next);
     afx_msg void OnDestroy();
     afx_msg LRESULT OnEditorLeft(WPARAM, LPARAM editor);
+    afx_msg LRESULT OnDpiChanged(WPARAM, LPARAM);
 
 private:
     class Editor;
@@ -167,7 +184,8 @@ private:
     struct Tab {
         CString text;
         DWORD_PTR data;
-        int left = 0;  // from the first tab on, before scrolling
+        int image = -1;
+        int left = 0;  // along the strip from the first tab on, before scrolling
         int width = 0;
     };
     struct Place {
@@ -177,10 +195,21 @@ private:
     };
 
     bool IsTab(int index) const { return index >= 0 && index < GetTabCount(); }
+    bool IsUpright() const { return m_side == TabSide::kLeft || m_side == TabSide::kRight; }
+    void ApplyDpi();
+    void TurnImages();
     void Changed();
     void Arrange();
-    int VisibleWidth() const;
-    int ContentWidth() const;
+    CRect StripRect() const;
+    int StripLength() const;
+    int Along(CPoint point) const;
+    CRect Cell(int from, int to) const;
+    CRect ButtonRect(int from) const;
+    CRect CloseRect(const CRect& tab) const;
+    CRect EditorRect(int index) const;
+    int ImageLength(int index) const;
+    int VisibleLength() const;
+    int ContentLength() const;
     int AddLeft() const;
     void ScrollTo(int offset);
     Place PlaceAt(CPoint point) const;
@@ -197,18 +226,24 @@ private:
     void ScrollWhileDragging();
     void Drop();
     void EndDrag();
-    int DropIndexAt(int x) const;
-    int DropMarkX() const;
+    int DropIndexAt(int along) const;
+    int DropMark() const;
     void StartScrolling(TabPart part);
     void StepScroll(TabPart part);
 
-    void PaintStrip(CDC& dc, const CRect& client) const;
+    void PaintStrip(CDC& dc) const;
     void PaintTab(CDC& dc, int index) const;
+    void PaintImage(CDC& dc, int image, CRect& left) const;
+    void PaintText(CDC& dc, int index, const CRect& bounds, const TabState& state) const;
     TabState SignState(TabPart part, int tab = -1) const;
     bool IsScrollEnd(TabPart part) const;
 
     std::unique_ptr<TabStyle> m_style;
     TabSide m_side = TabSide::kAbove;
+    int m_dpi = 0;
+    bool m_pageFrame = false;
+    HIMAGELIST m_images = nullptr;
+    ImageListRotate270 m_turned;
     bool m_closeButtons = false;
     bool m_addButton = false;
     bool m_reorder = false;

@@ -114,7 +114,7 @@ declaration == "" && /^ *template / {
     next
 }
 declaration == "" && /^ *(class|struct|enum|union|namespace|inline namespace) / {
-    if (match($0, /^(class|struct) (TESSEL_API |MARROWLOG_CLASS )?[A-Za-z]+/)) {
+    if (match($0, /^(class|struct) (TESSEL_API |MARROWLOG_CLASS )?[A-Za-z0-9]+/)) {
         class_name = substr($0, RSTART, RLENGTH)
         sub(/.* /, "", class_name)
     }

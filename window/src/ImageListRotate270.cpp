@@ -2,52 +2,27 @@
 
 #include "BitmapPixels.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace Lumo {
 
 namespace {
 
-// One picture of the bitmap that holds all of them, turned.
-BitmapPixels Turned(const BitmapPixels& all, const CRect& place) {
-    BitmapPixels turned = {place.Height(), place.Width(), true, {}};
-    turned.pixels.reserve(static_cast<size_t>(turned.width) * static_cast<size_t>(turned.height));
-    for (int x = place.right - 1; x >= place.left; --x) {
-        for (int y = place.top; y < place.bottom; ++y)
-            turned.pixels.push_back(
-                all.pixels[static_cast<size_t>(y) * static_cast<size_t>(all.width) + static_cast<size_t>(x)]);
-    }
-    return turned;
-}
-
-HBITMAP ColorBitmap(BitmapPixels& picture) {
-    const BITMAPINFO info = TopDownInfo(picture.width, picture.height);
-    void* bits = nullptr;
-    const HBITMAP bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    if (bitmap)
-        std::copy(picture.pixels.begin(), picture.pixels.end(), static_cast<DWORD*>(bits));
-    return bitmap;
-}
-
 // White where the picture is transparent.
 HBITMAP MaskBitmap(const BitmapPixels& picture) {
-    const int stride = (picture.width + 15) / 16 * 2;
-    std::vector<BYTE> bits(static_cast<size_t>(stride) * static_cast<size_t>(picture.height));
-    size_t pixel = 0;
-    for (int y = 0; y < picture.height; ++y) {
-        for (int x = 0; x < picture.width; ++x) {
-            if (picture.pixels[pixel++] & 0xFFFFFF)
-                bits[static_cast<size_t>(y * stride + x / 8)] |= static_cast<BYTE>(0x80 >> x % 8);
-        }
+    const size_t width = static_cast<size_t>(picture.width);
+    const size_t stride = (width + 15) / 16 * 2;
+    std::vector<BYTE> bits(stride * static_cast<size_t>(picture.height));
+    for (size_t i = 0; i < picture.pixels.size(); ++i) {
+        if (picture.pixels[i] & 0xFFFFFF)
+            bits[i / width * stride + i % width / 8] |= static_cast<BYTE>(0x80 >> i % width % 8);
     }
     return ::CreateBitmap(picture.width, picture.height, 1, 1, bits.data());
 }
 
 bool AddTurned(HIMAGELIST list, const BitmapPixels& colors, const BitmapPixels& masks, const CRect& place) {
-    BitmapPixels color = Turned(colors, place);
     CBitmap picture, mask;
-    if (!picture.Attach(ColorBitmap(color)))
+    if (!picture.Attach(PixelCanvas(Turned(colors, place)).Detach()))
         return false;
     const bool masked = !masks.pixels.empty();
     if (masked && !mask.Attach(MaskBitmap(Turned(masks, place))))

@@ -13,8 +13,9 @@ BEGIN_MESSAGE_MAP(TabCtrl::Editor, CEdit)
     ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
 
-bool TabCtrl::Editor::Open(const CRect& rect, const CString& text, HFONT font) {
-    if (!Create(WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, rect, &m_owner, kEditorId))
+bool TabCtrl::Editor::Open(const CRect& rect, bool popup, const CString& text, HFONT font) {
+    const DWORD style = (popup ? WS_POPUP : WS_CHILD) | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL;
+    if (!CreateEx(0, L"EDIT", nullptr, style, rect, &m_owner, popup ? 0 : kEditorId))
         return false;
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     SetLimitText(kLongestText);

@@ -14,8 +14,9 @@ inline constexpr UINT kEditorLeft = WM_USER + 1;
 class TabCtrl::Editor : public CEdit {
 public:
     explicit Editor(TabCtrl& owner) : m_owner(owner) {}
-    /// Opens over `rect` with the whole text selected.
-    bool Open(const CRect& rect, const CString& text, HFONT font);
+    /// Opens with the whole text selected: a child in client coordinates, or with `popup` a window of its own
+    /// in those of the screen, since a child would be cut off at the strip.
+    bool Open(const CRect& rect, bool popup, const CString& text, HFONT font);
 
     BOOL PreTranslateMessage(MSG* msg) override;
 

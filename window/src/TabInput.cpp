@@ -11,8 +11,9 @@ namespace Lumo {
 
 namespace {
 
-constexpr int kScrollStep = 60;
+constexpr int kScrollStep = 60;  // at 96 dots per inch
 constexpr UINT kScrollPause = 120;
+constexpr UINT kDpiChanged = 0x02E3;  // WM_DPICHANGED_AFTERPARENT, younger than the headers' version
 
 }  // namespace
 
@@ -35,6 +36,7 @@ BEGIN_MESSAGE_MAP(TabCtrl, CWnd)
     ON_WM_KILLFOCUS()
     ON_WM_DESTROY()
     ON_MESSAGE(kEditorLeft, &TabCtrl::OnEditorLeft)
+    ON_MESSAGE(kDpiChanged, &TabCtrl::OnDpiChanged)
 END_MESSAGE_MAP()
 
 void TabCtrl::OnSize(UINT type, int cx, int cy) {
@@ -111,7 +113,7 @@ void TabCtrl::OnLButtonDblClk(UINT flags, CPoint point) {
         BeginRename(place.tab);
     else if (place.part != TabPart::kNothing)
         OnLButtonDown(flags, point);
-    else if (m_addButton && point.x < VisibleWidth())
+    else if (m_addButton && StripRect().PtInRect(point) && Along(point) < VisibleLength())
         Notify(TABN_ADD, -1);
 }
 
@@ -127,6 +129,8 @@ void TabCtrl::OnRButtonUp(UINT, CPoint point) {
         return;
     }
     EndRename(true);
+    if (!StripRect().PtInRect(point))
+        return;
     const int tab = PlaceAt(point).tab;
     Choose(tab);
     ClientToScreen(&point);
@@ -135,7 +139,7 @@ void TabCtrl::OnRButtonUp(UINT, CPoint point) {
 
 BOOL TabCtrl::OnMouseWheel(UINT, short delta, CPoint) {
     EndRename(true);
-    ScrollTo(m_offset - delta * kScrollStep / WHEEL_DELTA);
+    ScrollTo(m_offset - delta * m_style->Scaled(kScrollStep) / WHEEL_DELTA);
     return TRUE;
 }
 
@@ -158,7 +162,7 @@ void TabCtrl::BeginDrag() {
 }
 
 void TabCtrl::Drag(CPoint point) {
-    const int index = DropIndexAt(point.x);
+    const int index = DropIndexAt(Along(point));
     if (index == m_dropIndex)
         return;
     m_dropIndex = index;
@@ -166,21 +170,21 @@ void TabCtrl::Drag(CPoint point) {
 }
 
 void TabCtrl::ScrollWhileDragging() {
-    constexpr int kZone = 24;
+    const int zone = m_style->Scaled(24);
     CPoint at;
     ::GetCursorPos(&at);
     ScreenToClient(&at);
-    if (at.x < kZone)
-        ScrollTo(m_offset - kScrollStep);
-    else if (at.x > VisibleWidth() - kZone)
-        ScrollTo(m_offset + kScrollStep);
+    if (Along(at) < zone)
+        StepScroll(TabPart::kScrollLeft);
+    else if (Along(at) > VisibleLength() - zone)
+        StepScroll(TabPart::kScrollRight);
     Drag(at);
 }
 
 // The index of the tab that the dragged one would be put in front of.
-int TabCtrl::DropIndexAt(int x) const {
+int TabCtrl::DropIndexAt(int along) const {
     int index = 0;
-    while (index < GetTabCount() && x > GetTabRect(index).CenterPoint().x)
+    while (index < GetTabCount() && along > Along(GetTabRect(index).CenterPoint()))
         ++index;
     return index;
 }
@@ -229,7 +233,8 @@ void TabCtrl::StartScrolling(TabPart part) {
 }
 
 void TabCtrl::StepScroll(TabPart part) {
-    ScrollTo(m_offset + (part == TabPart::kScrollLeft ? -kScrollStep : kScrollStep));
+    const int step = m_style->Scaled(kScrollStep);
+    ScrollTo(m_offset + (part == TabPart::kScrollLeft ? -step : step));
 }
 
 BOOL TabCtrl::PreTranslateMessage(MSG* msg) {
@@ -241,13 +246,15 @@ BOOL TabCtrl::PreTranslateMessage(MSG* msg) {
 }
 
 void TabCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    if (key == (IsUpright() ? VK_UP : VK_LEFT)) {
+        Choose(m_current - 1);
+        return;
+    }
+    if (key == (IsUpright() ? VK_DOWN : VK_RIGHT)) {
+        Choose(m_current + 1);
+        return;
+    }
     switch (key) {
-        case VK_LEFT:
-            Choose(m_current - 1);
-            break;
-        case VK_RIGHT:
-            Choose(m_current + 1);
-            break;
         case VK_HOME:
             Choose(0);
             break;
