@@ -10,7 +10,7 @@ namespace {
 
 // White where the picture is transparent.
 HBITMAP MaskBitmap(const BitmapPixels& picture) {
-    const size_t width = static_cast<size_t>(picture.width);
+    const auto width = static_cast<size_t>(picture.width);
     const size_t stride = (width + 15) / 16 * 2;
     std::vector<BYTE> bits(stride * static_cast<size_t>(picture.height));
     for (size_t i = 0; i < picture.pixels.size(); ++i) {
