@@ -30,6 +30,20 @@ TEST(LoadTest, RegistersTheClipboardFormat) {
     ::FreeLibrary(library);
 }
 
+// A host finds them in either DLL, and they are the same ones.
+TEST(LoadTest, HasTheCopyOperationsOfTheSupportLibrary) {
+    const HMODULE library = ::LoadLibrary(kLibrary);
+    ASSERT_NE(library, nullptr);
+    const HMODULE support = ::GetModuleHandle(L"MarrowLog.dll");
+    ASSERT_NE(support, nullptr);
+    for (const char* name : {"_ZN4CIniC1ERKS_", "_ZN4CIniC2ERKS_", "_ZN4CIniaSERKS_",
+                             "_ZN10CCSWrapperC1ERKS_", "_ZN10CCSWrapperC2ERKS_", "_ZN10CCSWrapperaSERKS_"}) {
+        EXPECT_NE(::GetProcAddress(library, name), nullptr) << name;
+        EXPECT_EQ(::GetProcAddress(library, name), ::GetProcAddress(support, name)) << name;
+    }
+    ::FreeLibrary(library);
+}
+
 TEST(LoadTest, LoadsAndUnloadsAHundredTimes) {
     DWORD handles = 0;
     for (int i = 0; i < 100; ++i) {
