@@ -25,13 +25,14 @@ inline constexpr std::size_t kMaxSections = kMaxOrder;
 /// from one thread, that of the samples.
 class TESSEL_API Cascade {
 public:
+    /// A cascade without sections, which passes everything, that runs in the order of `form`.
     explicit Cascade(Form form = Form::kTransposed2) : m_form(form) {}
 
-    /// Takes new sections at once and keeps the state. False, with nothing changed, for more than
+    /// Takes new `sections` at once and keeps the state. False, with nothing changed, for more than
     /// kMaxSections.
     bool Set(std::span<const Section> sections);
 
-    /// Moves to new sections over the next `samples` samples, so that nothing clicks; as many sections as
+    /// Moves to new `sections` over the next `samples` samples, so that nothing clicks; as many sections as
     /// there were, more or fewer. Between two stable filters every step on the way is stable. 0 samples are
     /// as `Set`.
     bool GlideTo(std::span<const Section> sections, std::size_t samples);
@@ -42,11 +43,11 @@ public:
     /// Forgets all samples so far.
     void Reset() { m_state = {}; }
 
-    /// Filters the samples where they are. Numbers too small to be heard do not slow it down: what is left of
+    /// Filters `samples` where they are. Numbers too small to be heard do not slow it down: what is left of
     /// the state below 1e-290 becomes 0. After an input that is infinite or not a number, so are the outputs
     /// up to the end of that block of at most 256 samples; then it goes on as after `Reset`.
     void Process(std::span<double> samples);
-    /// The same for single precision; the filter itself runs in double precision.
+    /// The same for `samples` in single precision; the filter itself runs in double precision.
     void Process(std::span<float> samples);
 
 private:

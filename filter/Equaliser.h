@@ -12,21 +12,19 @@ struct Band {
     double rate = 96000.0;      ///< samples a second
 };
 
-// Gains in dB, -120 to 120.
-
-/// Lifts or lowers around the middle by `gain`.
+/// Lifts or lowers around the middle of `band` by `gain` dB, -120 to 120.
 TESSEL_API Section Peak(const Band& band, double gain);
-/// Lifts or lowers everything below the corner by `gain`; half of it at the corner.
+/// Lifts or lowers everything below the corner of `band` by `gain` dB, -120 to 120; half of it at the corner.
 TESSEL_API Section LowShelf(const Band& band, double gain);
-/// Lifts or lowers everything above the corner by `gain`; half of it at the corner.
+/// Lifts or lowers everything above the corner of `band` by `gain` dB, -120 to 120; half of it at the corner.
 TESSEL_API Section HighShelf(const Band& band, double gain);
-/// Takes the middle out.
+/// Takes the middle of `band` out.
 TESSEL_API Section Notch(const Band& band);
-/// Turns the phase by 360 degrees in all, 180 at the middle, and leaves the gain at 1.
+/// Turns the phase by 360 degrees in all, 180 at the middle of `band`, and leaves the gain at 1.
 TESSEL_API Section AllPass(const Band& band);
-/// Passes what is below the corner; the gain at the corner is q.
+/// Passes what is below the corner of `band`; the gain at the corner is its q.
 TESSEL_API Section LowPass(const Band& band);
-/// Passes what is above the corner; the gain at the corner is q.
+/// Passes what is above the corner of `band`; the gain at the corner is its q.
 TESSEL_API Section HighPass(const Band& band);
 
 }  // namespace Lumo::Filter

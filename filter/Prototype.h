@@ -16,21 +16,22 @@ enum class BesselEdge {
     kMagnitude,  ///< the gain is 3 dB down
 };
 
-// All of these take orders from 1 to kMaxOrder and ripple and attenuation in dB as the functions say. For
-// anything else they give a layout without poles and with a gain of 0.
-
-/// As flat as can be; 3 dB down at the edge.
+/// A filter of `order` 1 to kMaxOrder, as flat as can be; 3 dB down at the edge. Like all of these functions
+/// it answers a layout without poles and with a gain of 0 for anything outside the ranges.
 TESSEL_API Layout Butterworth(int order);
-/// Equal ripples of `ripple` dB (more than 0) up to the edge, falling beyond.
+/// A filter of `order` 1 to kMaxOrder with equal ripples of `ripple` dB (more than 0) up to the edge, falling
+/// beyond.
 TESSEL_API Layout Chebyshev1(int order, double ripple);
-/// Falling up to the edge, `attenuation` dB (more than 0) down from the edge on.
+/// A filter of `order` 1 to kMaxOrder, falling up to the edge, `attenuation` dB (more than 0) down from the
+/// edge on.
 TESSEL_API Layout Chebyshev2(int order, double attenuation);
-/// Equal ripples of `ripple` dB up to the edge, and soon beyond it `attenuation` dB (more than `ripple`)
-/// down: the steepest one of its order.
+/// A filter of `order` 1 to kMaxOrder with equal ripples of `ripple` dB (more than 0) up to the edge, and
+/// soon beyond it `attenuation` dB (more than `ripple`) down: the steepest one of its order.
 TESSEL_API Layout Elliptic(int order, double ripple, double attenuation);
-/// As constant a delay as can be.
+/// A filter of `order` 1 to kMaxOrder with as constant a delay as can be; `edge` says what the edge is.
 TESSEL_API Layout Bessel(int order, BesselEdge edge = BesselEdge::kPhase);
-/// The steepest one at the edge, where it is 3 dB down, of those that fall all the way.
+/// A filter of `order` 1 to kMaxOrder, the steepest one at the edge, where it is 3 dB down, of those that
+/// fall all the way.
 TESSEL_API Layout Legendre(int order);
 
 }  // namespace Lumo::Filter

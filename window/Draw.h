@@ -35,9 +35,9 @@ public:
     /// Lays a glow of `color` (the system's highlight) around `rect`, which fades out over `size` pixels.
     /// `strength` is its alpha beside the rectangle, 0 to 255; inside nothing is painted.
     static void Glow(CDC& dc, const CRect& rect, int size, COLORREF color = CLR_DEFAULT, int strength = 160);
-    /// Paints a border of `width` pixels inside `rect` in the colours `light` (the system's for 3D
-    /// highlights) and `shadow` (the system's for 3D shadows). A line needs two pixels: `width` is the half
-    /// of it.
+    /// Paints a border of `width` pixels inside `rect` that looks as `look` says, in the colours `light` (the
+    /// system's for 3D highlights) and `shadow` (the system's for 3D shadows). A line needs two pixels:
+    /// `width` is the half of it.
     static void Edge(CDC& dc, const CRect& rect, EdgeLook look, int width = 1, COLORREF light = CLR_DEFAULT,
                      COLORREF shadow = CLR_DEFAULT);
     /// Fills a triangle in the middle of `rect`, half as long as the shorter side of that, which points the

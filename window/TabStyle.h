@@ -102,7 +102,8 @@ public:
     /// Paints the mark on `strip`, above or below the pages, between two tabs at which a dragged one would
     /// go; `x` is between them.
     virtual void DrawDropMark(CDC& dc, int x, const CRect& strip) const;
-    /// The same on a strip at any side: `at` is between the tabs, x above and below, y at the left and right.
+    /// The same on a `strip` at any side: `at` is between the tabs, x above and below, y at the left and
+    /// right.
     virtual void DrawDropMarkAt(CDC& dc, int at, const CRect& strip, TabSide side) const;
     /// Width of the frame around the pages, for a control that shows one.
     virtual int FrameWidth() const { return 0; }

@@ -35,9 +35,10 @@ public:
     /// Keeps the place of the frame `window`, and whether it is maximised, in `section` of `ini`; of a
     /// minimised one the place to which it returns. False when there is no window, or the file refuses.
     static bool SavePlacement(HWND window, CIni& ini, const CString& section);
-    /// Puts `window` where `SavePlacement` found it, on screens that are there now, without showing it, and
-    /// answers how to show it: as `show` says, or maximised when it was so and `show` is one of the ordinary
-    /// ways (`SW_SHOWNORMAL`, `SW_SHOW`, `SW_SHOWDEFAULT`). A section without a usable place changes nothing.
+    /// Puts `window` where `SavePlacement` found it, by `section` of `ini`, on screens that are there now,
+    /// without showing it, and answers how to show it: as `show` says, or maximised when it was so and `show`
+    /// is one of the ordinary ways (`SW_SHOWNORMAL`, `SW_SHOW`, `SW_SHOWDEFAULT`). A section without a usable
+    /// place changes nothing.
     static int LoadPlacement(HWND window, const CIni& ini, const CString& section, int show = SW_SHOWNORMAL);
 
     /// Size of `text` in `font` (null: the system's for windows), in pixels of the screen. Lines end where

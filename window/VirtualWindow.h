@@ -47,7 +47,8 @@ public:
     CRect GetOwnerRect() const;
     /// Moves it to `rect`, in the coordinates of what it is in.
     void Move(const CRect& rect);
-    /// Shows or hides it with all that is within it; a hidden one loses pointer, capture and keyboard.
+    /// Shows it, or without `shown` hides it, with all that is within it; a hidden one loses pointer, capture
+    /// and keyboard.
     void Show(bool shown);
     /// Whether it, and all that it is in, is shown.
     bool IsVisible() const;
