@@ -20,7 +20,8 @@ void SetLocale() {
 
 bool StartGdiPlus() {
     const Gdiplus::GdiplusStartupInput input;  // version 1, background thread not suppressed
-    return Gdiplus::GdiplusStartup(&g_gdiPlus, &input, nullptr) == Gdiplus::Ok;
+    return ::GetModuleHandle(L"gdiplus.dll") &&
+           Gdiplus::GdiplusStartup(&g_gdiPlus, &input, nullptr) == Gdiplus::Ok;
 }
 
 void ReportMissingGdiPlus() {

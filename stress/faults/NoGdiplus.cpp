@@ -1,4 +1,4 @@
-// Runs beside a GDI+ that cannot start: the library says so and refuses to load, and Studio ends.
+// Runs beside a GDI+ that cannot start, or none: the library says so and refuses to load, and Studio ends.
 #include "support/MessageBoxAnswerer.h"
 
 #include <gtest/gtest.h>

@@ -1,16 +1,10 @@
 #!/usr/bin/env bash
-# failing-gdiplus.sh OBJDUMP SOURCE MODULE...: the source of a GDI+ library with every function that the modules import,
-# each of which fails.
+# failing-gdiplus.sh DEF SOURCE: the source of a GDI+ library with every function that DEF names, each of which fails.
 set -euo pipefail
 
-objdump=$1 source=$2
-shift 2
-
-"$objdump" -p "$@" | awk '
-    /DLL Name:/ { wanted = tolower($3) == "gdiplus.dll" }
-    wanted && $NF ~ /^Gdip/ { print $NF }' | sort -u | while read -r function; do
+def=$1 source=$2
+grep -o 'Gdip[A-Za-z0-9]*\|Gdiplus[A-Za-z]*' "$def" | sort -u | while read -r function; do
     value=1 # the status of any error
     [ "$function" != GdipAlloc ] || value=0
     echo "extern \"C\" __declspec(dllexport) void* $function() { return reinterpret_cast<void*>($value); }"
 done >"$source"
-grep -q GdiplusStartup "$source"
