@@ -57,7 +57,7 @@ public:
     }
 
 private:
-    alignas(4) uint8_t m_bytes[32 * 5];
+    alignas(4) uint8_t m_bytes[32 * 5] = {};
     Surface m_surface;
 };
 
