@@ -274,6 +274,14 @@ TEST_F(VirtualWindowTest, WhatAnOverrideThrowsIsReported) {
     EXPECT_TRUE(a.IsHot());
 }
 
+BOOL CALLBACK TakeShownTip(HWND window, LPARAM result) {
+    WCHAR name[40] = {};
+    ::GetClassName(window, name, 40);
+    if (CString(name) == TOOLTIPS_CLASS && ::IsWindowVisible(window))
+        *reinterpret_cast<HWND*>(result) = window;
+    return TRUE;
+}
+
 // With the pointer itself: the system asks for a cursor, and time passes.
 TEST_F(VirtualWindowTest, CursorTipAndHoverBelongToTheRectangle) {
     const HCURSOR hand = ::LoadCursor(nullptr, IDC_HAND);
@@ -282,16 +290,7 @@ TEST_F(VirtualWindowTest, CursorTipAndHoverBelongToTheRectangle) {
     ::SetCursorPos(40 + 90, 30 + 70);
     const auto tip = [&] {
         HWND found = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM result) -> BOOL {
-                WCHAR name[40] = {};
-                ::GetClassName(window, name, 40);
-                if (CString(name) == TOOLTIPS_CLASS && ::IsWindowVisible(window))
-                    *reinterpret_cast<HWND*>(result) = window;
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&found));
+        ::EnumThreadWindows(::GetCurrentThreadId(), &TakeShownTip, reinterpret_cast<LPARAM>(&found));
         return found;
     };
     m_log.clear();

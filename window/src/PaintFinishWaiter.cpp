@@ -13,6 +13,12 @@ bool IsInvalid(HWND window) {
     return ::IsWindowVisible(window) && ::GetUpdateRect(window, nullptr, FALSE);
 }
 
+BOOL CALLBACK AddInvalid(HWND window, LPARAM list) {
+    if (IsInvalid(window))
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
 // Those in `top`, and itself, that have something to paint.
 std::vector<HWND> InvalidWindows(HWND top) {
     std::vector<HWND> windows;
@@ -20,12 +26,7 @@ std::vector<HWND> InvalidWindows(HWND top) {
         return windows;
     if (IsInvalid(top))
         windows.push_back(top);
-    const auto add = [](HWND window, LPARAM list) -> BOOL {
-        if (IsInvalid(window))
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-        return TRUE;
-    };
-    ::EnumChildWindows(top, add, reinterpret_cast<LPARAM>(&windows));
+    ::EnumChildWindows(top, &AddInvalid, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 

@@ -70,6 +70,16 @@ std::optional<int> NextPart(LPCWSTR& at, WCHAR mark) {
     return number;
 }
 
+BOOL CALLBACK AddWorkArea(HMONITOR monitor, HDC, LPRECT, LPARAM list) {
+    MONITORINFO info = {};
+    info.cbSize = sizeof info;
+    if (::GetMonitorInfo(monitor, &info)) {
+        auto& found = *reinterpret_cast<std::vector<CRect>*>(list);
+        found.insert(info.dwFlags & MONITORINFOF_PRIMARY ? found.begin() : found.end(), info.rcWork);
+    }
+    return TRUE;
+}
+
 }  // namespace
 
 int Tools::DpiOf(HWND window) {
@@ -83,16 +93,7 @@ int Tools::DpiOf(HWND window) {
 
 std::vector<CRect> Tools::WorkAreas() {
     std::vector<CRect> areas;
-    const auto add = [](HMONITOR monitor, HDC, LPRECT, LPARAM list) -> BOOL {
-        MONITORINFO info = {};
-        info.cbSize = sizeof info;
-        if (::GetMonitorInfo(monitor, &info)) {
-            auto& found = *reinterpret_cast<std::vector<CRect>*>(list);
-            found.insert(info.dwFlags & MONITORINFOF_PRIMARY ? found.begin() : found.end(), info.rcWork);
-        }
-        return TRUE;
-    };
-    ::EnumDisplayMonitors(nullptr, nullptr, add, reinterpret_cast<LPARAM>(&areas));
+    ::EnumDisplayMonitors(nullptr, nullptr, &AddWorkArea, reinterpret_cast<LPARAM>(&areas));
     return areas;
 }
 
