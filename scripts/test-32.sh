@@ -12,6 +12,7 @@ if ! dpkg-query -W wine32:i386 >/dev/null 2>&1; then
     { dpkg --add-architecture i386 && apt-get update && apt-get install -y --no-install-recommends wine32:i386; } >build/wine32.log 2>&1 ||
         { tail -n 20 build/wine32.log && exit 1; }
 fi
+[ -d build/wine/drive_c/windows/syswow64 ] || rm -rf build/wine # of a Wine without 32 bits
 . scripts/environment.sh
 scripts/build.sh i686-checked
 on_one_core ctest --preset i686-checked
