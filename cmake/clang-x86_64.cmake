@@ -13,6 +13,7 @@ foreach(kind EXE SHARED MODULE)
         "-B${TESSEL_GCC_FOLDER} -L${TESSEL_GCC_FOLDER} --ld-path=/usr/bin/${TESSEL_TRIPLET}-ld -pthread")
 endforeach()
 
+set(CMAKE_DLLTOOL ${TESSEL_TRIPLET}-dlltool)  # the compiler's own makes no delayed imports
 set(CMAKE_C_COMPILER clang)
 set(CMAKE_CXX_COMPILER clang++)
 set(CMAKE_C_COMPILER_TARGET x86_64-w64-windows-gnu)
