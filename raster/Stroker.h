@@ -120,6 +120,7 @@ private:
     void AddCorner(const Chains::Vertex& corner, const Line& before, const Line& after, double offset);
     void AddOuter(const Chains::Vertex& corner, Point before, Point after, double offset);
     void AddCap(Point at, Point outward, Cap cap, double left, double right);
+    int ArcPieces(double radius, double turn) const;
     void AddArc(Point centre, Point from, double turn);
     void BeginOutline() { m_outline.chains.push_back({m_outline.vertices.size(), 0, true}); }
     void EndOutline();

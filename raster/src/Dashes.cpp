@@ -1,12 +1,15 @@
 #include "raster/Stroker.h"
 
+#include <numbers>
+
 namespace raster {
 
 namespace {
 
+constexpr double kPi = std::numbers::pi;
 // Dashes finer than this many pixels are a line.
 constexpr double kFinestPattern = 0.1;
-constexpr double kMostPatterns = 1e5;  // in one stroke
+constexpr double kMostPatterns = 1e5;  // in one stroke, fewer of those with large round caps
 
 // The dashes and gaps of a pen with a place in them.
 class Pattern {
@@ -37,9 +40,10 @@ public:
         m_rest = At(m_index);
     }
 
-private:
     // With an odd number dashes and gaps change places the second time.
     size_t Count() const { return m_dashes.size() % 2 == 0 ? m_dashes.size() : 2 * m_dashes.size(); }
+
+private:
     double At(size_t index) const {
         const double length = m_dashes[index % m_dashes.size()];
         return length > 0 ? length * m_unit : 0;
@@ -81,6 +85,9 @@ bool Stroker::Dash(const Pen& pen, Cap startCap, Cap endCap) {
     const End startEnd{m_spine.closed ? dashEnd.cap : startCap, false};
     const End endEnd{m_spine.closed ? dashEnd.cap : endCap, m_spine.closed};
     const double offset = std::isfinite(pen.dashOffset) ? pen.dashOffset * m_width : 0;
+    // One dash of each pattern is longer than what is lost of a place by rounding.
+    const double finest = 4e-16 * static_cast<double>(pattern.Count());
+    const double effort = dashEnd.cap == Cap::Round ? 1 + ArcPieces(m_left, kPi) / 16.0 : 1;
     m_dash.Clear();
     m_dash.closed = false;
     End start = startEnd;
@@ -99,8 +106,8 @@ bool Stroker::Dash(const Pen& pen, Cap startCap, Cap endCap) {
             double at = first * line.length;
             const double end = last * line.length;
             // Where there are too many dashes, or numbers too large to tell them apart, there is one.
-            m_patterns += (end - at) / total;
-            const bool dashed = m_patterns < kMostPatterns && at + total > at;
+            m_patterns += (end - at) / total * effort;
+            const bool dashed = m_patterns < kMostPatterns && total > end * finest;
             if (sought != done + at) {
                 pattern.Seek(offset + done + at, total);
                 start = i == 0 && at == 0 ? startEnd : dashEnd;

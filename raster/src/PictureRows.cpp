@@ -4,6 +4,10 @@
 
 namespace raster {
 
+namespace {
+constexpr int64_t kMostKept = int64_t{1} << 24;  // pixels of a picture as large as it is
+}
+
 PictureRows::PictureRows(const Surface& picture, int factorX, int factorY, Wrap wrap,
                          const ColorEffects* effects, Color outside)
     : m_picture(picture),
@@ -15,10 +19,18 @@ PictureRows::PictureRows(const Surface& picture, int factorX, int factorY, Wrap 
       m_effects(effects && !effects->Empty() ? effects : nullptr),
       m_outside(Premultiply(outside)),
       m_direct(picture.format == Format::Premultiplied32 && !m_effects && !IsReduced()) {
-    if (!IsReduced())
-        return;
+    if (IsReduced())
+        MakeCopy();
+}
+
+void PictureRows::Keep() {
+    if (!m_direct && !m_copy && static_cast<int64_t>(m_width) * m_height <= kMostKept)
+        MakeCopy();
+}
+
+void PictureRows::MakeCopy() {
     m_blocks = (m_width + kBlock - 1) / kBlock;
-    m_reduced = std::make_unique_for_overwrite<uint32_t[]>(static_cast<size_t>(m_width) * m_height);
+    m_copy = std::make_unique_for_overwrite<uint32_t[]>(static_cast<size_t>(m_width) * m_height);
     m_there.resize(static_cast<size_t>(m_blocks) * m_height);
 }
 
@@ -79,12 +91,10 @@ const uint32_t* PictureRows::Row(int64_t y, int64_t left, int64_t right) {
 
 // Pixels that are in the picture.
 void PictureRows::Load(int x, int y, int count, uint32_t* to) {
-    if (IsReduced()) {
-        for (int block = x / kBlock; block * kBlock < x + count; ++block) {
-            if (!m_there[static_cast<size_t>(y) * m_blocks + block])
-                Reduce(block, y);
-        }
-        std::copy_n(&m_reduced[static_cast<size_t>(y) * m_width + x], count, to);
+    if (m_copy) {
+        for (int block = x / kBlock; block * kBlock < x + count; ++block)
+            PixelAt(block * kBlock, y);
+        std::copy_n(&m_copy[static_cast<size_t>(y) * m_width + x], count, to);
         return;
     }
     LoadPixels(m_picture, x, y, count, to);
@@ -92,13 +102,19 @@ void PictureRows::Load(int x, int y, int count, uint32_t* to) {
         m_effects->ApplyTo({to, static_cast<size_t>(count)});
 }
 
-void PictureRows::Reduce(int block, int y) {
+void PictureRows::Fill(int block, int y) {
     m_there[static_cast<size_t>(y) * m_blocks + block] = true;
+    uint32_t* to = &m_copy[static_cast<size_t>(y) * m_width];
+    const int first = block * kBlock, end = std::min(m_width, first + kBlock);
+    if (!IsReduced()) {
+        LoadPixels(m_picture, first, y, end - first, to + first);
+        if (m_effects)
+            m_effects->ApplyTo({to + first, static_cast<size_t>(end - first)});
+        return;
+    }
     const int bottom = std::min(m_picture.height, (y + 1) * m_factorY);
-    const int end = std::min(m_width, (block + 1) * kBlock);
-    for (int x = block * kBlock; x < end; ++x)
-        m_reduced[static_cast<size_t>(y) * m_width + x] =
-            Mean(x * m_factorX, y * m_factorY, std::min(m_picture.width, (x + 1) * m_factorX), bottom);
+    for (int x = first; x < end; ++x)
+        to[x] = Mean(x * m_factorX, y * m_factorY, std::min(m_picture.width, (x + 1) * m_factorX), bottom);
 }
 
 Color PictureRows::Mean(int left, int top, int right, int bottom) const {

@@ -13,19 +13,23 @@ public:
     PictureRows(const Surface& picture, int factorX, int factorY, Wrap wrap, const ColorEffects* effects,
                 Color outside);
 
+    /// Has pixels kept once they were worked out, which pays when they are asked for one by one.
+    void Keep();
+
     /// The pixel at any place.
     Color Pixel(int64_t x, int64_t y) {
-        const bool inside = x >= 0 && x < m_width && y >= 0 && y < m_height;
-        if (inside && m_direct)
+        if (x >= 0 && x < m_width && y >= 0 && y < m_height && (m_direct || m_copy))
             return *PixelAt(static_cast<int>(x), static_cast<int>(y));
         return AnyPixel(x, y);
     }
     /// Two pixels and the two below them where they are in memory; nulls where they are not.
-    std::pair<const uint32_t*, const uint32_t*> Square(int64_t x, int64_t y) const {
-        if (!m_direct || x < 0 || x + 1 >= m_width || y < 0 || y + 1 >= m_height)
+    std::pair<const uint32_t*, const uint32_t*> Square(int64_t x, int64_t y) {
+        if (!(m_direct || m_copy) || x < 0 || x + 1 >= m_width || y < 0 || y + 1 >= m_height)
             return {nullptr, nullptr};
-        return {PixelAt(static_cast<int>(x), static_cast<int>(y)),
-                PixelAt(static_cast<int>(x), static_cast<int>(y) + 1)};
+        const int column = static_cast<int>(x), row = static_cast<int>(y);
+        PixelAt(column + 1, row);
+        PixelAt(column + 1, row + 1);
+        return {PixelAt(column, row), PixelAt(column, row + 1)};
     }
     /// Pixels [left, right) of a row; they stay until the next call but one.
     const uint32_t* Row(int64_t y, int64_t left, int64_t right);
@@ -42,14 +46,20 @@ private:
     int WrapY(int64_t y) const {
         return Wrapped(y, m_height, m_wrap == Wrap::FlipY || m_wrap == Wrap::FlipXY);
     }
-    const uint32_t* PixelAt(int x, int y) const {
-        return reinterpret_cast<const uint32_t*>(m_picture.At(x, y));
+    // A pixel of the picture or the copy, which has it and its block from then on.
+    const uint32_t* PixelAt(int x, int y) {
+        if (m_direct)
+            return reinterpret_cast<const uint32_t*>(m_picture.At(x, y));
+        if (!m_there[static_cast<size_t>(y) * m_blocks + x / kBlock])
+            Fill(x / kBlock, y);
+        return &m_copy[static_cast<size_t>(y) * m_width + x];
     }
+    void MakeCopy();
     Color AnyPixel(int64_t x, int64_t y);
     int Wrapped(int64_t at, int64_t size, bool flips) const;
     bool IsReduced() const { return m_factorX > 1 || m_factorY > 1; }
     void Load(int x, int y, int count, uint32_t* to);
-    void Reduce(int x, int y);
+    void Fill(int block, int y);
     Color Mean(int x, int y, int right, int bottom) const;
 
     Surface m_picture;
@@ -63,11 +73,11 @@ private:
     std::array<Kept, 4> m_kept;
     size_t m_next = 0;  // of m_kept to be used again
 
-    // The smaller picture, whose memory is not touched before it is needed, and which of its blocks of a row
-    // are there.
+    // The pixels that were worked out, in memory that is not touched before it is needed, and which of their
+    // blocks of a row are there. Always for a picture made smaller.
     static constexpr int kBlock = 64;
     int m_blocks = 0;
-    std::unique_ptr<uint32_t[]> m_reduced;
+    std::unique_ptr<uint32_t[]> m_copy;
     std::vector<bool> m_there;
 };
 

@@ -387,13 +387,17 @@ void Stroker::AddCap(Point at, Point outward, Cap cap, double left, double right
     }
 }
 
+int Stroker::ArcPieces(double radius, double turn) const {
+    const double step = std::max(std::sqrt(8 * m_tolerance / radius), kFinestTurn);
+    return static_cast<int>(std::max(std::ceil(std::abs(turn) / step), 1.0));
+}
+
 // The points between the ends of an arc.
 void Stroker::AddArc(Point centre, Point from, double turn) {
     const double radius = Length(from);
     if (!(radius > 0))
         return;
-    const double step = std::max(std::sqrt(8 * m_tolerance / radius), kFinestTurn);
-    const int pieces = static_cast<int>(std::max(std::ceil(std::abs(turn) / step), 1.0));
+    const int pieces = ArcPieces(radius, turn);
     // As in a flattened curve, a little outside.
     const Point start = from * (1 + 2.0 / 3 * (1 - std::cos(turn / pieces / 2)));
     for (int i = 1; i < pieces; ++i)

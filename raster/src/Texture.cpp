@@ -135,6 +135,7 @@ bool Texture::AlongRows(Point start, int count, uint32_t* out) const {
 }
 
 void Texture::AnyWay(Point start, int count, uint32_t* out) const {
+    m_rows->Keep();
     for (int i = 0; i < count; ++i) {
         const Point at = start + Point{m_inverse.m11, m_inverse.m12} * i;
         if (m_sampling == Sampling::Nearest)
