@@ -1,6 +1,6 @@
 #include "raster/Rasterizer.h"
 
-#include "CoverageBlock.h"
+#include "Cover.h"
 
 #include <bit>
 #include <numeric>
@@ -9,88 +9,14 @@ namespace raster {
 
 namespace {
 
-constexpr int kUnit = 256;                  // of a coordinate to a pixel
 constexpr int kBandCells = 1 << 16;         // 256 kB: stays in the second cache
-constexpr size_t kManyEdges = 48;           // in one row: cut into 16 strips at most
-constexpr size_t kMostEdges = 1000;         // and with more of them not at all
 constexpr int64_t kOne = int64_t{1} << 32;  // fraction of positions that go down an edge
-
-// The pixel in which a coordinate lies.
-int PixelOf(int fixed) {
-    return fixed >> 8;
-}
-int64_t FloorDivide(int64_t a, int64_t b) {
-    const int64_t quotient = a / b;
-    return quotient * b > a ? quotient - 1 : quotient;
-}
-
-// Of 2^32; a division of doubles takes half the time.
-int64_t Slope(int rise, int run) {
-    return static_cast<int64_t>(rise * 4294967296.0 / run);
-}
 
 int ToFixed(double value) {
     return static_cast<int>(std::lrint(value * kUnit));
 }
 
-// x of an edge at a height, in 1/256.
-template <class Edge>
-int At(const Edge& edge, int y) {
-    if (y <= edge.y0)
-        return edge.x0;
-    if (y >= edge.y1)
-        return edge.x1;
-    return edge.x0 + static_cast<int>(FloorDivide(
-                         static_cast<int64_t>(edge.x1 - edge.x0) * (y - edge.y0) * 2 + (edge.y1 - edge.y0),
-                         int64_t{2} * (edge.y1 - edge.y0)));
-}
-
-bool Inside(int winding, FillRule rule) {
-    return rule == FillRule::Winding ? winding != 0 : (winding & 1) != 0;
-}
-
-// How often a chain turns back in one coordinate.
-class Reversals {
-public:
-    void Add(int direction) {
-        if (direction == 0)
-            return;
-        if (m_last == 0)
-            m_first = direction;
-        else if (direction != m_last)
-            ++m_count;
-        m_last = direction;
-    }
-    int Count() const { return m_count + (m_first != m_last ? 1 : 0); }
-
-private:
-    int m_first = 0, m_last = 0, m_count = 0;
-};
-
 }  // namespace
-
-bool IsConvex(std::span<const Chains::Vertex> chain) {
-    const auto sign = [](double value, double least) { return value > least ? 1 : value < -least ? -1 : 0; };
-    const size_t count = chain.size();
-    Point before = chain[0].at - chain[count - 1].at;
-    int turn = 0;
-    Reversals across, down;
-    for (size_t i = 0; i < count; ++i) {
-        const Point after = chain[i + 1 < count ? i + 1 : 0].at - chain[i].at;
-        // What rounding to the grid may turn the other way is straight.
-        const double straight =
-            (std::abs(before.x) + std::abs(before.y) + std::abs(after.x) + std::abs(after.y)) / kUnit;
-        const int turned = sign(Cross(before, after), straight);
-        if (turned * turn < 0 || (turned == 0 && Dot(before, after) < 0))
-            return false;
-        if (turned != 0)
-            turn = turned;
-        across.Add(sign(after.x, 0));
-        down.Add(sign(after.y, 0));
-        before = after;
-    }
-    return across.Count() <= 2 && down.Count() <= 2;
-}
 
 void Rasterizer::Begin(const IntRect& clip) {
     m_clip = Intersect(clip, {-kFarthestPixel, -kFarthestPixel, kFarthestPixel, kFarthestPixel});
@@ -242,83 +168,6 @@ void Rasterizer::Finish(FillRule rule, Edges edges, RowSink& sink) {
     m_edges.clear();
 }
 
-inline Rasterizer::BandRow Rasterizer::InBand(int row) {
-    const auto index = static_cast<size_t>(row - m_top);
-    return {&m_cells[index * m_stride], &m_touched[index * m_words]};
-}
-
-inline void Rasterizer::BandRow::Mark(int first, int last) const {
-    const auto mark = [this](unsigned block) { touched[block / 64] |= uint64_t{1} << (block % 64); };
-    unsigned block = static_cast<unsigned>(first) / kBlock;
-    const unsigned end = static_cast<unsigned>(last) / kBlock;
-    mark(block);
-    while (block < end)
-        mark(++block);
-}
-
-// Adds the area to the right of a line of `height` (negative when the figure goes up) within one row.
-// `slope` is that of the line's height to its width, or 0 when it is not known.
-inline void Rasterizer::Cover(const BandRow& row, int x0, int x1, int height, int64_t slope) {
-    // From left to right, whichever way the line goes down.
-    const int from = std::min(x0, x1) - m_left * kUnit, to = std::max(x0, x1) - m_left * kUnit;
-    const int cell = PixelOf(from);
-    if (cell != PixelOf(to) || cell < 0) {
-        CoverMany(row, from, to, height, slope);
-        return;
-    }
-    if (cell >= m_columns)
-        return;
-    const int area = height * (from + to - 2 * cell * kUnit);
-    row.cells[cell] += height * (2 * kUnit) - area;
-    row.cells[cell + 1] += area;
-    row.Mark(cell, cell + 1);
-}
-
-// The same for a line from `x0` to `x1`, counted from the first cell, that leaves its cell or lies before
-// all.
-[[gnu::always_inline]] inline void Rasterizer::CoverMany(const BandRow& row, int x0, int x1, int height,
-                                                         int64_t slope) {
-    int* cells = row.cells;
-    if (x1 <= 0) {
-        cells[0] += height * (2 * kUnit);
-        row.Mark(0, 0);
-        return;
-    }
-    int cell = PixelOf(x0);
-    const int last = PixelOf(x1);
-    if (cell >= m_columns)
-        return;
-    if (slope == 0)
-        slope = Slope(height, x1 - x0);
-    int inset = x0 - (cell - 1) * kUnit;  // of both ends of the part in a cell
-    int done = 0;
-    int carried = 0;  // the change that belongs to the next cell
-    if (cell < 0) {
-        done = static_cast<int>(slope * -x0 >> 32);
-        cells[0] += done * (2 * kUnit);
-        cell = 0;
-        inset = kUnit;
-    }
-    const int end = std::min(last, m_columns);
-    row.Mark(cell, std::min(last + 1, m_columns));
-    int64_t reached = slope * ((cell + 1) * kUnit - x0);
-    for (; cell < end; ++cell, reached += slope * kUnit) {
-        const int now = static_cast<int>(reached >> 32), high = now - done;
-        const int area = high * inset;
-        cells[cell] += carried + high * (2 * kUnit) - area;
-        carried = area;
-        done = now;
-        inset = kUnit;
-    }
-    if (last < m_columns) {
-        const int high = height - done, area = high * (x1 - last * kUnit);
-        cells[last] += carried + high * (2 * kUnit) - area;
-        cells[last + 1] += area;
-    } else {
-        cells[cell] += carried;
-    }
-}
-
 void Rasterizer::AddSmooth(const Edge& edge) {
     const int top = std::max(edge.y0, m_top * kUnit), bottom = std::min(edge.y1, m_bottom * kUnit);
     if (top >= bottom)
@@ -367,73 +216,6 @@ void Rasterizer::AddSharp(const Edge& edge) {
         const BandRow at = InBand(row);
         at.cells[cell] += edge.direction * kWhole;
         at.Mark(cell, cell);
-    }
-}
-
-// Where figures overlap areas do not add up. Going down strip by strip, only those edges count that lead
-// from outside to inside or back.
-void Rasterizer::SweepBand(FillRule rule) {
-    for (int row = m_top; row < m_bottom; ++row) {
-        const int top = row * kUnit, bottom = top + kUnit;
-        std::erase_if(m_active, [&](size_t edge) { return m_edges[edge].y1 <= top; });
-        for (; m_next < m_edges.size() && m_edges[m_next].y0 < bottom; ++m_next)
-            m_active.push_back(m_next);
-        if (!m_active.empty())
-            SweepRow(row, rule);
-    }
-}
-
-void Rasterizer::SweepRow(int row, FillRule rule) {
-    const int top = row * kUnit, bottom = top + kUnit;
-    const size_t edges = m_active.size();
-    const int least = edges > kMostEdges ? kUnit : edges > kManyEdges ? kUnit / 16 : 1;
-    m_heights.assign({top, bottom});
-    for (const size_t active : m_active) {
-        for (const int y : {m_edges[active].y0, m_edges[active].y1}) {
-            if (y > top && y < bottom)
-                m_heights.push_back(y - (y - top) % least);
-        }
-    }
-    std::sort(m_heights.begin(), m_heights.end());
-    m_heights.erase(std::unique(m_heights.begin(), m_heights.end()), m_heights.end());
-    for (size_t i = 0; i + 1 < m_heights.size(); ++i)
-        SweepStrip(row, m_heights[i], m_heights[i + 1], least, rule);
-}
-
-void Rasterizer::SweepStrip(int row, int top, int bottom, int least, FillRule rule) {
-    m_pieces.clear();
-    for (const size_t active : m_active) {
-        const Edge& edge = m_edges[active];
-        if (2 * edge.y0 <= top + bottom && 2 * edge.y1 > top + bottom)
-            m_pieces.push_back({At(edge, top), At(edge, bottom), edge.direction});
-    }
-    std::sort(m_pieces.begin(), m_pieces.end(),
-              [](const Piece& a, const Piece& b) { return a.top + a.bottom < b.top + b.bottom; });
-    if (bottom - top > least) {
-        for (size_t i = 0; i + 1 < m_pieces.size(); ++i) {
-            const int above = m_pieces[i + 1].top - m_pieces[i].top;
-            const int below = m_pieces[i + 1].bottom - m_pieces[i].bottom;
-            if (above >= 0 && below >= 0)
-                continue;
-            // They cross in this strip: once more, above and below that.
-            const int height = static_cast<int>(static_cast<int64_t>(bottom - top) * std::abs(above) /
-                                                (std::abs(above) + std::abs(below)));
-            const int middle =
-                top + std::clamp(height / least * least, least, std::max(least, bottom - top - least));
-            if (middle >= bottom)
-                break;
-            SweepStrip(row, top, middle, least, rule);
-            SweepStrip(row, middle, bottom, least, rule);
-            return;
-        }
-    }
-    int winding = 0;
-    for (const Piece& piece : m_pieces) {
-        const bool before = Inside(winding, rule);
-        winding += piece.direction;
-        const bool after = Inside(winding, rule);
-        if (before != after)
-            Cover(InBand(row), piece.top, piece.bottom, after ? bottom - top : top - bottom, 0);
     }
 }
 
