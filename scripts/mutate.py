@@ -42,12 +42,14 @@ struct MutantSwitch {
     int chosen;
     unsigned char* passed;  // shared by all modules of the process
     MutantSwitch() {
+        const DWORD error = ::GetLastError();
         const char* text = ::getenv("TESSEL_MUTANT");
         chosen = text ? ::atoi(text) : -1;
         char name[32];
         ::wsprintfA(name, "tessel_mutant_%lu", ::GetCurrentProcessId());
         HANDLE map = ::CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, 65536, name);
         passed = static_cast<unsigned char*>(::MapViewOfFile(map, FILE_MAP_ALL_ACCESS, 0, 0, 0));
+        ::SetLastError(error);  // a test may look at it
     }
     static MutantSwitch& Get() {
         static MutantSwitch one;

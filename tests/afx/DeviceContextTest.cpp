@@ -50,6 +50,100 @@ TEST(DeviceContext, AnisotropicMappingConvertsBothWays) {
     EXPECT_EQ(MM_ANISOTROPIC, dc.GetMapMode());
 }
 
+LONG Both(const POINT& point) {
+    return MAKELONG(point.x, point.y);
+}
+LONG Both(const SIZE& size) {
+    return MAKELONG(size.cx, size.cy);
+}
+
+TEST(DeviceContext, TwoHandlesStayInStepAndTheAttributesAnswer) {
+    const HDC handles[] = {::CreateCompatibleDC(nullptr), ::CreateCompatibleDC(nullptr)};
+    const struct {
+        LONG (*set)(CDC&, int);
+        LONG (*get)(CDC&);
+        int output, attributes, both;
+    } rows[] = {
+        {[](CDC& dc, int v) { return LONG(dc.SetBkColor(v)); }, [](CDC& dc) { return LONG(dc.GetBkColor()); },
+         1, 2, 3},
+        {[](CDC& dc, int v) { return LONG(dc.SetTextColor(v)); },
+         [](CDC& dc) { return LONG(dc.GetTextColor()); }, 1, 2, 3},
+        {[](CDC& dc, int v) { return LONG(dc.SetBkMode(v)); }, [](CDC& dc) { return LONG(dc.GetBkMode()); },
+         2, 1, 2},
+        {[](CDC& dc, int v) { return LONG(dc.SetROP2(v)); },
+         [](CDC& dc) { return LONG(::GetROP2(dc.m_hAttribDC)); }, 4, 5, 6},
+        {[](CDC& dc, int v) { return LONG(dc.SetStretchBltMode(v)); },
+         [](CDC& dc) { return LONG(::GetStretchBltMode(dc.m_hAttribDC)); }, 1, 2, 3},
+        {[](CDC& dc, int v) { return LONG(dc.SetTextAlign(v)); },
+         [](CDC& dc) { return LONG(::GetTextAlign(dc.m_hAttribDC)); }, 2, 6, 8},
+        {[](CDC& dc, int v) { return LONG(dc.SetMapMode(v)); }, [](CDC& dc) { return LONG(dc.GetMapMode()); },
+         2, 3, 8},
+        {[](CDC& dc, int v) { return Both(dc.SetWindowExt(v, v + 1)); },
+         [](CDC& dc) { return Both(dc.GetWindowExt()); }, 10, 20, 30},
+        {[](CDC& dc, int v) { return Both(dc.SetViewportExt(v, v + 1)); },
+         [](CDC& dc) { return Both(dc.GetViewportExt()); }, 10, 20, 30},
+        {[](CDC& dc, int v) { return Both(dc.SetWindowOrg(v, v + 1)); },
+         [](CDC& dc) { return Both(dc.GetWindowOrg()); }, 10, 20, 30},
+        {[](CDC& dc, int v) { return Both(dc.SetViewportOrg(v, v + 1)); },
+         [](CDC& dc) { return Both(dc.GetViewportOrg()); }, 10, 20, 30},
+        {[](CDC& dc, int v) { return Both(dc.MoveTo(v, v + 1)); },
+         [](CDC& dc) {
+             POINT at;
+             ::GetCurrentPositionEx(dc.m_hAttribDC, &at);
+             return Both(at);
+         },
+         10, 20, 30},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        LONG values[2];
+        CDC one[2];
+        for (int i = 0; i < 2; ++i) {
+            one[i].Attach(handles[i]);
+            one[i].SetMapMode(MM_ANISOTROPIC);
+            row.set(one[i], i ? row.attributes : row.output);
+            values[i] = row.get(one[i]);
+        }
+        EXPECT_NE(values[0], values[1]);
+        CDC dc;
+        dc.SetOutputDC(handles[0]);
+        dc.SetAttribDC(handles[1]);
+        EXPECT_EQ(values[1], row.get(dc));
+        const int saved = dc.SaveDC();
+        EXPECT_EQ(values[1], row.set(dc, row.both));
+        EXPECT_EQ(row.get(one[0]), row.get(one[1]));
+        EXPECT_NE(values[1], row.get(dc));
+        EXPECT_TRUE(dc.RestoreDC(saved));
+        for (int i = 0; i < 2; ++i)
+            EXPECT_EQ(values[i], row.get(one[i]));
+        EXPECT_TRUE(dc.LineTo(7, 9));
+        POINT at[2];
+        for (int i = 0; i < 2; ++i)
+            ::GetCurrentPositionEx(handles[i], &at[i]);
+        EXPECT_TRUE(at[0].x == 7 && at[0].y == 9 && at[1].x == 7 && at[1].y == 9);
+        CRgn clip;
+        clip.CreateRectRgn(1, 2, 3, 4);
+        for (int result : {dc.SelectClipRgn(&clip), dc.SelectClipRgn(nullptr)})
+            EXPECT_EQ(SIMPLEREGION, result);
+        CPen pen(PS_SOLID, 1, 0);
+        CPen* before = dc.SelectObject(&pen);
+        EXPECT_EQ(::GetCurrentObject(handles[0], OBJ_PEN), pen.m_hObject);
+        EXPECT_EQ(&pen, dc.SelectObject(before));
+        EXPECT_NE(nullptr, dc.SelectStockObject(WHITE_PEN));
+        EXPECT_EQ(::GetStockObject(WHITE_PEN), ::GetCurrentObject(handles[0], OBJ_PEN));
+        EXPECT_EQ(nullptr, dc.SelectObject(static_cast<CGdiObject*>(nullptr)));
+        dc.Detach();
+        for (CDC& each : one)
+            each.Detach();
+    }
+    for (HDC handle : handles)
+        ::DeleteDC(handle);
+    CDC none;
+    EXPECT_FALSE(none.Attach(nullptr) || none.DeleteDC());
+    EXPECT_EQ(nullptr, CDC::FromHandle(nullptr));
+    EXPECT_EQ(COLORREF(0), none.SetBkColor(5));
+}
+
 TEST(DeviceContext, DrawsPixels) {
     MemoryContext memory;
     CDC& dc = memory.dc;
@@ -82,6 +176,22 @@ TEST(DeviceContext, DrawsPixels) {
     dc.Draw3dRect(CRect(0, 0, 64, 64), RGB(9, 9, 9), RGB(8, 8, 8));
     EXPECT_EQ(RGB(9, 9, 9), dc.GetPixel(0, 10));
     EXPECT_EQ(RGB(8, 8, 8), dc.GetPixel(63, 10));
+    const struct {
+        CPoint at;
+        COLORREF color;
+    } corners[] = {{{0, 0}, RGB(9, 9, 9)},   {{62, 0}, RGB(9, 9, 9)}, {{63, 0}, RGB(8, 8, 8)},
+                   {{62, 1}, RGB(7, 7, 7)},  {{0, 62}, RGB(9, 9, 9)}, {{0, 63}, RGB(8, 8, 8)},
+                   {{63, 63}, RGB(8, 8, 8)}, {{5, 63}, RGB(8, 8, 8)}, {{62, 20}, RGB(1, 2, 3)},
+                   {{1, 1}, RGB(1, 2, 3)},   {{40, 62}, RGB(1, 2, 3)}};
+    dc.FillSolidRect(1, 1, 62, 62, RGB(1, 2, 3));
+    dc.FillSolidRect(62, 1, 1, 1, RGB(7, 7, 7));
+    for (const auto& c : corners)
+        EXPECT_EQ(c.color, dc.GetPixel(c.at)) << c.at.x << ' ' << c.at.y;
+    EXPECT_TRUE(dc.TextOut(3, 3, _T("H")));
+    CRect needed(0, 0, 1, 1);
+    EXPECT_GT(dc.DrawText(_T("wide"), needed, DT_CALCRECT), 5);
+    EXPECT_EQ(needed.Size(), dc.GetTextExtent(_T("wide")));
+    EXPECT_LT(dc.GetTextExtent(_T("wide"), 1).cx, needed.Width());
 }
 
 TEST(GraphicsObjects, AreDeletedWithTheirWrapper) {
@@ -106,12 +216,41 @@ TEST(GraphicsObjects, AreDeletedWithTheirWrapper) {
         EXPECT_EQ(0u, ::GetObjectType(handle));
 }
 
-TEST(GraphicsObjects, StockObjectsSurviveTheirWrapper) {
+TEST(GraphicsObjects, HandlesOfOthersGetAnObjectOfTheirKind) {
     {
         CPen pen;
         ASSERT_TRUE(pen.CreateStockObject(BLACK_PEN));
     }
     EXPECT_EQ(static_cast<UINT>(OBJ_PEN), ::GetObjectType(::GetStockObject(BLACK_PEN)));
+    const LOGBRUSH look{BS_SOLID, 0, 0};
+    const std::pair<HGDIOBJ, CRuntimeClass*> kinds[] = {
+        {::CreatePen(PS_DOT, 1, 0), RUNTIME_CLASS(CPen)},
+        {::ExtCreatePen(PS_GEOMETRIC, 2, &look, 0, nullptr), RUNTIME_CLASS(CPen)},
+        {::CreateSolidBrush(1), RUNTIME_CLASS(CBrush)},
+        {::CreateBitmap(2, 2, 1, 1, nullptr), RUNTIME_CLASS(CBitmap)},
+        {::CreateRectRgn(0, 0, 1, 1), RUNTIME_CLASS(CRgn)},
+        {::CreateFontW(9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, L""), RUNTIME_CLASS(CFont)},
+        {::CreateCompatibleDC(nullptr), RUNTIME_CLASS(CGdiObject)},
+    };
+    for (const auto& [handle, kind] : kinds) {
+        CGdiObject* object = CGdiObject::FromHandle(handle);
+        EXPECT_EQ(kind, object->GetRuntimeClass());
+        EXPECT_EQ(object, CGdiObject::FromHandle(handle)) << "the same until the next idle time";
+        ::DeleteObject(handle);
+    }
+    CGdiObject::DeleteTempMap();
+    ::DeleteDC(static_cast<HDC>(kinds[6].first));
+    CBitmap bitmap;
+    CClientDC screen(nullptr);
+    EXPECT_FALSE(bitmap.Attach(nullptr) || bitmap.DeleteObject() || bitmap.LoadBitmap(999));
+    EXPECT_EQ(nullptr, CGdiObject::FromHandle(nullptr));
+    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 5, 7));
+    BITMAP made;
+    bitmap.GetBitmap(&made);
+    EXPECT_TRUE(made.bmWidth == 5 && made.bmHeight == 7);
+    CBrush brush;
+    EXPECT_TRUE(brush.CreatePatternBrush(&bitmap));
+    EXPECT_EQ(&bitmap, CGdiObject::FromHandle(bitmap));
 }
 
 TEST(GraphicsObjects, RegionsAnswer) {
@@ -127,6 +266,7 @@ TEST(GraphicsObjects, RegionsAnswer) {
     EXPECT_EQ(COMPLEXREGION, both.CombineRgn(&ellipse, &half, RGN_AND));
     EXPECT_FALSE(both.PtInRegion(60, 50));
     EXPECT_EQ(NULLREGION, both.CombineRgn(&half, &half, RGN_DIFF));
+    EXPECT_EQ(SIMPLEREGION, both.CombineRgn(&half, nullptr, RGN_COPY));
 }
 
 /// Paints with everything a paint handler uses.

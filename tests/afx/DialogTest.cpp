@@ -146,13 +146,11 @@ struct TestFolder {
     ~TestFolder() { ::RemoveDirectory(path); }
 };
 
-class FileDialogTest : public testing::TestWithParam<BOOL> {};
-
-TEST_P(FileDialogTest, GivesTheChosenPath) {
+TEST(FileDialog, GivesTheChosenPath) {
     TestFolder folder;
     CString wanted = folder.path + _T("\\새 page.cbf");
     CFileDialog dialog(FALSE, _T("cbf"), wanted, OFN_OVERWRITEPROMPT,
-                       _T("Pages (*.cbf)|*.cbf|All (*.*)|*.*||"), nullptr, 0, GetParam());
+                       _T("Pages (*.cbf)|*.cbf|All (*.*)|*.*||"));
     DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDOK, 0); });
     ASSERT_EQ(IDOK, dialog.DoModal());
     EXPECT_EQ(1u, user.Shown());
@@ -164,26 +162,12 @@ TEST_P(FileDialogTest, GivesTheChosenPath) {
     EXPECT_EQ(1u, dialog.m_ofn.nFilterIndex);
 }
 
-TEST_P(FileDialogTest, CanBeCancelled) {
-    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST, nullptr, nullptr, 0, GetParam());
+TEST(FileDialog, CanBeCancelled) {
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_FILEMUSTEXIST);
     DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDCANCEL, 0); });
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
     EXPECT_EQ(1u, user.Shown());
     EXPECT_TRUE(dialog.GetPathName().IsEmpty());
-}
-
-INSTANTIATE_TEST_SUITE_P(NewAndOldStyle, FileDialogTest, testing::Values(TRUE, FALSE));
-
-TEST(CommonDialogs, ColourAndFontComeBack) {
-    CColorDialog colour(RGB(10, 20, 30));
-    {
-        DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDOK, 0); });
-        EXPECT_EQ(IDOK, colour.DoModal());
-    }
-    EXPECT_EQ(RGB(10, 20, 30), colour.GetColor());
-    CFontDialog font;
-    DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDCANCEL, 0); });
-    EXPECT_EQ(IDCANCEL, font.DoModal());
 }
 
 }  // namespace

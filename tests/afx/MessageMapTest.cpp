@@ -44,6 +44,53 @@ protected:
         Note(Text("colour", kind));
         return static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH));
     }
+    UINT OnGetDlgCode() {
+        Note("dialog");
+        return 0x1234;
+    }
+    BOOL OnQueryEndSession() {
+        Note("query");
+        return 1;
+    }
+    LRESULT OnNcHitTest(CPoint p) {
+        Note(Text("hit", p.x, p.y));
+        return 18;
+    }
+    void OnEnable(BOOL on) { Note(Text("enable", on)); }
+    void OnShowWindow(BOOL shown, UINT why) { Note(Text("show", shown, why)); }
+    void OnNcCalcSize(BOOL all, NCCALCSIZE_PARAMS* data) {
+        Note(Text("frame", all, reinterpret_cast<UINT_PTR>(data)));
+    }
+    void OnGetMinMaxInfo(MINMAXINFO* info) { Note(Text("limits", reinterpret_cast<UINT_PTR>(info))); }
+    void OnMenuSelect(UINT item, UINT flags, HMENU menu) {
+        Note(Text("select", item, flags, reinterpret_cast<UINT_PTR>(menu)));
+    }
+    void OnInitMenuPopup(CMenu* menu, UINT index, BOOL system) {
+        Note(Text("popup", menu == nullptr, index, system));
+    }
+    int OnMouseActivate(CWnd* top, UINT hit, UINT message) {
+        Note(Text("click", top == this, hit, message));
+        return MA_NOACTIVATE;
+    }
+    BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data) {
+        Note(Text("data", from == this, data->dwData));
+        return 1;
+    }
+    void OnDropFiles(HDROP files) { Note(Text("drop", reinterpret_cast<UINT_PTR>(files))); }
+    void OnRawInput(UINT code, HRAWINPUT input) {
+        Note(Text("input", code, reinterpret_cast<UINT_PTR>(input)));
+    }
+    void OnSettingChange(UINT what, LPCTSTR where) { Note(Text("setting", what, where[0])); }
+    void OnMeasureItem(int id, LPMEASUREITEMSTRUCT item) { Note(Text("measure", id, item->itemID)); }
+    BOOL OnMaybe(UINT id) {
+        Note(Text("maybe", id));
+        return id == 221;
+    }
+    void OnClicks(UINT id) { Note(Text("clicks", id)); }
+    void OnHits(UINT id, NMHDR* header, LRESULT* result) {
+        Note(Text("hits", id, header->code == static_cast<UINT>(-13)));
+        *result = 43;
+    }
     void OnCommand1() { Note("command1"); }
     void OnRange(UINT id) { Note(Text("range", id)); }
     void OnChange() { Note("change"); }
@@ -87,6 +134,25 @@ BEGIN_MESSAGE_MAP(Recorder, CWnd)
     ON_WM_ACTIVATE()
     ON_WM_ERASEBKGND()
     ON_WM_CTLCOLOR()
+    ON_WM_GETDLGCODE()
+    ON_WM_QUERYENDSESSION()
+    ON_WM_NCHITTEST()
+    ON_WM_ENABLE()
+    ON_WM_SHOWWINDOW()
+    ON_WM_NCCALCSIZE()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_MENUSELECT()
+    ON_WM_INITMENUPOPUP()
+    ON_WM_MOUSEACTIVATE()
+    ON_WM_COPYDATA()
+    ON_WM_DROPFILES()
+    ON_WM_INPUT()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_MEASUREITEM()
+    ON_COMMAND_EX(220, &Recorder::OnMaybe)
+    ON_COMMAND_EX(221, &Recorder::OnMaybe)
+    ON_CONTROL_RANGE(BN_CLICKED, 310, 312, &Recorder::OnClicks)
+    ON_NOTIFY_RANGE(-13, 300, 301, &Recorder::OnHits)
     ON_COMMAND(101, &Recorder::OnCommand1)
     ON_COMMAND_RANGE(200, 210, &Recorder::OnRange)
     ON_EN_CHANGE(300, &Recorder::OnChange)
@@ -117,7 +183,13 @@ TEST(MessageMap, HandsEveryMessageItsArguments) {
     auto self = reinterpret_cast<WPARAM>(window.m_hWnd);
     CClientDC dc(&window);
     auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
-    NMHDR header{child.m_hWnd, 301, static_cast<UINT>(-12)};
+    NMHDR header{child.m_hWnd, 301, static_cast<UINT>(-12)}, inRange = header, nobody = header;
+    inRange.code = static_cast<UINT>(-13);
+    nobody.hwndFrom = nullptr;
+    COPYDATASTRUCT data{7, 0, nullptr};
+    MEASUREITEMSTRUCT item{};
+    item.CtlType = ODT_MENU;
+    item.itemID = 9;
     LPARAM point = MAKELPARAM(static_cast<WORD>(-3), 40);
     const struct {
         UINT message;
@@ -148,6 +220,30 @@ TEST(MessageMap, HandsEveryMessageItsArguments) {
         {WM_COMMAND, MAKEWPARAM(300, EN_CHANGE), static_cast<LPARAM>(self), 1, "change;"},
         {WM_COMMAND, MAKEWPARAM(300, EN_KILLFOCUS), static_cast<LPARAM>(self), 0, ""},
         {WM_NOTIFY, 301, reinterpret_cast<LPARAM>(&header), 42, "notify 1;"},
+        {WM_NOTIFY, 301, reinterpret_cast<LPARAM>(&inRange), 43, "hits 301 1;"},
+        {WM_NOTIFY, 301, reinterpret_cast<LPARAM>(&nobody), 0, ""},
+        {WM_GETDLGCODE, 0, 0, 0x1234, "dialog;"},
+        {WM_QUERYENDSESSION, 0, 0, 1, "query;"},
+        {WM_NCHITTEST, 0, point, 18, "hit -3 40;"},
+        {WM_ENABLE, 1, 0, 0, "enable 1;"},
+        {WM_SHOWWINDOW, 0, SW_PARENTCLOSING, 0, "show 0 1;"},
+        {WM_NCCALCSIZE, 1, 77, 0, "frame 1 77;"},
+        {WM_GETMINMAXINFO, 0, 78, 0, "limits 78;"},
+        {WM_MENUSELECT, MAKEWPARAM(5, 6), 79, 0, "select 5 6 79;"},
+        {WM_INITMENUPOPUP, 0, MAKELPARAM(3, 1), 0, "popup 1 3 1;"},
+        {WM_MOUSEACTIVATE, self, MAKELPARAM(HTCAPTION, WM_RBUTTONDOWN), MA_NOACTIVATE, "click 1 2 516;"},
+        {WM_COPYDATA, self, reinterpret_cast<LPARAM>(&data), 1, "data 1 7;"},
+        {WM_DROPFILES, 80, 0, 0, "drop 80;"},
+        {WM_INPUT, 0x101, 81, 0, "input 1 81;"},
+        {WM_SETTINGCHANGE, 4, reinterpret_cast<LPARAM>(L"A"), 0, "setting 4 65;"},
+        {WM_MEASUREITEM, 12, reinterpret_cast<LPARAM>(&item), 1, "measure 12 9;"},
+        {WM_CTLCOLORMSGBOX, context, 0, reinterpret_cast<LRESULT>(::GetStockObject(GRAY_BRUSH)), "colour 0;"},
+        {WM_COMMAND, 220, 0, 0, "maybe 220;"},
+        {WM_COMMAND, 221, 0, 1, "maybe 221;"},
+        {WM_COMMAND, 0, 0, 0, ""},
+        {WM_COMMAND, MAKEWPARAM(309, BN_CLICKED), static_cast<LPARAM>(self), 0, ""},
+        {WM_COMMAND, MAKEWPARAM(310, BN_CLICKED), static_cast<LPARAM>(self), 1, "clicks 310;"},
+        {WM_COMMAND, MAKEWPARAM(312, BN_CLICKED), static_cast<LPARAM>(self), 1, "clicks 312;"},
         {WM_APP + 1, 8, 9, 5, "own 8 9;"},
         {registeredMessage, 0, 0, 6, "registered;"},
     };
@@ -196,7 +292,11 @@ protected:
     void HScroll(UINT code, UINT position) {
         log += "scroll " + std::to_string(code) + " " + std::to_string(position) + ";";
     }
+    void VScroll(UINT code, UINT position) {
+        log += "vertical " + std::to_string(code) + " " + std::to_string(position) + ";";
+    }
     void DrawItem(LPDRAWITEMSTRUCT item) { log += "draw " + std::to_string(item->itemID) + ";"; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) { log += "measure " + std::to_string(item->itemID) + ";"; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -207,7 +307,9 @@ BEGIN_MESSAGE_MAP(Reflecting, CWnd)
     ON_NOTIFY_REFLECT_EX(-13, &Reflecting::OnMaybe)
     ON_WM_CTLCOLOR_REFLECT()
     ON_WM_HSCROLL_REFLECT()
+    ON_WM_VSCROLL_REFLECT()
     ON_WM_DRAWITEM_REFLECT()
+    ON_WM_MEASUREITEM_REFLECT()
 END_MESSAGE_MAP()
 
 /// A parent with handlers for the same.
@@ -246,6 +348,13 @@ TEST(Reflection, ShowsTheControlWhatItsParentIsTold) {
     DRAWITEMSTRUCT item{};
     item.itemID = 6;
     item.hwndItem = control;
+    MEASUREITEMSTRUCT size{};
+    size.CtlID = 51;
+    size.itemID = 7;
+    MEASUREITEMSTRUCT ofMenu = size;
+    ofMenu.CtlType = ODT_MENU;
+    DRAWITEMSTRUCT inMenu = item;
+    inMenu.CtlType = ODT_MENU;
     CClientDC dc(&control);
     const auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
     const struct {
@@ -264,7 +373,11 @@ TEST(Reflection, ShowsTheControlWhatItsParentIsTold) {
         {WM_CTLCOLOREDIT, context, window, "colour 1;", "", "", reinterpret_cast<LRESULT>(Reflecting::brush),
          -1},
         {WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 70), window, "scroll 5 70;", "", "", 0, 0},
+        {WM_VSCROLL, MAKEWPARAM(SB_THUMBTRACK, 71), window, "vertical 5 71;", "", "", 0, 0},
         {WM_DRAWITEM, 51, reinterpret_cast<LPARAM>(&item), "draw 6;", "", "", 1, 1},
+        {WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&inMenu), "", "", "", -1, -1},
+        {WM_MEASUREITEM, 51, reinterpret_cast<LPARAM>(&size), "measure 7;", "", "", 1, 1},
+        {WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&ofMenu), "", "", "", -1, -1},
     };
     for (bool passesOn : {false, true}) {
         control.passesOn = passesOn;
@@ -278,107 +391,6 @@ TEST(Reflection, ShowsTheControlWhatItsParentIsTold) {
             EXPECT_TRUE(expected == -1 || expected == answer) << &c - cases << ": " << answer;
         }
     }
-}
-
-/// A frame whose commands change what the menu shows.
-class MenuFrame : public CFrameWnd {
-public:
-    int ran = 0;
-    bool isAllowed = false;
-    bool isGone = false;
-
-protected:
-    void PostNcDestroy() override { isGone = true; }
-    void OnRun() { ++ran; }
-    void OnUpdateRun(CCmdUI* ui) { ui->Enable(isAllowed); }
-    void OnUpdateMode(CCmdUI* ui) { ui->SetRadio(ui->m_nID == 402); }
-    void OnUpdateText(CCmdUI* ui) {
-        ui->SetText(_T("실행 취소"));
-        ui->SetCheck();
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(MenuFrame, CFrameWnd)
-    ON_COMMAND(400, &MenuFrame::OnRun)
-    ON_UPDATE_COMMAND_UI(400, &MenuFrame::OnUpdateRun)
-    ON_UPDATE_COMMAND_UI_RANGE(401, 402, &MenuFrame::OnUpdateMode)
-    ON_COMMAND(403, &MenuFrame::OnRun)
-    ON_UPDATE_COMMAND_UI(403, &MenuFrame::OnUpdateText)
-    ON_COMMAND(404, &MenuFrame::OnRun)
-END_MESSAGE_MAP()
-
-TEST(MenuUpdate, PopupShowsWhatTheHandlersSay) {
-    MenuFrame frame;
-    ASSERT_TRUE(frame.Create(nullptr, _T("frame")));
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    for (UINT id = 400; id <= 405; ++id)
-        ASSERT_TRUE(menu.AppendMenu(MF_STRING, id, _T("Undo")));
-    frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
-    constexpr UINT greyed = MF_GRAYED | MF_DISABLED;
-    EXPECT_EQ(greyed, menu.GetMenuState(400, MF_BYCOMMAND) & greyed) << "its handler disables it";
-    EXPECT_EQ(0u, menu.GetMenuState(404, MF_BYCOMMAND) & greyed) << "has a command handler only";
-    EXPECT_EQ(greyed, menu.GetMenuState(405, MF_BYCOMMAND) & greyed) << "has no handler at all";
-    EXPECT_EQ(0u, menu.GetMenuState(401, MF_BYCOMMAND) & MF_CHECKED);
-    EXPECT_EQ(MF_CHECKED, static_cast<int>(menu.GetMenuState(402, MF_BYCOMMAND) & MF_CHECKED));
-    EXPECT_EQ(MF_CHECKED, static_cast<int>(menu.GetMenuState(403, MF_BYCOMMAND) & MF_CHECKED));
-    CString text;
-    EXPECT_EQ(5, menu.GetMenuString(403, text, MF_BYCOMMAND));
-    EXPECT_EQ(CString(_T("실행 취소")), text);
-    EXPECT_EQ(0, menu.GetMenuString(999, text, MF_BYCOMMAND));
-    EXPECT_TRUE(text.IsEmpty());
-    frame.DestroyWindow();
-    EXPECT_TRUE(frame.isGone);
-}
-
-TEST(MenuUpdate, MenusAreFoundByTheirHandles) {
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    HMENU handle = menu.m_hMenu;
-    EXPECT_EQ(&menu, CMenu::FromHandlePermanent(handle));
-    EXPECT_EQ(&menu, CMenu::FromHandle(handle));
-    EXPECT_EQ(handle, menu.Detach());
-    EXPECT_EQ(nullptr, CMenu::FromHandlePermanent(handle));
-    EXPECT_NE(&menu, CMenu::FromHandle(handle));
-    EXPECT_EQ(nullptr, CMenu::FromHandlePermanent(nullptr));
-    ::DestroyMenu(handle);
-}
-
-TEST(MenuUpdate, ControlsShowWhatTheHandlersSay) {
-    /// Counts the texts that it is given.
-    struct Label : CStatic {
-        int texts = 0;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            texts += message == WM_SETTEXT;
-            return CStatic::WindowProc(message, wParam, lParam);
-        }
-    } label;
-    CWnd parent;
-    ASSERT_TRUE(CreateHidden(parent));
-    ASSERT_TRUE(label.Create(_T("old"), WS_CHILD, CRect(0, 0, 9, 9), &parent, 7));
-    CCmdUI ui;
-    ui.m_pOther = &label;
-    ui.SetText(_T("old"));
-    EXPECT_EQ(0, label.texts) << "the same text would only flicker";
-    ui.SetText(_T("new"));
-    CString text;
-    label.GetWindowText(text);
-    EXPECT_EQ(CString(_T("new")), text);
-    EXPECT_EQ(1, label.texts);
-    ui.Enable(FALSE);
-    EXPECT_FALSE(label.IsWindowEnabled());
-}
-
-TEST(MenuUpdate, CommandThatIsDisabledDoesNotRun) {
-    MenuFrame frame;
-    ASSERT_TRUE(frame.Create(nullptr, _T("frame")));
-    frame.SendMessage(WM_COMMAND, 400);
-    EXPECT_EQ(0, frame.ran);
-    frame.isAllowed = true;
-    frame.SendMessage(WM_COMMAND, 400);
-    EXPECT_EQ(1, frame.ran);
-    frame.DestroyWindow();
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 #include <afxadv.h>
-#include <afxodlgs.h>
+#include <afxole.h>
 #include <gtest/gtest.h>
 
 #include "WindowSupport.h"
@@ -179,35 +179,6 @@ TEST_F(Ole, ClientItemHoldsARealObject) {
     item.Release();
     EXPECT_EQ(nullptr, item.m_lpObject);
     EXPECT_EQ(0u, object->Release()) << "the item let go of it";
-}
-
-HWND g_dialogOwner;
-
-BOOL CALLBACK CancelVisibleDialog(HWND window, LPARAM) {
-    TCHAR name[32];
-    ::GetClassName(window, name, 32);
-    if (::lstrcmp(name, _T("#32770")) != 0 || !::IsWindowVisible(window))
-        return TRUE;
-    g_dialogOwner = ::GetWindow(window, GW_OWNER);
-    ::PostMessage(window, WM_COMMAND, IDCANCEL, 0);
-    return FALSE;
-}
-
-void CALLBACK CancelDialogs(HWND, UINT, UINT_PTR, DWORD) {
-    ::EnumThreadWindows(::GetCurrentThreadId(), &CancelVisibleDialog, 0);
-}
-
-TEST_F(Ole, InsertDialogOpensAndCanBeCancelled) {
-    g_dialogOwner = nullptr;
-    UINT_PTR timer = ::SetTimer(nullptr, 0, 20, &CancelDialogs);
-    CWnd parent;
-    ASSERT_TRUE(CreateHidden(parent));
-    COleInsertDialog dialog(IOF_SELECTCREATENEW, &parent);
-    EXPECT_EQ(IDCANCEL, dialog.DoModal()) << dialog.GetLastError();
-    ::KillTimer(nullptr, timer);
-    EXPECT_EQ(parent.m_hWnd, g_dialogOwner) << "it was shown over its parent";
-    EXPECT_EQ(static_cast<UINT>(COleInsertDialog::createNewItem), dialog.GetSelectionType());
-    EXPECT_FALSE(dialog.CreateItem(nullptr));
 }
 
 }  // namespace

@@ -53,12 +53,30 @@ TEST(String, EveryChangingMemberLeavesCopiesAlone) {
         {"AppendFormat", [](CString& s) { s.AppendFormat(L"%d", 7); }, L" ab,ab 7"},
         {"GetBuffer", [](CString& s) { *s.GetBuffer() = L'_'; }, L"_ab,ab "},
         {"MakeUpper", [](CString& s) { s.MakeUpper(); }, L" AB,AB "},
+        {"MakeLower", [](CString& s) { s.MakeLower(); }, L" ab,ab "},
+        {"AppendSame",
+         [](CString& s) {
+             s += L" AB";
+             s.MakeLower();
+         },
+         L" ab,ab  ab"},
         {"MakeReverse", [](CString& s) { s.MakeReverse(); }, L" ba,ba "},
         {"Trim", [](CString& s) { s.Trim(); }, L"ab,ab"},
         {"TrimSet", [](CString& s) { s.Trim(L"b a"); }, L","},
         {"TrimLeftChar", [](CString& s) { s.TrimLeft(L' '); }, L"ab,ab "},
         {"ReplaceChar", [](CString& s) { EXPECT_EQ(2, s.Replace(L'a', L'c')); }, L" cb,cb "},
         {"ReplaceLonger", [](CString& s) { EXPECT_EQ(2, s.Replace(L"ab", L"aab")); }, L" aab,aab "},
+        {"TrimRight", [](CString& s) { s.TrimRight(); }, L" ab,ab"},
+        {"TrimRightChar", [](CString& s) { s.TrimRight(L' ').TrimRight(L'b'); }, L" ab,a"},
+        {"TrimLeftSet", [](CString& s) { s.TrimLeft(L"a "); }, L"b,ab "},
+        {"TrimNoSet", [](CString& s) { s.TrimLeft(nullptr).TrimRight(L""); }, L" ab,ab "},
+        {"ReplaceSame", [](CString& s) { EXPECT_EQ(2, s.Replace(L'a', L'a')); }, L" ab,ab "},
+        {"ReplaceNone", [](CString& s) { EXPECT_EQ(0, s.Replace(L"c", L"d")); }, L" ab,ab "},
+        {"ReplaceByNothing", [](CString& s) { EXPECT_EQ(2, s.Replace(L"b", nullptr)); }, L" a,a "},
+        {"RemoveNone", [](CString& s) { EXPECT_EQ(0, s.Remove(L'c')); }, L" ab,ab "},
+        {"InsertInFront", [](CString& s) { EXPECT_EQ(8, s.Insert(-3, L'z')); }, L"z ab,ab "},
+        {"DeleteFromBefore", [](CString& s) { EXPECT_EQ(5, s.Delete(-1, 2)); }, L"b,ab "},
+        {"DeleteNothing", [](CString& s) { EXPECT_EQ(7, s.Delete(7, 1)); }, L" ab,ab "},
         {"ReplaceEmpty", [](CString& s) { EXPECT_EQ(0, s.Replace(L"", L"x")); }, L" ab,ab "},
         {"Remove", [](CString& s) { EXPECT_EQ(2, s.Remove(L'b')); }, L" a,a "},
         {"Insert", [](CString& s) { EXPECT_EQ(9, s.Insert(3, L"xy")); }, L" abxy,ab "},
@@ -121,28 +139,122 @@ TEST(String, ComparesByValueAndIgnoringCase) {
     EXPECT_EQ(0, CString().Compare(nullptr));
 }
 
-TEST(String, FindsAndTakesParts) {
+TEST(String, FindsPlaces) {
     const CString text(L"one,two,,three");
-    EXPECT_EQ(3, text.Find(L','));
-    EXPECT_EQ(7, text.Find(L",", 4));
-    EXPECT_EQ(-1, text.Find(L"four"));
-    EXPECT_EQ(-1, text.Find(L"one", -1));
-    EXPECT_EQ(-1, text.Find(L"one", 99));
-    EXPECT_EQ(8, text.ReverseFind(L','));
-    EXPECT_EQ(2, text.FindOneOf(L"xe,"));
-    EXPECT_EQ(text.Mid(4, 3), L"two");
-    EXPECT_EQ(text.Mid(9, 99), L"three");
-    EXPECT_EQ(text.Mid(99), L"");
-    EXPECT_EQ(text.Left(-1), L"");
-    EXPECT_EQ(text.Right(5), L"three");
-    EXPECT_EQ(text.SpanExcluding(L","), L"one");
+    const std::pair<int, int> cases[] = {
+        {3, text.Find(L',')},
+        {7, text.Find(L",", 4)},
+        {-1, text.Find(L"four")},
+        {-1, text.Find(L"one", -1)},
+        {-1, text.Find(L"one", 99)},
+        {0, text.Find(L"one")},
+        {-1, text.Find(L"", 15)},
+        {-1, text.Find(nullptr)},
+        {0, text.Find(L'o')},
+        {6, text.Find(L'o', 1)},
+        {13, text.Find(L'e', 13)},
+        {-1, text.Find(L'e', 14)},
+        {-1, text.Find(L'o', -1)},
+        {8, text.ReverseFind(L',')},
+        {6, text.ReverseFind(L'o')},
+        {-1, text.ReverseFind(L'z')},
+        {0, CString(L"ab").ReverseFind(L'a')},
+        {2, text.FindOneOf(L"xe,")},
+        {0, text.FindOneOf(L"o")},
+        {-1, text.FindOneOf(L"z")},
+        {-1, text.FindOneOf(nullptr)},
+    };
+    for (const auto& [expected, found] : cases)
+        EXPECT_EQ(expected, found);
+}
 
-    std::vector<CString> tokens;
-    int at = 0;
-    for (CString token = text.Tokenize(L",", at); at >= 0; token = text.Tokenize(L",", at))
-        tokens.push_back(token);
-    ASSERT_EQ(3u, tokens.size());
-    EXPECT_EQ(tokens[2], L"three");
+TEST(String, TakesParts) {
+    const CString text(L"one,two,,three");
+    const std::pair<const wchar_t*, CString> cases[] = {
+        {L"two", text.Mid(4, 3)},
+        {L"three", text.Mid(9, 99)},
+        {L"e", text.Mid(13)},
+        {L"", text.Mid(14)},
+        {L"", text.Mid(99)},
+        {L"one", text.Mid(-2, 3)},
+        {L"", text.Mid(2, -1)},
+        {L"", text.Left(-1)},
+        {L"o", text.Left(1)},
+        {L"", text.Right(-1)},
+        {L"", text.Right(0)},
+        {L"three", text.Right(5)},
+        {L"one,two,,three", text.Right(14)},
+        {L"one", text.SpanExcluding(L",")},
+        {L"one", text.SpanIncluding(L"eno")},
+        {L"", text.SpanIncluding(L"x")},
+        {L"x"
+         L"one",
+         L'x' + text.Left(3)},
+        {L"onex", text.Left(3) + L'x'},
+        {L"onex", text.Left(3) + "x"},
+        {L"xone", L"x" + text.Left(3)},
+    };
+    for (const auto& [expected, part] : cases)
+        EXPECT_EQ(part, expected);
+    for (const wchar_t* list : {L"one,two,,three", L",,one,two,three,"}) {
+        CString joined;
+        int at = 0;
+        for (CString token = CString(list).Tokenize(L",", at); at >= 0;
+             token = CString(list).Tokenize(L",", at))
+            joined += token + L'|';
+        EXPECT_EQ(joined, L"one|two|three|");
+        EXPECT_TRUE(at == -1 && CString(list).Tokenize(L",", at).IsEmpty());
+    }
+    int end = 14;
+    EXPECT_TRUE(text.Tokenize(L",", end).IsEmpty() && end == -1);
+}
+
+TEST(String, GrowsInStepsAndGivesBackWhatItDoesNotNeed) {
+    CString text(L'x', 7);
+    std::vector<int> capacities = {text.GetAllocLength()};
+    while (text.GetLength() < 60) {
+        text += L'y';
+        if (text.GetAllocLength() != capacities.back())
+            capacities.push_back(text.GetAllocLength());
+    }
+    EXPECT_EQ(std::vector<int>({7, 15, 23, 39, 63}), capacities);
+    text.Preallocate(8);
+    EXPECT_EQ(63, text.GetAllocLength());
+    text.Preallocate(64);
+    EXPECT_EQ(95, text.GetAllocLength()) << "half as much again";
+    text.FreeExtra();
+    EXPECT_EQ(63, text.GetAllocLength());
+    text.Truncate(56);
+    const LPCWSTR before = text;
+    text.FreeExtra();
+    EXPECT_EQ(before, text.GetString()) << "less than a step too much";
+    text.Truncate(55);
+    text.FreeExtra();
+    EXPECT_EQ(55, text.GetAllocLength());
+    text.Truncate(55);
+    text.Truncate(56);
+    EXPECT_EQ(55, text.GetLength());
+    text.Truncate(-1);
+    EXPECT_TRUE(text.IsEmpty() && text.GetAllocLength() == 55);
+    text = L"fits";
+    EXPECT_EQ(55, text.GetAllocLength()) << "its own memory is used again";
+    wcscpy(text.GetBuffer(9), L"abcdefgh");
+    text.ReleaseBuffer();
+    EXPECT_EQ(text, L"abcdefgh");
+    text.ReleaseBuffer(55);
+    EXPECT_EQ(55, text.GetLength());
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { text.ReleaseBuffer(56); }));
+    CString shared = text;
+    shared.ReleaseBuffer(55);
+    EXPECT_EQ(text.GetString(), shared.GetString());
+    text.SetString(L"abc", 0);
+    EXPECT_TRUE(text.IsEmpty());
+    text.Append(nullptr, 3);
+    text.Append(L"abc", -1);
+    EXPECT_TRUE(text.IsEmpty());
+    text = L'z';
+    EXPECT_EQ(text, L"z");
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { text.Format(nullptr); }));
 }
 
 TEST(String, KeepsZerosInsideAndConvertsAnsi) {

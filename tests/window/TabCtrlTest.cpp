@@ -1,4 +1,4 @@
-// Tabs under real messages: choosing, dragging, renaming, closing, scrolling, and what is painted.
+// Tabs under real messages of the keyboard and the pump; TabScriptTest.cpp has the rest.
 #include "window/TabCtrl.h"
 
 #include "afx/WindowSupport.h"
@@ -93,83 +93,16 @@ protected:
     TabCtrl m_tabs;
 };
 
-TEST_F(Tabs, ListKeepsTheCurrentTab) {
-    EXPECT_EQ(L"One* Two Three Four", Order());
-    m_tabs.SetCurrent(2);
-    EXPECT_EQ(1, m_tabs.InsertTab(1, L"New"));
-    EXPECT_EQ(L"One New Two Three* Four", Order());
-    const struct {
-        int from, to;
-        LPCWSTR order;
-    } moves[] = {{0, 4, L"New Two Three* Four One"},
-                 {2, 0, L"Three* New Two Four One"},
-                 {3, 0, L"Four Three* New Two One"},
-                 {1, 4, L"Four New Two One Three*"}};
-    for (const auto& move : moves) {
-        EXPECT_TRUE(m_tabs.MoveTab(move.from, move.to));
-        EXPECT_EQ(move.order, Order());
+TEST_F(Tabs, IndicesThatAreNoneChangeNothing) {
+    for (int none : {-1, 4}) {
+        EXPECT_FALSE(m_tabs.RemoveTab(none) || m_tabs.MoveTab(none, 0) || m_tabs.SetCurrent(none));
+        EXPECT_FALSE(m_tabs.SetTabText(none, L"x") || m_tabs.SetTabData(none, 1));
+        EXPECT_TRUE(m_tabs.GetTabRect(none).IsRectEmpty() && m_tabs.GetTabText(none).IsEmpty());
+        EXPECT_EQ(0u, m_tabs.GetTabData(none));
     }
-    EXPECT_TRUE(m_tabs.RemoveTab(4));
-    EXPECT_EQ(L"Four New Two One*", Order());
-    EXPECT_TRUE(m_tabs.RemoveTab(0));
-    EXPECT_EQ(L"New Two One*", Order());
-    EXPECT_EQ(static_cast<DWORD_PTR>(L'T'), m_tabs.GetTabData(1));
-    for (int none : {-1, 3}) {
-        EXPECT_FALSE(m_tabs.RemoveTab(none));
-        EXPECT_FALSE(m_tabs.MoveTab(none, 0));
-        EXPECT_FALSE(m_tabs.SetCurrent(none));
-        EXPECT_FALSE(m_tabs.SetTabText(none, L"x"));
-        EXPECT_TRUE(m_tabs.GetTabRect(none).IsRectEmpty());
-    }
-    m_tabs.RemoveAllTabs();
-    EXPECT_EQ(-1, m_tabs.GetCurrent());
-    Key(VK_RIGHT);
-    EXPECT_TRUE(m_host.notes.empty());
-}
-
-TEST_F(Tabs, MouseAndKeysChooseUnlessTheHostRefuses) {
-    Click(Middle(2));
-    EXPECT_TRUE(m_host.Got(TABN_CHANGING, 2) && m_host.Got(TABN_CHANGED, 2));
-    for (const auto& [key, current] :
-         {std::pair{VK_LEFT, 1}, {VK_HOME, 0}, {VK_LEFT, 0}, {VK_END, 3}, {VK_RIGHT, 3}}) {
-        Key(static_cast<UINT>(key));
-        EXPECT_EQ(current, m_tabs.GetCurrent());
-    }
-    m_host.refused = TABN_CHANGING;
-    Click(Middle(0));
-    EXPECT_EQ(3, m_tabs.GetCurrent());
-    m_tabs.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(500, 10));
-    EXPECT_TRUE(m_host.Got(TABN_MENU, -1));
-}
-
-TEST_F(Tabs, DragReordersAndCanBeGivenUp) {
-    Pull(0, Middle(2) + CSize(5, 0));
-    EXPECT_FALSE(m_tabs.IsDragging()) << "not allowed yet";
-    Mouse(WM_LBUTTONUP, Middle(2));
-    m_tabs.SetReorder(true);
-
-    Pull(0, Middle(2) + CSize(5, 0));
-    EXPECT_TRUE(m_tabs.IsDragging());
-    Mouse(WM_LBUTTONUP, Middle(2));
-    EXPECT_EQ(L"Two Three One* Four", Order());
-    EXPECT_TRUE(m_host.Got(TABN_MOVED, 0, 2));
-
-    Pull(3, Middle(0) - CSize(5, 0));
-    EXPECT_TRUE(Pump(m_tabs, VK_ESCAPE));
-    EXPECT_FALSE(m_tabs.IsDragging());
-    Mouse(WM_LBUTTONUP, Middle(0));
-    Pull(3, Middle(0) - CSize(5, 0));
-    ::ReleaseCapture();
-    EXPECT_FALSE(m_tabs.IsDragging());
-    m_host.refused = TABN_MOVE;
-    Pull(3, Middle(0) - CSize(5, 0));
-    Mouse(WM_LBUTTONUP, Middle(0));
-    EXPECT_EQ(L"Two Three One Four*", Order());
-
-    Pull(3, Middle(0));
-    m_tabs.RemoveTab(3);
-    EXPECT_FALSE(m_tabs.IsDragging()) << "the tab is gone";
-    Mouse(WM_LBUTTONUP, Middle(0));
+    EXPECT_TRUE(m_tabs.SetTabText(3, L"Five") && m_tabs.SetTabData(3, 9));
+    EXPECT_EQ(L"One* Two Three Five", Order());
+    EXPECT_TRUE(m_tabs.GetTabData(3) == 9 && m_tabs.GetTabData(0) == L'O');
 }
 
 TEST_F(Tabs, EditorRenamesOnReturnAndOnLeaving) {
@@ -211,116 +144,6 @@ TEST_F(Tabs, EditorRenamesOnReturnAndOnLeaving) {
     EXPECT_FALSE(m_tabs.IsRenaming());
     PumpQueue();
     EXPECT_EQ(L"One* New name Pressed", Order());
-}
-
-TEST_F(Tabs, ButtonsAskTheHost) {
-    m_tabs.SetAddButton(true);
-    m_tabs.SetCloseButtons(true);
-    Click(m_tabs.GetPartRect(TabPart::kAdd).CenterPoint());
-    Click(m_tabs.GetPartRect(TabPart::kClose, 2).CenterPoint());
-    EXPECT_TRUE(m_host.Got(TABN_ADD, -1) && m_host.Got(TABN_CLOSE, 2));
-    EXPECT_EQ(L"One* Two Three Four", Order()) << "the host decides";
-    m_host.notes.clear();
-    Mouse(WM_LBUTTONDOWN, m_tabs.GetPartRect(TabPart::kClose, 1).CenterPoint());
-    Mouse(WM_LBUTTONUP, Middle(0));
-    EXPECT_FALSE(m_host.Got(TABN_CLOSE, 1)) << "released elsewhere";
-    Mouse(WM_MBUTTONUP, Middle(3));
-    EXPECT_TRUE(m_host.Got(TABN_CLOSE, 3));
-}
-
-TEST_F(Tabs, SignsAndTabsShowWhatThePointerDoes) {
-    /// Remembers how it was asked to draw.
-    struct Watching : FlatTabStyle {
-        explicit Watching(std::vector<TabState>& closes) : m_closes(closes) {}
-        void DrawSign(CDC&, TabSign sign, const CRect&, const TabState& state) const override {
-            if (sign == TabSign::kClose)
-                m_closes.push_back(state);
-        }
-        std::vector<TabState>& m_closes;
-    };
-    std::vector<TabState> closes;
-    m_tabs.SetCloseButtons(true);
-    m_tabs.SetStyle(std::make_unique<Watching>(closes));
-    const auto painted = [&](auto flag) {
-        closes.clear();
-        m_tabs.RedrawWindow();
-        std::string flags;
-        for (const TabState& state : closes)
-            flags += state.*flag ? '1' : '0';
-        return flags;
-    };
-    // The current one is painted last.
-    m_tabs.SetCurrent(1);
-    const CPoint close = m_tabs.GetPartRect(TabPart::kClose, 2).CenterPoint();
-    Mouse(WM_MOUSEMOVE, close);
-    EXPECT_EQ("0100", painted(&TabState::hover));
-    EXPECT_EQ("0000", painted(&TabState::pressed));
-    EXPECT_EQ("0001", painted(&TabState::current));
-    Mouse(WM_LBUTTONDOWN, close);
-    EXPECT_EQ("0100", painted(&TabState::pressed));
-    Mouse(WM_LBUTTONUP, Middle(3));
-}
-
-TEST_F(Tabs, AClickTakesTheKeyboardOnlyAsATabStop) {
-    ::SetFocus(m_host);
-    Click(Middle(1));
-    EXPECT_EQ(&m_host, CWnd::GetFocus());
-    m_tabs.ModifyStyle(0, WS_TABSTOP);
-    Click(Middle(2));
-    EXPECT_EQ(&m_tabs, CWnd::GetFocus());
-}
-
-TEST_F(Tabs, ScrollWhenTheyDoNotFit) {
-    EXPECT_FALSE(m_tabs.IsScrolling());
-    for (int i = 0; i < 12; ++i)
-        m_tabs.AddTab(L"Another page");
-    ASSERT_TRUE(m_tabs.IsScrolling());
-    const CRect right = m_tabs.GetPartRect(TabPart::kScrollRight);
-    EXPECT_EQ(TabPart::kScrollRight, m_tabs.HitTest(right.CenterPoint()));
-    const int before = m_tabs.GetTabRect(0).left;
-    Click(right.CenterPoint());
-    EXPECT_LT(m_tabs.GetTabRect(0).left, before);
-    m_tabs.SetCurrent(15);
-    EXPECT_LE(m_tabs.GetTabRect(15).right, m_tabs.GetPartRect(TabPart::kScrollLeft).left);
-    m_tabs.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 100 * WHEEL_DELTA), 0);
-    EXPECT_EQ(before, m_tabs.GetTabRect(0).left) << "no farther than the first";
-    m_tabs.SetAddButton(true);
-    const CRect add = m_tabs.GetPartRect(TabPart::kAdd);
-    EXPECT_EQ(TabPart::kAdd, m_tabs.HitTest(add.CenterPoint())) << "always within reach";
-    EXPECT_LE(add.right, m_tabs.GetPartRect(TabPart::kScrollLeft).left);
-    m_tabs.SetAddButton(false);
-    m_tabs.SetCurrent(15);
-    while (m_tabs.GetTabCount() > 2)
-        m_tabs.RemoveTab(0);
-    EXPECT_FALSE(m_tabs.IsScrolling());
-    EXPECT_EQ(before, m_tabs.GetTabRect(0).left);
-}
-
-TEST_F(Tabs, StylesPaintCurrentHoverAndTheRest) {
-    const TabColors dark = TabColorsOf(TabTheme::kDark);
-    m_tabs.SetStyle(std::make_unique<ClientAreaTabStyle>(TabTheme::kDark));
-    const auto face = [&](int tab) { return PixelAt(m_tabs.GetTabRect(tab).TopLeft() + CSize(8, 14)); };
-    EXPECT_EQ(dark.current, face(0));
-    EXPECT_EQ(dark.tab, face(1));
-    Mouse(WM_MOUSEMOVE, Middle(1));
-    EXPECT_EQ(1, m_tabs.GetHover());
-    EXPECT_EQ(dark.hover, face(1));
-    const CRect current = m_tabs.GetTabRect(0);
-    EXPECT_EQ(dark.current, PixelAt({current.CenterPoint().x, 29})) << "one piece with the page";
-    EXPECT_EQ(dark.edge, PixelAt({Middle(2).x, 29}));
-    m_tabs.SetSide(TabSide::kBelow);
-    EXPECT_EQ(dark.current, PixelAt({current.CenterPoint().x, 0}));
-    EXPECT_EQ(dark.edge, PixelAt({Middle(2).x, 0}));
-
-    const TabColors blue = TabColorsOf(TabTheme::kBlue);
-    m_tabs.SetStyle(std::make_unique<FlatTabStyle>(TabTheme::kBlue));
-    EXPECT_EQ(blue.accent, PixelAt({Middle(0).x, 0}));
-    EXPECT_EQ(blue.ground, face(2));
-    m_tabs.SetStyle(std::make_unique<BarTabStyle>(TabTheme::kBlue));
-    EXPECT_EQ(blue.accent, face(0));
-    EXPECT_EQ(blue.tab, face(2));
-    m_tabs.SetStyle(nullptr);
-    EXPECT_EQ(TabColorsOf(TabTheme::kLight).accent, PixelAt({Middle(0).x, 0}));
 }
 
 constexpr TabSide kSides[] = {TabSide::kAbove, TabSide::kBelow, TabSide::kLeft, TabSide::kRight};
