@@ -337,8 +337,12 @@ def write(path, text):
 
 
 def copy_tree():
-    for name in subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], capture_output=True, text=True,
-                               check=True).stdout.split("\n"):
+    names = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], capture_output=True, text=True,
+                           check=True).stdout.split("\n")
+    for path in TREE.glob("tests/**/*"):  # what an earlier run has left
+        if path.is_file() and not (ROOT / path.relative_to(TREE)).exists():
+            path.unlink()
+    for name in names:
         source, target = ROOT / name, TREE / name
         if not name or not source.is_file() or target.exists() and source.read_bytes() == target.read_bytes():
             continue

@@ -124,26 +124,24 @@ int Choose(HWND control, const ListMessages& list, UINT find, const CString& tex
     return found;
 }
 
-void ExchangeListText(CDataExchange* pDX, int nIDC, CString& value, UINT find) {
-    HWND control = pDX->PrepareCtrl(nIDC);
-    if (!pDX->m_bSaveAndValidate) {
-        Choose(control, kListBox, find, value);
-        return;
+CString ChosenText(HWND list) {
+    CString text;
+    const auto chosen = static_cast<WPARAM>(::SendMessage(list, LB_GETCURSEL, 0, 0));
+    const auto length = static_cast<int>(::SendMessage(list, LB_GETTEXTLEN, chosen, 0));
+    if (length > 0) {
+        ::SendMessage(list, LB_GETTEXT, chosen, reinterpret_cast<LPARAM>(text.GetBuffer(length)));
+        text.ReleaseBuffer();
     }
-    value.Empty();
-    const auto chosen = static_cast<WPARAM>(::SendMessage(control, LB_GETCURSEL, 0, 0));
-    const auto length = static_cast<int>(::SendMessage(control, LB_GETTEXTLEN, chosen, 0));
-    if (length <= 0)
-        return;
-    ::SendMessage(control, LB_GETTEXT, chosen, reinterpret_cast<LPARAM>(value.GetBuffer(length)));
-    value.ReleaseBuffer();
+    return text;
 }
 
-void ExchangeComboText(CDataExchange* pDX, int nIDC, CString& value, UINT find) {
+// A combo box has a text of its own, which need not be that of an item.
+void ExchangeItem(CDataExchange* pDX, int nIDC, CString& value, const ListMessages& list, UINT find) {
     HWND control = pDX->PrepareCtrl(nIDC);
+    const bool isCombo = &list == &kComboBox;
     if (pDX->m_bSaveAndValidate)
-        value = TextOf(control);
-    else if (Choose(control, kComboBox, find, value) < 0)
+        value = isCombo ? TextOf(control) : ChosenText(control);
+    else if (Choose(control, list, find, value) < 0 && isCombo)
         SetText(control, value);
 }
 
@@ -251,11 +249,11 @@ void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index) {
 }
 
 void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value) {
-    ExchangeListText(pDX, nIDC, value, kListBox.find);
+    ExchangeItem(pDX, nIDC, value, kListBox, kListBox.find);
 }
 
 void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
-    ExchangeListText(pDX, nIDC, value, kListBox.findExact);
+    ExchangeItem(pDX, nIDC, value, kListBox, kListBox.findExact);
 }
 
 void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index) {
@@ -263,11 +261,11 @@ void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index) {
 }
 
 void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value) {
-    ExchangeComboText(pDX, nIDC, value, kComboBox.find);
+    ExchangeItem(pDX, nIDC, value, kComboBox, kComboBox.find);
 }
 
 void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
-    ExchangeComboText(pDX, nIDC, value, kComboBox.findExact);
+    ExchangeItem(pDX, nIDC, value, kComboBox, kComboBox.findExact);
 }
 
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl) {

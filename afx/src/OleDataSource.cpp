@@ -6,6 +6,7 @@
 #include <shlobj.h>
 
 #include <atomic>
+#include <new>
 #include <vector>
 
 namespace {
@@ -105,8 +106,12 @@ public:
         if (direction != DATADIR_GET)
             return E_NOTIMPL;
         std::vector<FORMATETC> offered;
-        for (const Entry& entry : m_entries)
-            offered.push_back(entry.format);
+        try {
+            for (const Entry& entry : m_entries)
+                offered.push_back(entry.format);
+        } catch (const std::bad_alloc&) {  // the platform, which calls, knows no exceptions
+            return E_OUTOFMEMORY;
+        }
         return ::SHCreateStdEnumFmtEtc(static_cast<UINT>(offered.size()), offered.data(), formats);
     }
     STDMETHODIMP DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override {

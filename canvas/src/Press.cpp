@@ -2,6 +2,7 @@
 
 #include "canvas/src/ToolObjects.h"
 #include "core/UIDocument.h"
+#include "core/internal/Destruction.h"
 
 namespace Lumo {
 
@@ -37,6 +38,7 @@ bool Press::HasMouse(const CUICanvas* canvas) {
 }
 
 void Press::Draw(const CUIObject* object) {
+    [[maybe_unused]] static const bool watched = (Destruction::Watch(&s_drawn), true);
     s_drawn = object;
 }
 

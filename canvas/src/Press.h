@@ -37,7 +37,7 @@ bool HasMouse(const CUICanvas* canvas);
 /// The press draws `object` from now on.
 void Draw(const CUIObject* object);
 
-/// The object that the press draws while it is the one selected last on `canvas`; or null.
+/// The object that the press draws while it lives and is the one selected last on `canvas`; or null.
 CUIObject* Drawn(const CUICanvas* canvas);
 
 /// Ends a press: nothing is grabbed, dragged or drawn, the canvas lets the mouse go, the cursor is the arrow.

@@ -26,7 +26,9 @@ class CUIObjectList;
 /// 4. `Release` decides. An object whose override destroys nothing lives on, held by nobody. A group's own
 ///    `Release` leaves the emptied group, which is deleted here; a group lives on when its override keeps
 ///    from calling that one.
-/// 5. The destructor forgets once more, for objects that end in any other way.
+/// 5. The destructor forgets once more, for objects that end in any other way, and clears the pointers that
+/// are
+///    watched: another object may come to lie where this one was.
 class Destruction {
 public:
     /// A canvas, for its page and its selection, or a group.
@@ -41,6 +43,10 @@ public:
     static void Destroy(CUIObject* object);
     /// The same for every entry of `objects` that is not null.
     static void DestroyAll(const CUIObjectDeque& objects);
+
+    /// From now on `*pointer` becomes null when the object that it points to ends. For pointers that live as
+    /// long as the library.
+    static void Watch(const CUIObject** pointer);
 
     /// For a group's own `Release`: it is empty now, and may be deleted by whoever destroys it.
     static void NoteEmptied(CUIObjectList* group);

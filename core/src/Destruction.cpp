@@ -20,6 +20,11 @@ std::unordered_map<CUIObject*, Stage>& Doomed() {
     return doomed;
 }
 
+std::vector<const CUIObject**>& Watched() {
+    static std::vector<const CUIObject**> watched;
+    return watched;
+}
+
 bool IsWaiting(CUIObject* object) {
     const auto entry = Doomed().find(object);
     return entry != Doomed().end() && entry->second == Stage::kWaiting;
@@ -135,6 +140,10 @@ void Destruction::Release(CUIObject* object) {
         delete object;
 }
 
+void Destruction::Watch(const CUIObject** pointer) {
+    Watched().push_back(pointer);
+}
+
 void Destruction::NoteEmptied(CUIObjectList* group) {
     const auto entry = Doomed().find(group);
     if (entry != Doomed().end())
@@ -144,6 +153,9 @@ void Destruction::NoteEmptied(CUIObjectList* group) {
 void Destruction::NoteEnded(CUIObject* object) {
     Forget(object);
     Doomed().erase(object);
+    for (const CUIObject** pointer : Watched())
+        if (*pointer == object)
+            *pointer = nullptr;
 }
 
 }  // namespace Lumo

@@ -4,6 +4,8 @@
 
 #include <afxadv.h>
 
+#include <climits>
+
 #include <numeric>
 #include <vector>
 #include <gtest/gtest.h>
@@ -151,6 +153,82 @@ TEST(MemFile, GrowsReadsAndFillsGapsWithZeros) {
     EXPECT_EQ(4u, attached.GetLength());
     attached.SeekToEnd();
     EXPECT_TRUE(Throws<CMemoryException>([&] { attached.Write("x", 1); }));
+}
+
+/// Notes how much memory it takes.
+class GrowingFile : public CMemFile {
+public:
+    using CMemFile::CMemFile;
+    ~GrowingFile() override { GrowingFile::Close(); }
+    std::vector<size_t> sizes;
+    bool refuses = false;
+
+protected:
+    BYTE* Alloc(SIZE_T size) override {
+        return sizes.push_back(size), refuses ? nullptr : CMemFile::Alloc(size);
+    }
+    BYTE* Realloc(BYTE* memory, SIZE_T size) override {
+        return sizes.push_back(size), refuses ? nullptr : CMemFile::Realloc(memory, size);
+    }
+};
+
+TEST(MemFile, GrowsByHalfInWholeSteps) {
+    GrowingFile file(16);
+    for (ULONGLONG length : {0, 1, 16, 17, 32, 33, 60, 100})
+        file.SetLength(length);
+    EXPECT_EQ(std::vector<size_t>({16, 32, 48, 80, 128}), file.sizes);
+    file.refuses = true;
+    EXPECT_TRUE(Throws<CMemoryException>([&] { file.SetLength(129); }));
+    EXPECT_TRUE(Throws<CMemoryException>([&] { file.SetLength(ULONGLONG(PTRDIFF_MAX) / 2 + 1); }));
+    EXPECT_EQ(100u, file.GetLength());
+    const std::pair<ULONGLONG, ULONGLONG> seeks[] = {{3, file.Seek(3, CFile::begin)},
+                                                     {1, file.Seek(-2, CFile::current)},
+                                                     {93, file.Seek(-7, CFile::end)},
+                                                     {0, file.Seek(-100, CFile::end)},
+                                                     {100, file.Seek(0, CFile::end)}};
+    for (const auto& [expected, place] : seeks)
+        EXPECT_EQ(expected, place);
+    char byte = 'x';
+    EXPECT_EQ(0u, file.Read(&byte, 1));
+    file.Write(&byte, 0);
+    for (auto [distance, from] :
+         {std::pair{-101LL, UINT(CFile::end)}, {0LL, 3u}, {LLONG_MAX, UINT(CFile::end)}})
+        EXPECT_EQ(CFileException::badSeek, CauseOf<CFileException>([&] { file.Seek(distance, from); }));
+    EXPECT_TRUE(file.GetPosition() == 100 && file.GetLength() == 100);
+    BYTE own[8] = {1, 2, 3};
+    file.Attach(own, 8, 16);
+    EXPECT_TRUE(file.GetLength() == 0 && file.GetPosition() == 0);
+    file.Write("abc", 3);
+    EXPECT_EQ('a', own[0]);
+    EXPECT_TRUE(file.Detach() == own && file.GetLength() == 0 && file.Detach() == nullptr);
+    file.Flush();
+    file.Abort();
+}
+
+TEST(SharedFile, MayGrowWhatItIsGiven) {
+    HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, 100);
+    CSharedFile file(GMEM_MOVEABLE, 64);
+    file.SetHandle(memory);
+    EXPECT_EQ(100u, file.GetLength());
+    file.SeekToEnd();
+    file.Write("x", 1);
+    memory = file.Detach();
+    EXPECT_EQ(128u, ::GlobalSize(memory));
+    file.SetHandle(memory);
+    file.Close();
+    EXPECT_EQ(0u, file.GetLength()) << "freed with it";
+    EXPECT_TRUE(Throws<CInvalidArgException>([&] { file.SetHandle(nullptr); }));
+    CFile renamed;
+    TemporaryFile from("text"), to;
+    CFile::Rename(from.Path(), to.Path());
+    EXPECT_EQ("text", to.Read());
+    EXPECT_EQ(CFileException::fileNotFound,
+              CauseOf<CFileException>([&] { CFile::Rename(from.Path(), to.Path()); }));
+    renamed.SetFilePath(L"a/b");
+    EXPECT_TRUE(renamed.GetFilePath() == L"a/b" && renamed.GetFileName() == L"b");
+    const HANDLE handle = ::CreateFile(to.Path(), GENERIC_READ, 7, nullptr, OPEN_EXISTING, 0, nullptr);
+    { CFile given(handle); }
+    EXPECT_FALSE(::CloseHandle(handle)) << "closed with its object";
 }
 
 TEST(SharedFile, HandsItsGlobalMemoryOnAndTakesItBack) {

@@ -1,6 +1,8 @@
 // Run-time class information and the texts of exceptions.
 #include "Expect.h"
 
+#include <afxdisp.h>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -68,6 +70,43 @@ TEST(Exception, TextNamesTheFileAndFitsTheBuffer) {
     ASSERT_TRUE(odd.GetErrorMessage(text, ARRAYSIZE(text)));
     EXPECT_EQ(CString(text).Left(5), L"\"x\": ");
     EXPECT_GT(wcslen(text), 10u);
+}
+
+TEST(Exception, EveryClassHasItsText) {
+    COleException ole;
+    ole.m_sc = E_OUTOFMEMORY;
+    const CFileException file(CFileException::badPath, 0, L"x"), none(CFileException::none);
+    const CArchiveException archive(CArchiveException::bufferFull, L"y"), low(-1);
+    const CMemoryException memory;
+    const CNotSupportedException unsupported;
+    const CInvalidArgException invalid;
+    const std::pair<const CException&, LPCWSTR> cases[] = {
+        {memory, L"Out of memory."},
+        {unsupported, L"This operation is not supported."},
+        {invalid, L"An argument is not valid."},
+        {file, L"\"x\" has a path that does not exist or is not valid."},
+        {none, L"The file had no error."},
+        {archive, L"\"y\" has more data than its buffer can hold."},
+        {low, L"The file caused an unknown error."},
+    };
+    wchar_t text[100] = L"";
+    for (const auto& [exception, expected] : cases) {
+        EXPECT_TRUE(exception.GetErrorMessage(text, 100));
+        EXPECT_STREQ(expected, text);
+    }
+    EXPECT_TRUE(ole.GetErrorMessage(text, 100) && text[0]);
+    EXPECT_TRUE(file.GetErrorMessage(text, 1) && !text[0]);
+    EXPECT_FALSE(file.GetErrorMessage(nullptr, 9));
+    wchar_t untouched[] = L"old";
+    UINT help = 5;
+    EXPECT_FALSE(CSimpleException().GetErrorMessage(untouched, 4, &help));
+    EXPECT_TRUE(!untouched[0] && help == 0);
+    try {
+        AfxThrowOleException(E_FAIL);
+    } catch (COleException* e) {
+        EXPECT_EQ(E_FAIL, e->m_sc);
+        e->Delete();
+    }
 }
 
 TEST(Exception, OfTheSystemBecomesACause) {

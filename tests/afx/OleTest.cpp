@@ -139,6 +139,29 @@ TEST_F(Ole, DataSourceListsItsFormats) {
     little.hGlobal = ::GlobalAlloc(GMEM_MOVEABLE, 1);
     EXPECT_EQ(STG_E_MEDIUMFULL, source.GetDataObject()->GetDataHere(&format, &little));
     ::GlobalFree(little.hGlobal);
+    IDataObject* const data = source.GetDataObject();
+    IUnknown* known = nullptr;
+    EXPECT_TRUE(data->QueryInterface(IID_IDataObject, reinterpret_cast<void**>(&known)) == S_OK &&
+                known == data);
+    EXPECT_EQ(1u, known->Release());
+    EXPECT_TRUE(data->QueryInterface(IID_IStream, reinterpret_cast<void**>(&known)) == E_NOINTERFACE &&
+                !known);
+    EXPECT_EQ(E_POINTER, data->QueryInterface(IID_IUnknown, nullptr));
+    EXPECT_TRUE(data->GetData(nullptr, &room) == E_INVALIDARG &&
+                data->GetData(&format, nullptr) == E_INVALIDARG);
+    EXPECT_TRUE(data->GetDataHere(nullptr, &room) == E_INVALIDARG &&
+                data->QueryGetData(nullptr) == E_INVALIDARG);
+    EXPECT_TRUE(data->EnumFormatEtc(DATADIR_SET, &formats) == E_NOTIMPL && !formats);
+    EXPECT_EQ(E_POINTER, data->EnumFormatEtc(DATADIR_GET, nullptr));
+    FORMATETC same{};
+    same.ptd = reinterpret_cast<DVTARGETDEVICE*>(&same);
+    EXPECT_TRUE(data->GetCanonicalFormatEtc(&format, &same) == DATA_S_SAMEFORMATETC && !same.ptd);
+    STGMEDIUM wrong{};
+    wrong.tymed = TYMED_ISTREAM;
+    EXPECT_EQ(DV_E_TYMED, data->GetDataHere(&format, &wrong));
+    FORMATETC thumbnail = format;
+    thumbnail.dwAspect = DVASPECT_THUMBNAIL;
+    EXPECT_EQ(DV_E_FORMATETC, data->QueryGetData(&thumbnail));
     format = {ownFormat, nullptr, DVASPECT_CONTENT, -1, TYMED_ISTREAM};
     EXPECT_EQ(DV_E_FORMATETC, source.GetDataObject()->QueryGetData(&format)) << "memory is no stream";
     STGMEDIUM streamed{};
@@ -148,6 +171,18 @@ TEST_F(Ole, DataSourceListsItsFormats) {
     stream->AddRef();
     source.CacheData(ownFormat, &streamed);
     EXPECT_EQ(S_OK, source.GetDataObject()->QueryGetData(&format));
+    STGMEDIUM shared{};
+    EXPECT_TRUE(data->GetData(&format, &shared) == S_OK && shared.pstm == stream &&
+                shared.tymed == TYMED_ISTREAM);
+    ::ReleaseStgMedium(&shared);
+    COleDataObject attached;
+    attached.Attach(data, FALSE);
+    EXPECT_TRUE(attached.IsDataAvailable(ownFormat) && attached.GetData(ownFormat, &shared, &format));
+    ::ReleaseStgMedium(&shared);
+    EXPECT_EQ(data, attached.Detach());
+    EXPECT_FALSE(attached.GetData(ownFormat, &shared));
+    source.CacheGlobalData(CF_TEXT, nullptr);
+    EXPECT_FALSE((attached.Attach(data, FALSE), attached.IsDataAvailable(CF_TEXT)));
     source.Empty();
     EXPECT_EQ(0u, stream->Release()) << "the source let go of it";
     format.tymed = TYMED_HGLOBAL;
@@ -158,6 +193,15 @@ TEST_F(Ole, ClientItemOfNoClassStaysEmpty) {
     COleClientItem item;
     EXPECT_FALSE(item.UpdateLink());
     EXPECT_EQ(OLE_E_BLANK, item.GetLastStatus());
+    CSize size;
+    MSG message{};
+    EXPECT_FALSE(item.CreateFromFile(_T("C:\\no\\such")) || item.CreateLinkFromFile(_T("C:\\no\\such")));
+    EXPECT_NE(OLE_E_BLANK, item.GetLastStatus());
+    EXPECT_FALSE(item.GetExtent(&size) || item.DoVerb(OLEIVERB_OPEN, nullptr, &message));
+    item.Close();
+    item.Run();
+    EXPECT_TRUE(item.GetLastStatus() == OLE_E_BLANK && item.GetItemState() == COleClientItem::emptyState);
+    item.Delete(FALSE);
     EXPECT_FALSE(item.CreateNewItem(CLSID_NULL));
     EXPECT_TRUE(FAILED(item.GetLastStatus()));
     EXPECT_EQ(static_cast<UINT>(COleClientItem::emptyState), item.GetItemState());
@@ -174,8 +218,13 @@ TEST_F(Ole, ClientItemHoldsARealObject) {
     CSize extent;
     EXPECT_TRUE(item.GetExtent(&extent));
     EXPECT_GT(extent.cx, 0);
+    EXPECT_TRUE(item.UpdateLink() || item.GetLastStatus() != OLE_E_BLANK);
+    item.Run();
+    EXPECT_NE(OLE_E_BLANK, item.GetLastStatus());
     IUnknown* object = item.m_lpObject;
     object->AddRef();
+    item.Close(OLECLOSE_NOSAVE);
+    EXPECT_EQ(static_cast<UINT>(COleClientItem::loadedState), item.GetItemState());
     item.Release();
     EXPECT_EQ(nullptr, item.m_lpObject);
     EXPECT_EQ(0u, object->Release()) << "the item let go of it";

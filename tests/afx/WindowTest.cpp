@@ -290,27 +290,94 @@ TEST(HandlerException, ProgramShowsItsText) {
     EXPECT_EQ(CString(_T("own")), app.shown[1]);
 }
 
-TEST(WindowMembers, TextStyleAndFamily) {
-    CWnd parent;
-    CStatic middle;
-    CButton button;
-    ASSERT_TRUE(CreateHidden(parent));
-    ASSERT_TRUE(middle.Create(_T(""), WS_CHILD, CRect(10, 20, 110, 120), &parent, 50));
-    ASSERT_TRUE(button.Create(_T("ok"), BS_AUTOCHECKBOX, CRect(5, 6, 25, 26), &middle, 51));
-    EXPECT_EQ(&parent, button.GetTopLevelParent());
-    EXPECT_EQ(nullptr, button.GetTopLevelFrame());
-    EXPECT_EQ(&button, parent.GetDescendantWindow(51));
-    EXPECT_TRUE(button.ModifyStyle(0, WS_TABSTOP));
-    EXPECT_FALSE(button.ModifyStyle(0, WS_TABSTOP));
+TEST(WindowMembers, StylesChangeOnce) {
+    struct Window : CWnd {
+        std::vector<UINT> placed;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_WINDOWPOSCHANGING)
+                placed.push_back(reinterpret_cast<WINDOWPOS*>(lParam)->flags);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } window;
+    ASSERT_TRUE(CreateHidden(window));
+    window.placed.clear();
+    EXPECT_TRUE(window.ModifyStyle(WS_CAPTION, WS_TABSTOP));
+    EXPECT_EQ(DWORD(WS_TABSTOP), window.GetStyle() & (WS_CAPTION | WS_TABSTOP));
+    EXPECT_FALSE(window.ModifyStyle(WS_CAPTION, WS_TABSTOP, SWP_FRAMECHANGED));
+    EXPECT_TRUE(window.placed.empty());
+    EXPECT_TRUE(window.ModifyStyleEx(0, WS_EX_TOOLWINDOW, SWP_FRAMECHANGED));
+    EXPECT_TRUE(window.GetExStyle() & WS_EX_TOOLWINDOW);
+    ASSERT_EQ(1u, window.placed.size());
+    EXPECT_EQ(UINT(SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED),
+              window.placed[0] & 0x3F);
+}
+
+/// Counts a message.
+struct Counting : CWnd {
+    int got = 0;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        got += message == WM_APP + 5 && wParam == 6 && lParam == 7;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(WindowMembers, Family) {
+    CFrameWnd* frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(nullptr, _T("frame")));
+    Counting parent, middle, inner, popup;
+    ASSERT_TRUE(parent.Create(nullptr, nullptr, WS_VISIBLE, CRect(3, 4, 300, 200), frame, 49));
+    ASSERT_TRUE(middle.Create(nullptr, _T("m"), WS_CHILD, CRect(10, 20, 110, 120), &parent, 50));
+    ASSERT_TRUE(inner.Create(nullptr, nullptr, WS_CHILD, CRect(5, 6, 25, 36), &middle, 51));
+    const HWND foreign = ::CreateWindow(_T("STATIC"), _T("foreign"), WS_CHILD, 0, 0, 1, 1, middle,
+                                        reinterpret_cast<HMENU>(52), nullptr, nullptr);
+    ASSERT_TRUE(popup.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 9, 9, parent, nullptr));
+    EXPECT_TRUE(inner.GetTopLevelParent() == frame && popup.GetTopLevelParent() == frame);
+    EXPECT_TRUE(inner.GetParentFrame() == frame && inner.GetTopLevelFrame() == frame);
+    EXPECT_TRUE(frame->GetParentFrame() == nullptr && frame->GetTopLevelFrame() == frame);
+    EXPECT_EQ(nullptr, CWnd().GetParentFrame());
+    EXPECT_TRUE(frame->GetDescendantWindow(51) == &inner && parent.GetDescendantWindow(50, TRUE) == &middle);
+    EXPECT_EQ(foreign, frame->GetDescendantWindow(52)->m_hWnd);
+    EXPECT_EQ(nullptr, frame->GetDescendantWindow(52, TRUE));
+    EXPECT_EQ(nullptr, frame->GetDescendantWindow(53));
+    inner.SetDlgCtrlID(50);
+    EXPECT_EQ(&inner, frame->GetDescendantWindow(50)) << "the innermost of several";
+    const auto send = [&](BOOL deep, BOOL permanent) {
+        middle.got = inner.got = 0;
+        parent.SendMessageToDescendants(WM_APP + 5, 6, 7, deep, permanent);
+        return middle.got * 10 + inner.got;
+    };
+    EXPECT_TRUE(send(TRUE, TRUE) == 11 && send(FALSE, TRUE) == 10 && send(TRUE, FALSE) == 11);
     CRect rect;
-    button.GetWindowRect(&rect);
+    inner.GetWindowRect(&rect);
     parent.ScreenToClient(&rect);
-    EXPECT_EQ(CRect(15, 26, 35, 46), rect);
-    CString text;
-    parent.GetDlgItemText(50, text);
-    EXPECT_TRUE(text.IsEmpty());
-    button.SetCheck(1);
-    EXPECT_EQ(1, button.GetCheck());
+    EXPECT_EQ(CRect(15, 26, 35, 56), rect);
+    parent.ClientToScreen(&rect);
+    CRect back;
+    inner.GetWindowRect(&back);
+    EXPECT_EQ(back, rect);
+    CString text(_T("old"));
+    EXPECT_TRUE(parent.GetDlgItemText(50, text) == 1 && text == _T("m"));
+    EXPECT_TRUE(parent.GetDlgItemText(99, text) == 0 && text.IsEmpty());
+    CMenu menu;
+    menu.CreateMenu();
+    EXPECT_TRUE(frame->SetMenu(&menu) && frame->GetMenu() == &menu && frame->SetMenu(nullptr));
+    EXPECT_EQ(nullptr, frame->GetMenu());
+    EXPECT_NE(nullptr, frame->GetSystemMenu(FALSE));
+    SCROLLINFO info{}, read{};
+    info.fMask = SIF_ALL;
+    info.nMax = 90, info.nPage = 11, info.nPos = 33;
+    EXPECT_TRUE(parent.SetScrollInfo(SB_VERT, &info) && parent.GetScrollInfo(SB_VERT, &read));
+    EXPECT_TRUE(read.nPos == 33 && read.nPage == 11);
+    EXPECT_TRUE(parent.GetScrollInfo(SB_VERT, &read, SIF_POS) && read.fMask == SIF_POS);
+    CFont font;
+    font.CreatePointFont(90, _T("Arial"));
+    CStatic label;
+    ASSERT_TRUE(label.Create(_T(""), WS_CHILD, CRect(0, 0, 9, 9), &parent));
+    label.SetFont(&font);
+    EXPECT_EQ(&font, label.GetFont());
+    label.SetFont(nullptr);
+    EXPECT_EQ(0, label.SendMessage(WM_GETFONT));
+    frame->DestroyWindow();
 }
 
 TEST(WindowMembers, SelectingTextScrollsThereUnlessToldNotTo) {

@@ -1,5 +1,6 @@
 #include "canvas/CanvasFixture.h"
 
+#include "stress/support/Imports.h"
 #include "support/ClipboardHolder.h"
 #include "support/TemporaryFile.h"
 
@@ -231,6 +232,30 @@ TEST_F(Clipboard, ACopyThatFailsLeavesTheClipboardAloneAndIsLogged) {
         EXPECT_EQ(m_canvas->m_selection, (List{bad, a}));
         EXPECT_NE(log.Read().find(row.logged), std::string::npos) << log.Read();
     }
+}
+
+int g_allocations = 0;  // until one fails
+
+void* SomeFail(size_t size) {
+    if (g_allocations-- == 0)
+        throw std::bad_alloc();
+    return ::operator new(size);
+}
+
+// What is left behind is counted at the end of the test.
+TEST_F(Clipboard, ACopyThatRunsOutOfMemoryAnywhereLeavesNothing) {
+    const char* const name = sizeof(void*) == 8 ? "_Znwy" : "_Znwj";  // operator new
+    CUIObject* a = AddRectangle(10, 20, 30, 40);
+    Pick({a});
+    int failures = -1;
+    do {
+        g_allocations = ++failures;
+        ASSERT_TRUE(ReplaceImport(L"TesselAfx.dll", name, &SomeFail));
+        EXPECT_NO_THROW(m_canvas->OnEditObjectCopy());
+        ReplaceImport(L"TesselAfx.dll", name, static_cast<void* (*)(size_t)>(&::operator new));
+    } while (g_allocations < 0);
+    EXPECT_GT(failures, 2) << "the source and two entries at least";
+    EXPECT_EQ(ReadClipboard(PrivateFormat()), Record(a));
 }
 
 // Kept: a cut deletes, whether the copy came to the clipboard or not.

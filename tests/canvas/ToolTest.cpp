@@ -130,6 +130,22 @@ TEST_F(ToolTest, DrawingByDragging) {
     });
 }
 
+TEST_F(ToolTest, AnObjectWhereADestroyedOneLayIsNotTheOneBeingDrawn) {
+    Run("tool:3 T press:50,40");
+    CUIObject* const drawn = Objects().back();
+    CUIDocument::DestroyObject(drawn);
+    std::vector<std::unique_ptr<CUIObject>> others;
+    do
+        others.emplace_back(CUIToolBase::CreateUIObject({50, 40, 0, 0}, DS_RECTANGLE));
+    while (others.back().get() != drawn && others.size() < 1000);
+    if (others.back().get() != drawn)
+        GTEST_SKIP() << "its memory is not used again";
+    m_document->AppendObject(others.back().get(), nullptr);
+    m_canvas->m_selection = {others.back().release()};
+    Run("release:50,40");
+    EXPECT_EQ(State(), "t3 d0 h-1 arrow a b1(50,40,0,0)");
+}
+
 TEST_F(ToolTest, DrawingALine) {
     ExpectStates({
         {"tool:1", "press:10,12", "t1 d2 h1 held cross a1{10,12 +0,0}"},
