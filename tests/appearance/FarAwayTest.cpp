@@ -137,20 +137,6 @@ TEST(FarAway, AnOutlineThatCannotBeDrawnLeavesTheFill) {
     }
 }
 
-TEST(FarAway, ALineWithoutACapOfItsOwnEndsFlat) {
-    const auto draw = [](int cap) {
-        auto surface = std::make_unique<Surface>(40, 20);
-        CUIObjectLine line(RectF(5, 10, 30, 0), DS_LINE);
-        for (Gdiplus::PointF point : {Gdiplus::PointF(5, 10), Gdiplus::PointF(35, 10)})
-            line.AddPoint(point);
-        line.SetLineStartCap(cap);
-        line.SetLineEndCap(cap);
-        line.Draw(&surface->graphics());
-        return surface->Painted();
-    };
-    EXPECT_EQ(draw(Gdiplus::LineCapFlat), draw(Gdiplus::LineCapCustom));
-}
-
 TEST(FarAway, AHugeTextBoxIsHitInsideItsEllipse) {
     // An edge that is no number stands at 0.
     for (const RectF& place :

@@ -80,67 +80,6 @@ TEST(ShapeClassTest, KindsAndNames) {
     static_assert(sizeof(CUIObjectRectangle) <= 640);
 }
 
-TEST_F(RectangleTest, DefaultFillCoversTheInnerHalfOfTheOutline) {
-    m_rectangle.SetLineWidth(8);
-    m_rectangle.Draw(m_surface);
-    EXPECT_EQ(m_surface.At(47, 80), kBlue);
-    EXPECT_TRUE(m_surface.Shows(100, 80, 0x800000FF));
-    EXPECT_EQ(m_surface.At(52, 80), kBlue);
-    EXPECT_EQ(m_surface.At(44, 80), Surface::kWhite);
-    // A fill of another colour over it shows that the outline came first.
-    m_rectangle.SetFillColor(0xFFFF0000);
-    m_rectangle.Draw(m_surface);
-    EXPECT_EQ(m_surface.At(52, 80), 0xFFFF0000);
-    EXPECT_EQ(m_surface.At(47, 80), kBlue);
-}
-
-TEST_F(RectangleTest, DefaultOutlineIsTwoWideAndFourWhenDragged) {
-    m_rectangle.Draw(m_surface);
-    EXPECT_EQ(m_surface.Painted(), CRect(49, 39, 151, 121));
-    m_surface.Clear();
-    m_rectangle.DrawDragImage(m_surface, m_point);
-    EXPECT_EQ(m_surface.Painted(), CRect(48, 38, 152, 122));
-    EXPECT_EQ(m_surface.At(100, 80), Surface::kWhite);
-}
-
-TEST_F(RectangleTest, EllipseFillsItsInsideOnly) {
-    m_ellipse.Draw(m_surface);
-    EXPECT_TRUE(m_surface.Shows(100, 80, 0x800000FF));
-    EXPECT_EQ(m_surface.At(54, 44), Surface::kWhite);
-    m_surface.Clear();
-    m_ellipse.SetFillShapeMode(2);
-    m_ellipse.DrawDragImage(m_surface, m_point);
-    EXPECT_TRUE(m_surface.Shows(100, 80, 0x800000FF));
-    m_surface.Clear();
-    m_ellipse.DrawContents(m_surface);
-    EXPECT_EQ(m_surface.At(100, 80), Surface::kWhite);
-    EXPECT_EQ(m_surface.At(100, 40), 0xFF000000);
-    m_surface.Clear();
-    m_rectangle.DrawContents(m_surface);
-    EXPECT_TRUE(m_surface.Painted().IsRectEmpty());
-}
-
-TEST_F(RectangleTest, DisabledRecordsAndOtherModesPaintNothing) {
-    const struct {
-        int lineEnabled, lineMode, fillEnabled, fillMode;
-        bool outline, fill;
-    } cases[] = {{1, 1, 1, 1, true, true},  {0, 1, 1, 1, false, true}, {1, 1, 0, 1, true, false},
-                 {1, 0, 1, 2, false, true}, {1, 3, 1, 2, false, true}, {1, 2, 1, 0, true, false},
-                 {1, 2, 1, 7, true, false}};
-    for (const auto& c : cases) {
-        m_surface.Clear();
-        auto& line = m_rectangle.GetCoordinate().Format<CUIShapeFormatLineColor>();
-        auto& fill = m_rectangle.GetCoordinate().Format<CUIShapeFormatFill>();
-        line.m_bEnabled = c.lineEnabled;
-        line.m_nShapeMode = c.lineMode;
-        fill.m_bEnabled = c.fillEnabled;
-        fill.m_nShapeMode = c.fillMode;
-        m_rectangle.Draw(m_surface);
-        EXPECT_EQ(m_surface.At(49, 80) != Surface::kWhite, c.outline) << c.lineMode << c.fillMode;
-        EXPECT_EQ(m_surface.At(100, 80) != Surface::kWhite, c.fill) << c.lineMode << c.fillMode;
-    }
-}
-
 TEST_F(RectangleTest, CaptionLiesUnderTheFill) {
     Caption(m_rectangle, 1);
     m_rectangle.SetText(L"HHHH");
@@ -223,13 +162,6 @@ TEST_F(RectangleTest, ImageFilesAreFreedAtOnce) {
         m_rectangle.Draw(m_surface);
     }
     EXPECT_NE(::DeleteFile(picture.path()), FALSE);
-}
-
-TEST_F(RectangleTest, DragUsesThePositionOffsetAndNotThePoint) {
-    m_rectangle.SetPositionOffset({20, 10});
-    Gdiplus::PointF point(40, 40);
-    m_rectangle.DrawDragImage(m_surface, point);
-    EXPECT_EQ(m_surface.Painted(), CRect(68, 48, 172, 132));
 }
 
 TEST(PictureFileTest, WeighsWhatAPictureClaimsAsLongAsItsFileStays) {

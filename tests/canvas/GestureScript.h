@@ -20,6 +20,7 @@
 //   grab                       a host begins to move the selection from (60,60)
 //   max:POINTS rectmode        of the figure on top
 //   destroy:a other clear quiet    the object; another page; no page; no interaction
+//   empty delete group ungroup back    commands
 //   paint                      what is to be repainted shows from here on
 //
 // A state comes out as tool (t), drag (d), handle (h), mode if it is not 0 (m), whether the canvas holds the
@@ -121,6 +122,12 @@ private:
             {"destroy", [&] { Lumo::CUIDocument::DestroyObject(Named(text[0])); }},
             {"other", [&] { m_document->SetCurrentCanvas(OtherPage()); }},
             {"clear", [&] { m_document->ClearCanvas(); }},
+            {"empty", [&] { m_document->ClearObject(m_document->GetCanvasObjectList()); }},
+            {"delete",
+             [&] { m_document->DeleteObject(m_canvas->m_selection.empty() ? nullptr : Page().front()); }},
+            {"group", [&] { m_canvas->OnToolsMakeGroup(); }},
+            {"ungroup", [&] { m_canvas->OnToolsMakeUngroup(); }},
+            {"back", [&] { m_canvas->OnToolsPositionBackward(); }},
             {"quiet", [&] { m_canvas->SetInteractive(0); }},
             {"paint", [&] { m_painted = (TakeUpdateRect(), true); }},
         };

@@ -3,6 +3,8 @@
 #include <array>
 #include <iterator>
 #include <memory>
+#include <random>
+#include <set>
 #include <gtest/gtest.h>
 
 using namespace Lumo;
@@ -458,6 +460,36 @@ TEST_F(ToolTest, ACopyOfAToolIsNotRegistered) {
         EXPECT_EQ(assigned.m_nDragMode, CUISelectTool::kHandle);
     }
     EXPECT_EQ(CUIToolBase::m_tools.size(), count);
+}
+
+// The seed of a failure replays it.
+TEST_F(ToolTest, GesturesAtRandomLeaveNoPointerToWhatIsGone) {
+    const char* const words[] = {
+        "press:", "press:", "move:",  "release:", "release:", "double:", "hover:",  "tool:16",
+        "tool:1", "tool:2", "tool:3", "tool:4",   "tool:13",  "tool:14", "tool:18", "mode:2",
+        "mode:0", "delete", "group",  "ungroup",  "back",     "R",       "S",       "empty"};
+    for (unsigned seed = 1; seed <= 4; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        for (int i = 0; i < 500; ++i) {
+            std::string word = words[random() % std::size(words)];
+            if (word == "empty" && i % 10 != 0)
+                continue;
+            if (word.back() == ':')
+                word += std::to_string(random() % kWidth) + ',' + std::to_string(random() % kHeight) +
+                        (random() % 4 == 0   ? ",c"
+                         : random() % 4 == 0 ? ",s"
+                                             : "");
+            Run(word);
+            m_canvas->UpdateWindow();
+            const std::set<CUIObject*> selected(m_canvas->m_selection.begin(), m_canvas->m_selection.end());
+            ASSERT_EQ(selected.size(), m_canvas->m_selection.size()) << word;
+            for (CUIObject* object : selected)
+                ASSERT_EQ(std::ranges::count(Objects(), object), 1) << word;
+        }
+        Run("empty");
+        EXPECT_TRUE(m_canvas->m_selection.empty());
+    }
 }
 
 }  // namespace

@@ -136,24 +136,6 @@ TEST(CaptionTest, TallCaptionIsPaintedWhereItReachesBeyondTheObject) {
     EXPECT_EQ(part.Painted().top, painted.top);
 }
 
-TEST(TrackerTest, CirclesOnCornersAndSquaresOnEdges) {
-    Surface surface(200, 200);
-    CUIObject object({50, 50, 100, 100}, DS_RECTANGLE);
-    object.DrawTracker(surface);
-    for (int handle = 0; handle < 8; ++handle) {
-        const Gdiplus::PointF point = object.GetHandlePoint(handle);
-        const int x = static_cast<int>(point.X), y = static_cast<int>(point.Y);
-        EXPECT_TRUE(surface.Shows(x, y, 0xFF87CEEB)) << handle;
-        // Just inside the corner of its box a square is filled and a circle is not.
-        EXPECT_EQ(surface.Shows(x - 3, y - 3, 0xFF87CEEB), handle >= 4) << handle;
-        EXPECT_TRUE(surface.Shows(x + 4, y, 0xFF000000) || surface.Shows(x + 3, y, 0xFF000000)) << handle;
-    }
-    EXPECT_EQ(surface.At(100, 100), Surface::kWhite);
-    const CRect painted = surface.Painted();
-    EXPECT_GE(painted.left, 45);
-    EXPECT_LE(painted.right, 156);
-}
-
 TEST(TrackerTest, FollowsHandlesThatAHostPlacesElsewhere) {
     struct Far : CUIObject {
         using CUIObject::CUIObject;
