@@ -380,7 +380,7 @@ def build(places):
         if done.returncode == 0:
             return
         wrong = set()
-        for path, line in re.findall(r"(\S+\.cpp):(\d+):\d+: (?:fatal )?error", done.stdout):
+        for path, line in re.findall(r"(\S+\.cpp):(\d+):\d+: +(?:(?:fatal )?error|required from here)", done.stdout):
             full = os.path.realpath(BUILD / path)
             for number, place in places.items():
                 if full == os.path.realpath(TREE / place.file) and place.last[0] <= int(line) <= place.last[1]:

@@ -221,6 +221,39 @@ TEST(Archive, ClosingALoadLeavesTheFileAtTheNextValue) {
     EXPECT_EQ(4u, loader.file.GetPosition());
 }
 
+TEST(Archive, FlushesIntoItsFileThroughABufferOfTheHosts) {
+    BYTE buffer[200] = {}, little[100] = {};
+    CMemFile file;
+    {
+        CArchive ar(&file, CArchive::store, sizeof buffer, buffer);
+        ar << BYTE(1) << BYTE(2);
+        EXPECT_TRUE(file.GetLength() == 0 && buffer[1] == 2);
+        ar.Flush();
+        EXPECT_EQ(2u, file.GetLength());
+        ar << BYTE(3);
+    }
+    {
+        CArchive ar(&file, CArchive::store, sizeof little, little);
+        ar.Write("abcde", 5);
+        EXPECT_EQ(0, little[0]) << "too small to be used";
+    }
+    EXPECT_EQ("\1\2\3abcde", Content(file));
+    file.Seek(1, CFile::begin);
+    CArchive ar(&file, CArchive::load, 128);
+    BYTE byte;
+    ar >> byte;
+    EXPECT_TRUE(byte == 2 && file.GetPosition() == 8);
+    ar.Flush();
+    EXPECT_EQ(2u, file.GetPosition()) << "what was not read yet is given back";
+    ar >> byte;
+    EXPECT_EQ(3, byte);
+    wchar_t line[3] = L"xy";
+    EXPECT_TRUE(ar.ReadString(line, 1) == line && line[0] == 0) << "no room for a character";
+    EXPECT_EQ(line, ar.ReadString(line, 2));
+    EXPECT_EQ(L'a' | L'b' << 8, line[0]);
+    EXPECT_TRUE(Throws<CInvalidArgException>([] { CArchive(nullptr, CArchive::load); }));
+}
+
 TEST(Archive, DestructionFlushesUnlessToldNotTo) {
     for (UINT mode : {UINT(CArchive::store), UINT(CArchive::store | CArchive::bNoFlushOnDelete)}) {
         TemporaryFile temporary;

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <set>
+#include <string>
 #include <vector>
 
 namespace {
@@ -134,6 +135,28 @@ TEST(Dialog, BelongsToTheMainWindowUnlessToldOtherwise) {
     program.m_pMainWnd = nullptr;
 }
 
+TEST(Dialog, KeysGoThroughItsControlsAndButtonsEndIt) {
+    AskDialog dialog;
+    ASSERT_TRUE(dialog.Create(MAKEINTRESOURCE(700)));
+    dialog.ShowWindow(SW_SHOW);
+    const auto key = [&](UINT message, UINT which) {
+        MSG pressed = {dialog.GetDlgItem(710)->m_hWnd, message, which, 0, 0, {}};
+        return dialog.PreTranslateMessage(&pressed) != FALSE;
+    };
+    dialog.GetDlgItem(710)->SetFocus();
+    EXPECT_TRUE(key(WM_KEYDOWN, VK_TAB));
+    EXPECT_EQ(711, CWnd::GetFocus()->GetDlgCtrlID());
+    EXPECT_FALSE(key(WM_PAINT, 0) || key(WM_APP, 0) || key(WM_TIMER, 0));
+    EXPECT_TRUE(key(WM_MOUSEMOVE, 0));
+    EXPECT_FALSE(dialog.SendMessage(WM_COMMAND, MAKEWPARAM(IDOK, BN_SETFOCUS)));
+    EXPECT_FALSE(dialog.SendMessage(WM_COMMAND, 999));
+    EXPECT_TRUE(dialog.IsWindowVisible());
+    EXPECT_TRUE(dialog.SendMessage(WM_COMMAND, IDCANCEL));
+    EXPECT_FALSE(dialog.IsWindowVisible()) << "hidden, but still there";
+    EXPECT_FALSE(dialog.CreateIndirect(nullptr) || dialog.InitModalIndirect(nullptr));
+    dialog.DestroyWindow();
+}
+
 /// A folder of its own, gone with the object.
 struct TestFolder {
     CString path;
@@ -146,20 +169,46 @@ struct TestFolder {
     ~TestFolder() { ::RemoveDirectory(path); }
 };
 
-TEST(FileDialog, GivesTheChosenPath) {
+BOOL CALLBACK NoteControl(HWND window, LPARAM notes) {
+    TCHAR name[32], text[64];
+    ::GetClassName(window, name, 32);
+    ::GetWindowText(window, text, 64);
+    auto& all = *reinterpret_cast<std::wstring*>(notes);
+    if (::lstrcmpi(name, _T("Edit")) == 0 && ::IsWindowVisible(window))
+        all += std::wstring(text) + L'|';
+    if (::lstrcmpi(name, _T("ComboBox")) == 0 && ::SendMessage(window, CB_GETCOUNT, 0, 0) == 2)
+        all += L"filter " + std::to_wstring(::SendMessage(window, CB_GETCURSEL, 0, 0)) + L'|';
+    return TRUE;
+}
+
+TEST(FileDialog, ShowsWhatItIsGivenAndGivesTheChosenPath) {
     TestFolder folder;
-    CString wanted = folder.path + _T("\\새 page.cbf");
-    CFileDialog dialog(FALSE, _T("cbf"), wanted, OFN_OVERWRITEPROMPT,
-                       _T("Pages (*.cbf)|*.cbf|All (*.*)|*.*||"));
-    DialogUser user([](HWND window) { ::PostMessage(window, WM_COMMAND, IDOK, 0); });
-    ASSERT_EQ(IDOK, dialog.DoModal());
-    EXPECT_EQ(1u, user.Shown());
-    EXPECT_EQ(0, wanted.CompareNoCase(dialog.GetPathName()));
-    EXPECT_EQ(CString(_T("새 page.cbf")), dialog.GetFileName());
-    EXPECT_EQ(CString(_T("새 page")), dialog.GetFileTitle());
-    EXPECT_EQ(CString(_T("cbf")), dialog.GetFileExt());
-    EXPECT_EQ(0, folder.path.CompareNoCase(dialog.GetFolderPath()));
-    EXPECT_EQ(1u, dialog.m_ofn.nFilterIndex);
+    for (int row = 0; row < 2; ++row) {
+        CFileDialog dialog(FALSE, _T("cbf"), row ? _T("plain") : folder.path + _T("\\새 page.cbf"),
+                           OFN_OVERWRITEPROMPT, _T("Pages (*.cbf)|*.cbf|All (*.*)|*.*||"));
+        dialog.m_ofn.lpstrTitle = _T("Pick one");
+        dialog.m_ofn.lpstrInitialDir = folder.path;
+        dialog.m_ofn.nFilterIndex = static_cast<DWORD>(2 * row);
+        std::wstring seen;
+        DialogUser user([&](HWND window) {
+            TCHAR title[32];
+            ::GetWindowText(window, title, 32);
+            seen = std::wstring(title) + L'|';
+            ::EnumChildWindows(window, &NoteControl, reinterpret_cast<LPARAM>(&seen));
+            ::PostMessage(window, WM_COMMAND, IDOK, 0);
+        });
+        ASSERT_EQ(IDOK, dialog.DoModal());
+        EXPECT_EQ(1u, user.Shown());
+        EXPECT_EQ(row ? L"Pick one|plain|filter 1|" : L"Pick one|\xC0C8 page.cbf|filter 0|", seen);
+        const CString name(row ? _T("plain") : _T("새 page"));
+        EXPECT_EQ(0, dialog.GetFolderPath().CompareNoCase(folder.path));
+        EXPECT_EQ(name, dialog.GetFileTitle());
+        EXPECT_EQ(CString(row ? _T("") : _T("cbf")), dialog.GetFileExt());
+        EXPECT_EQ(row + 1u, dialog.m_ofn.nFilterIndex);
+        EXPECT_EQ(folder.path.GetLength() + 1, dialog.m_ofn.nFileOffset);
+        EXPECT_EQ(dialog.GetPathName().ReverseFind('.') + 1, dialog.m_ofn.nFileExtension);
+        EXPECT_EQ(dialog.GetFileName(), CString(dialog.m_ofn.lpstrFileTitle));
+    }
 }
 
 TEST(FileDialog, CanBeCancelled) {
