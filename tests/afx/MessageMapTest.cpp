@@ -4,6 +4,7 @@
 #include "WindowSupport.h"
 
 #include <string>
+#include <type_traits>
 
 namespace {
 
@@ -15,106 +16,74 @@ public:
     std::string log;
 
 protected:
-    void Note(const std::string& text) { log += text + ";"; }
-    void OnSize(UINT type, int cx, int cy) { Note(Text("size", type, cx, cy)); }
-    void OnMove(int x, int y) { Note(Text("move", x, y)); }
-    void OnMouseMove(UINT flags, CPoint p) { Note(Text("mouse", flags, p.x, p.y)); }
+    template <class Value>
+    static auto Number(Value value) {
+        if constexpr (std::is_pointer_v<Value>)
+            return reinterpret_cast<UINT_PTR>(value);
+        else
+            return value;
+    }
+    /// Writes a handler's name and its arguments down; gives the handler's answer.
+    template <class... Values>
+    int Note(int answer, const char* name, Values... values) {
+        log += name;
+        ((log += " " + std::to_string(Number(values))), ...);
+        log += ";";
+        return answer;
+    }
+    void OnSize(UINT type, int cx, int cy) { Note(0, "size", type, cx, cy); }
+    void OnMove(int x, int y) { Note(0, "move", x, y); }
+    void OnMouseMove(UINT flags, CPoint p) { Note(0, "mouse", flags, p.x, p.y); }
     BOOL OnMouseWheel(UINT flags, short delta, CPoint p) {
-        Note(Text("wheel", flags, delta, p.x, p.y));
-        return TRUE;
+        return Note(TRUE, "wheel", flags, delta, p.x, p.y);
     }
-    void OnKeyDown(UINT key, UINT repeat, UINT flags) { Note(Text("key", key, repeat, flags)); }
-    void OnTimer(UINT_PTR id) { Note(Text("timer", id)); }
-    void OnSetFocus(CWnd* from) { Note(Text("focus", from == this)); }
-    void OnCaptureChanged(CWnd* to) { Note(Text("capture", to == this)); }
-    void OnContextMenu(CWnd* window, CPoint p) { Note(Text("context", window == this, p.x, p.y)); }
-    BOOL OnSetCursor(CWnd*, UINT hit, UINT message) {
-        Note(Text("cursor", hit, message));
-        return TRUE;
-    }
-    void OnNcLButtonDown(UINT hit, CPoint p) { Note(Text("nc", hit, p.x, p.y)); }
-    void OnSysCommand(UINT id, LPARAM lParam) { Note(Text("system", id, lParam)); }
-    void OnHScroll(UINT code, UINT position, CScrollBar*) { Note(Text("hscroll", code, position)); }
-    void OnActivate(UINT state, CWnd*, BOOL minimized) { Note(Text("activate", state, minimized)); }
-    BOOL OnEraseBkgnd(CDC* dc) {
-        Note(Text("erase", dc != nullptr));
-        return 7;
-    }
+    void OnKeyDown(UINT key, UINT repeat, UINT flags) { Note(0, "key", key, repeat, flags); }
+    void OnTimer(UINT_PTR id) { Note(0, "timer", id); }
+    void OnSetFocus(CWnd* from) { Note(0, "focus", from == this); }
+    void OnCaptureChanged(CWnd* to) { Note(0, "capture", to == this); }
+    void OnContextMenu(CWnd* window, CPoint p) { Note(0, "context", window == this, p.x, p.y); }
+    BOOL OnSetCursor(CWnd*, UINT hit, UINT message) { return Note(TRUE, "cursor", hit, message); }
+    void OnNcLButtonDown(UINT hit, CPoint p) { Note(0, "nc", hit, p.x, p.y); }
+    void OnSysCommand(UINT id, LPARAM lParam) { Note(0, "system", id, lParam); }
+    void OnHScroll(UINT code, UINT position, CScrollBar*) { Note(0, "hscroll", code, position); }
+    void OnActivate(UINT state, CWnd*, BOOL minimized) { Note(0, "activate", state, minimized); }
+    BOOL OnEraseBkgnd(CDC* dc) { return Note(7, "erase", dc != nullptr); }
     HBRUSH OnCtlColor(CDC*, CWnd*, UINT kind) {
-        Note(Text("colour", kind));
-        return static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH));
+        return static_cast<HBRUSH>((Note(0, "colour", kind), ::GetStockObject(GRAY_BRUSH)));
     }
-    UINT OnGetDlgCode() {
-        Note("dialog");
-        return 0x1234;
-    }
-    BOOL OnQueryEndSession() {
-        Note("query");
-        return 1;
-    }
-    LRESULT OnNcHitTest(CPoint p) {
-        Note(Text("hit", p.x, p.y));
-        return 18;
-    }
-    void OnEnable(BOOL on) { Note(Text("enable", on)); }
-    void OnShowWindow(BOOL shown, UINT why) { Note(Text("show", shown, why)); }
-    void OnNcCalcSize(BOOL all, NCCALCSIZE_PARAMS* data) {
-        Note(Text("frame", all, reinterpret_cast<UINT_PTR>(data)));
-    }
-    void OnGetMinMaxInfo(MINMAXINFO* info) { Note(Text("limits", reinterpret_cast<UINT_PTR>(info))); }
-    void OnMenuSelect(UINT item, UINT flags, HMENU menu) {
-        Note(Text("select", item, flags, reinterpret_cast<UINT_PTR>(menu)));
-    }
+    UINT OnGetDlgCode() { return Note(0x1234, "dialog"); }
+    BOOL OnQueryEndSession() { return Note(1, "query"); }
+    LRESULT OnNcHitTest(CPoint p) { return Note(18, "hit", p.x, p.y); }
+    void OnEnable(BOOL on) { Note(0, "enable", on); }
+    void OnShowWindow(BOOL shown, UINT why) { Note(0, "show", shown, why); }
+    void OnNcCalcSize(BOOL all, NCCALCSIZE_PARAMS* data) { Note(0, "frame", all, data); }
+    void OnGetMinMaxInfo(MINMAXINFO* info) { Note(0, "limits", info); }
+    void OnMenuSelect(UINT item, UINT flags, HMENU menu) { Note(0, "select", item, flags, menu); }
     void OnInitMenuPopup(CMenu* menu, UINT index, BOOL system) {
-        Note(Text("popup", menu == nullptr, index, system));
+        Note(0, "popup", menu == nullptr, index, system);
     }
     int OnMouseActivate(CWnd* top, UINT hit, UINT message) {
-        Note(Text("click", top == this, hit, message));
-        return MA_NOACTIVATE;
+        return Note(MA_NOACTIVATE, "click", top == this, hit, message);
     }
-    BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data) {
-        Note(Text("data", from == this, data->dwData));
-        return 1;
-    }
-    void OnDropFiles(HDROP files) { Note(Text("drop", reinterpret_cast<UINT_PTR>(files))); }
-    void OnRawInput(UINT code, HRAWINPUT input) {
-        Note(Text("input", code, reinterpret_cast<UINT_PTR>(input)));
-    }
-    void OnSettingChange(UINT what, LPCTSTR where) { Note(Text("setting", what, where[0])); }
-    void OnMeasureItem(int id, LPMEASUREITEMSTRUCT item) { Note(Text("measure", id, item->itemID)); }
-    BOOL OnMaybe(UINT id) {
-        Note(Text("maybe", id));
-        return id == 221;
-    }
-    void OnClicks(UINT id) { Note(Text("clicks", id)); }
+    BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data) { return Note(1, "data", from == this, data->dwData); }
+    void OnDropFiles(HDROP files) { Note(0, "drop", files); }
+    void OnRawInput(UINT code, HRAWINPUT input) { Note(0, "input", code, input); }
+    void OnSettingChange(UINT what, LPCTSTR where) { Note(0, "setting", what, where[0]); }
+    void OnMeasureItem(int id, LPMEASUREITEMSTRUCT item) { Note(0, "measure", id, item->itemID); }
+    BOOL OnMaybe(UINT id) { return Note(id == 221, "maybe", id); }
+    void OnClicks(UINT id) { Note(0, "clicks", id); }
     void OnHits(UINT id, NMHDR* header, LRESULT* result) {
-        Note(Text("hits", id, header->code == static_cast<UINT>(-13)));
-        *result = 43;
+        *result = Note(43, "hits", id, header->code == static_cast<UINT>(-13));
     }
-    void OnCommand1() { Note("command1"); }
-    void OnRange(UINT id) { Note(Text("range", id)); }
-    void OnChange() { Note("change"); }
+    void OnCommand1() { Note(0, "command1"); }
+    void OnRange(UINT id) { Note(0, "range", id); }
+    void OnChange() { Note(0, "change"); }
     void OnHit(NMHDR* header, LRESULT* result) {
-        Note(Text("notify", header->code == static_cast<UINT>(-12)));
-        *result = 42;
+        *result = Note(42, "notify", header->code == static_cast<UINT>(-12));
     }
-    LRESULT OnOwn(WPARAM wParam, LPARAM lParam) {
-        Note(Text("own", wParam, lParam));
-        return 5;
-    }
-    LRESULT OnRegistered(WPARAM, LPARAM) {
-        Note("registered");
-        return 6;
-    }
+    LRESULT OnOwn(WPARAM wParam, LPARAM lParam) { return Note(5, "own", wParam, lParam); }
+    LRESULT OnRegistered(WPARAM, LPARAM) { return Note(6, "registered"); }
     DECLARE_MESSAGE_MAP()
-
-private:
-    template <class... Values>
-    static std::string Text(const char* name, Values... values) {
-        std::string text(name);
-        ((text += " " + std::to_string(values)), ...);
-        return text;
-    }
 };
 
 BEGIN_MESSAGE_MAP(Recorder, CWnd)

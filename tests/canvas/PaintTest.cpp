@@ -69,32 +69,6 @@ TEST_F(PaintTest, OnlyObjectsThatTheUpdateTouchesAreDrawn) {
     EXPECT_EQ(outside->drawn, 2);
 }
 
-TEST_F(PaintTest, DraggingOneShapeOverManyRepaintsOnlyItsRectangle) {
-    std::vector<Watched*> all;
-    for (int i = 0; i < 10000; ++i) {
-        const int row = i / 100;
-        auto* object = new Watched({static_cast<float>(i % 100) * 4, static_cast<float>(row) * 3, 3, 2});
-        object->SetText(CString(L" "));
-        m_document->AppendObject(object, nullptr);
-        all.push_back(object);
-    }
-    CUIObject* top = AddRectangle(100, 100, 20, 20);
-    m_canvas->UpdateWindow();
-    m_canvas->Select(top, 0);
-    m_canvas->UpdateWindow();
-    for (Watched* object : all)
-        object->drawn = 0;
-    Press(110, 110);
-    Move(112, 110);
-    m_canvas->UpdateWindow();
-    Release(112, 110);
-    int drawn = 0;
-    for (const Watched* object : all)
-        drawn += object->drawn;
-    EXPECT_GT(drawn, 0);
-    EXPECT_LT(drawn, 200);  // 34 by 34 units hold about 9 by 12 of them
-}
-
 // Objects of a host that do not draw library objects where their rectangles say: what a partial paint leaves
 // out must not follow from that.
 

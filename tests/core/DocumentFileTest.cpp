@@ -1,6 +1,7 @@
 #include "canvas/UICanvas.h"
 #include "core/UIDocument.h"
 #include "core/UIObject.h"
+#include "stress/support/Imports.h"
 #include "support/MessageBoxAnswerer.h"
 #include "support/TemporaryFile.h"
 
@@ -165,6 +166,53 @@ TEST_F(DocumentFileTest, TargetsThatCannotBeWrittenAreRefusedQuietly) {
     EXPECT_TRUE(::RemoveDirectory(folder)) << "something was left in it";
     EXPECT_TRUE(boxes.texts.empty());
     EXPECT_EQ(m_document->GetCanvasObjectList()->size(), 1u);
+}
+
+CString g_closedFolder;
+
+HANDLE WINAPI MakesNothing(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                           DWORD creation, DWORD attributes, HANDLE pattern) {
+    if (creation != CREATE_NEW || CString(path).Find(g_closedFolder) < 0)
+        return ::CreateFileW(path, access, share, security, creation, attributes, pattern);
+    ::SetLastError(ERROR_ACCESS_DENIED);
+    return INVALID_HANDLE_VALUE;
+}
+
+BOOL WINAPI MovesNothing(LPCWSTR, LPCWSTR, DWORD) {
+    ::SetLastError(ERROR_ACCESS_DENIED);
+    return FALSE;
+}
+
+TEST_F(DocumentFileTest, WhatCannotBeReplacedIsWrittenOver) {
+    constexpr LPCWSTR kLibrary = L"TesselCtrls.dll";
+    const CString plain = m_path, folder = m_path + L".folder";
+    MessageBoxAnswerer boxes;
+    g_closedFolder = folder.Mid(folder.ReverseFind(L'\\'));
+    ::CreateDirectory(folder, nullptr);
+    for (const bool moves : {true, false}) {
+        m_path = folder + L"\\page.cbf";
+        for (int i = 0; i < 400; ++i)  // more than a block, and less again the second time
+            m_document->CreateObject(DS_RECTANGLE, CRect(0, 0, 5, i));
+        ASSERT_EQ(m_document->Save(m_path), 1);
+        m_document->ClearObject(m_document->GetCanvasObjectList());
+        m_document->CreateObject(DS_ELLIPSE, CRect(0, 0, 5, 5));
+        if (moves)
+            ASSERT_TRUE(ReplaceImport(kLibrary, "CreateFileW", &MakesNothing));
+        else
+            ASSERT_TRUE(ReplaceImport(kLibrary, "MoveFileExW", &MovesNothing));
+        EXPECT_EQ(m_document->Save(m_path), 1) << moves;
+        CString fresh = folder + L"\\new.cbf";
+        EXPECT_EQ(m_document->Save(fresh), 0) << "there is nothing to write over";
+        ReplaceImport(kLibrary, "CreateFileW", &::CreateFileW);
+        ReplaceImport(kLibrary, "MoveFileExW", &::MoveFileExW);
+        const std::vector<uint8_t> over = Bytes();
+        ::DeleteFile(m_path);
+        m_path = plain;
+        ASSERT_EQ(m_document->Save(m_path), 1);
+        EXPECT_EQ(over, Bytes()) << moves;
+        m_document->ClearObject(m_document->GetCanvasObjectList());
+    }
+    EXPECT_TRUE(::RemoveDirectory(folder)) << "something was left in it";
 }
 
 TEST_F(DocumentFileTest, WhatLiesBesideStaysAsItIs) {
