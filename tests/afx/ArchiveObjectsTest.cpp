@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace {
 
 /// Counts its objects and points to another one, which it owns unless it got it as a reference.
@@ -177,6 +179,13 @@ TEST(ArchiveObjects, NeedNamesAndTheRightDirection) {
     EXPECT_TRUE(node.IsSerializable() && !plain.IsSerializable());
     EXPECT_EQ(RUNTIME_CLASS(CLeaf), CRuntimeClass::FromName("CLeaf"));
     EXPECT_EQ(nullptr, CRuntimeClass::FromName("CPlain"));
+    CRuntimeClass first = *RUNTIME_CLASS(CNode), second = first, third = first;
+    first.m_lpszClassName = "1", second.m_lpszClassName = "2", third.m_lpszClassName = "3";
+    auto one = std::make_unique<AFX_CLASSINIT>(&first), two = std::make_unique<AFX_CLASSINIT>(&second);
+    const AFX_CLASSINIT three(&third);
+    two.reset();  // a DLL in the middle goes
+    EXPECT_EQ(nullptr, CRuntimeClass::FromName("2"));
+    EXPECT_TRUE(CRuntimeClass::FromName("1") == &first && CRuntimeClass::FromName("3") == &third);
     EXPECT_TRUE(Throws<CNotSupportedException>([&] { Stored([&](CArchive& ar) { ar << &plain; }); }));
     LoadingArchive loader(kNode);
     EXPECT_TRUE(Throws<CNotSupportedException>([&] { loader.ar.ReadObject(RUNTIME_CLASS(CObject)); }));

@@ -334,6 +334,12 @@ TEST(Menu, ObjectsAreFoundByTheirHandles) {
     EXPECT_TRUE(loaded.LoadMenu(730));
     handle = loaded.m_hMenu;
     EXPECT_TRUE(loaded.DestroyMenu() && !::IsMenu(handle));
+    {
+        CMenu brief;
+        brief.CreateMenu();
+        handle = brief.m_hMenu;
+    }
+    EXPECT_FALSE(::IsMenu(handle)) << "gone with its object";
 }
 
 TEST(CommandState, ControlsShowWhatTheHandlersSay) {

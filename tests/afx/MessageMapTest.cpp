@@ -249,6 +249,7 @@ protected:
         log += "hit;";
         *result = 21;
     }
+    void OnMute(NMHDR*, LRESULT*) { log += "mute;"; }
     BOOL OnMaybe(NMHDR*, LRESULT* result) {
         log += "maybe;";
         *result = 22;
@@ -273,6 +274,7 @@ BEGIN_MESSAGE_MAP(Reflecting, CWnd)
     ON_CONTROL_REFLECT(EN_CHANGE, &Reflecting::OnChange)
     ON_CONTROL_REFLECT_EX(EN_UPDATE, &Reflecting::OnUpdate)
     ON_NOTIFY_REFLECT(-12, &Reflecting::OnHit)
+    ON_NOTIFY_REFLECT(-14, &Reflecting::OnMute)
     ON_NOTIFY_REFLECT_EX(-13, &Reflecting::OnMaybe)
     ON_WM_CTLCOLOR_REFLECT()
     ON_WM_HSCROLL_REFLECT()
@@ -314,6 +316,8 @@ TEST(Reflection, ShowsTheControlWhatItsParentIsTold) {
     const auto window = reinterpret_cast<LPARAM>(control.m_hWnd);
     NMHDR hit{control.m_hWnd, 51, static_cast<UINT>(-12)}, maybe = hit;
     maybe.code = static_cast<UINT>(-13);
+    NMHDR mute = hit;
+    mute.code = static_cast<UINT>(-14);
     DRAWITEMSTRUCT item{};
     item.itemID = 6;
     item.hwndItem = control;
@@ -339,6 +343,7 @@ TEST(Reflection, ShowsTheControlWhatItsParentIsTold) {
         {WM_COMMAND, MAKEWPARAM(51, EN_KILLFOCUS), window, "", "focus;", "focus;", 1, 1},
         {WM_NOTIFY, 51, reinterpret_cast<LPARAM>(&hit), "hit;", "", "", 21, 21},
         {WM_NOTIFY, 51, reinterpret_cast<LPARAM>(&maybe), "maybe;", "", "maybe;", 22, 32},
+        {WM_NOTIFY, 51, reinterpret_cast<LPARAM>(&mute), "mute;", "", "", 0, 0},
         {WM_CTLCOLOREDIT, context, window, "colour 1;", "", "", reinterpret_cast<LRESULT>(Reflecting::brush),
          -1},
         {WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 70), window, "scroll 5 70;", "", "", 0, 0},

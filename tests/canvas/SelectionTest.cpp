@@ -131,6 +131,11 @@ TEST_F(Selection, RectanglesOfTheSelection) {
 
     m_canvas->Select(AddRectangle(-10.4f, -5.5f, 5, 5), 1);
     EXPECT_EQ(m_canvas->GetSelectionRect(), CRect(-10, -6, 140, 120));
+    for (const UINT_PTR empty : {UINT_PTR{0}, ~UINT_PTR{0}}) {
+        m_canvas->m_selection.push_front(reinterpret_cast<CUIObject*>(empty));  // hosts mark empty slots so
+        EXPECT_EQ(m_canvas->GetSelectionLastRect(), CRect(0, 0, 0, 0));
+        m_canvas->m_selection.pop_front();
+    }
 }
 
 TEST_F(Selection, ARectangleOnTheFarEdgesIsNotInside) {

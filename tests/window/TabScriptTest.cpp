@@ -56,7 +56,7 @@ private:
 //   refuse:N                              the host refuses a notification, counted from the first
 //   down:X,Y move: up: double: middle: right: wheel:N leave lose away   the mouse; lose takes the capture,
 //                                         away gives the parent the keyboard
-//   key:NAME pump:NAME type:TEXT          the keyboard, the pump's keys, the editor's text
+//   key:NAME pump:NAME alt:NAME type:TEXT the keyboard, the pump's keys, with Alt, the editor's text
 //
 // What comes of it are the tabs with the current one marked, how far they are scrolled, what is under the
 // pointer or under way, and the notifications.
@@ -148,6 +148,7 @@ protected:
              }},
             {"key", [&] { tabs.SendMessage(WM_KEYDOWN, keys.at(text)); }},
             {"pump", [&] { Pump(keys.at(text)); }},
+            {"alt", [&] { Pump(keys.at(text), WM_SYSKEYDOWN); }},
             {"type", [&] { tabs.GetWindow(GW_CHILD)->SetWindowText(CString(text.c_str())); }},
         };
         if (const auto found = mouse.find(verb); found != mouse.end())
@@ -157,8 +158,8 @@ protected:
     }
 
     // A key as the program's pump gets it.
-    void Pump(UINT key) {
-        MSG message = {::GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
+    void Pump(UINT key, UINT kind = WM_KEYDOWN) {
+        MSG message = {::GetFocus(), kind, key, 0, 0, {}};
         m_parent.notes += AfxPreTranslateMessage(&message) ? " taken" : "";
     }
 
@@ -320,6 +321,7 @@ TEST_F(TabScript, Renaming) {
         {"rename", "double:70,9", "A* B C D edit B 65-145 : begin1"},
         {"rename", "begin:4 begin:-1", "A* B C D :"},
         {"rename", "double:70,9 type:new pump:return", "A* new C D focus : begin1 rename1(new) end1 taken"},
+        {"rename", "double:70,9 alt:x pump:x", "A* B C D edit B 65-145 : begin1 taken"},
         {"rename", "double:70,9 type:new pump:esc", "A* B C D focus : begin1 end1 taken"},
         {"rename", "double:70,9 type:new away", "A* new C D : begin1 rename1(new) end1"},
         {"rename", "double:70,9 pump:return", "A* B C D focus : begin1 end1 taken"},

@@ -142,6 +142,16 @@ TEST_F(WindowHelpers, WindowsMoveTogetherAndOnlyWhenTheyMust) {
     EXPECT_EQ(1, a.m_moves);
     EXPECT_EQ(0, b.m_moves);
     EXPECT_FALSE(c.GetStyle() & WS_VISIBLE);
+    const int moves = c.m_moves;
+    {
+        DeferWindow layout;
+        layout.Hide(c);
+        layout.Hide(none);
+        layout.Show(none, CRect(0, 0, 5, 5));
+        layout.Show(a, CRect(5, 6, 25, 36));
+        layout.Move(b, CRect(1, 0, 10, 10));
+    }
+    EXPECT_TRUE(c.m_moves == moves && a.m_moves == 1 && b.m_moves == 1) << "what is so already is left alone";
     {
         DeferWindow layout;
         layout.Show(c, CRect(0, 0, 10, 10));
