@@ -141,7 +141,7 @@ void GeqState::OnDrag(CWnd*, UINT, const CPoint& point) {
 }
 
 bool PeqState::IsSmall() {
-    constexpr int kRoomAcross = 150, kRoomDown = 120;
+    constexpr int kRoomAcross = 190, kRoomDown = 120;
     const CSize size = Size();
     return size.cx < kRoomAcross || size.cy < kRoomDown;
 }

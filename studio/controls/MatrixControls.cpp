@@ -37,7 +37,7 @@ DeviceChart::Field DeviceChart::Layout() {
     // What the whole cells leave over stands on both sides.
     const float restAcross = std::max(0.0f, (across - cell) * Device::kChannels);
     const float restDown = std::max(0.0f, (down - cell) * Device::kChannels);
-    return {std::floor(left + restAcross / 2), std::floor(top + restDown / 2), cell};
+    return {std::floor(left + restAcross / 2), std::floor(top + restDown / 2), cell, roomy};
 }
 
 CPoint DeviceChart::CellOf(int input, int output) {
@@ -116,7 +116,7 @@ void DeviceChart::Render(Picture& picture) {
     const auto height = static_cast<float>(picture.Height());
     picture.FrameRound(0, 0, width, height, 5.0f, Ink::kCard, Ink::kEdge);
     const Field field = Layout();
-    if (field.left > 10.0f)
+    if (field.labels)
         RenderLabels(picture, field);
     for (int in = 1; in <= Device::kChannels; ++in) {
         for (int out = 1; out <= Device::kChannels; ++out)

@@ -35,6 +35,7 @@ private:
     };
     struct Field {
         float left, top, cell;
+        bool labels;
     };
     Field Layout();
     Cell CellAt(CPoint point);

@@ -150,10 +150,10 @@ void Picture::Curve(int left, const float* ys, int count, float width, float top
         const float before = i > 0 ? (ys[i - 1] + ys[i]) * 0.5f : ys[i];
         const float behind = i + 1 < count ? (ys[i] + ys[i + 1]) * 0.5f : ys[i];
         const float steep = std::hypot(1.0f, behind - before);
-        const float half = width * 0.5f * std::min(steep, 3.0f);
-        const float upper = std::max(top, std::min({before, ys[i], behind}) - half + (steep - 1.0f) * 0.25f);
-        const float lower =
-            std::min(bottom, std::max({before, ys[i], behind}) + half - (steep - 1.0f) * 0.25f);
+        // What is steep is thinner across, but nowhere shorter than the curve.
+        const float half = std::max(0.0f, width * 0.5f * std::min(steep, 3.0f) - (steep - 1.0f) * 0.25f);
+        const float upper = std::max(top, std::min({before, ys[i], behind}) - half);
+        const float lower = std::min(bottom, std::max({before, ys[i], behind}) + half);
         const auto x = static_cast<float>(left + i);
         if (lower > upper)
             Fill(x, upper, x + 1.0f, lower, color);

@@ -6,7 +6,8 @@ namespace Studio {
 
 bool SectionHeader::Create(CWnd& parent, Text title, UINT id) {
     m_title = title;
-    return CButton::Create(GetText(title), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW,
+    return CButton::Create(GetText(title),
+                           WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP | BS_OWNERDRAW,
                            CRect(0, 0, 0, 0), &parent, id) != FALSE;
 }
 
