@@ -2,10 +2,12 @@
 #include "studio/StudioFixture.h"
 
 #include "core/UIObjectPoly.h"
+#include "studio/editing/Grid.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/History.h"
 #include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
+#include "support/Golden.h"
 
 #include <algorithm>
 #include <random>
@@ -14,181 +16,174 @@
 using namespace Studio;
 using Lumo::CUIObject;
 
-class EditingTest : public StudioFixture {};
+namespace {
 
-TEST_F(EditingTest, DrawsNamedShapesOneAfterTheOther) {
-    ChooseTool(Page(), Lumo::DS_RECTANGLE);
-    Drag({20, 30}, {120, 90});
-    // Dragged up and to the left, a shape stands all the same.
-    Drag({300, 90}, {200, 30});
-    ASSERT_EQ(2u, Objects().size());
-    ExpectBounds(*Objects()[0], 20, 30, 100, 60);
-    ExpectBounds(*Objects()[1], 200, 30, 100, 60);
-    EXPECT_EQ(CString(L"Rectangle2"), Objects()[1]->GetShapeName());
-    EXPECT_EQ(Objects()[1], Page().m_selection.front());
-    EXPECT_EQ(Lumo::DS_RECTANGLE, Lumo::CUIToolBase::run_drawshape);
-    EXPECT_EQ(1, m_document->GetModifiedFlag());
-    EXPECT_EQ(&Page(), Objects()[0]->GetCanvas());
-}
+constexpr auto kSelect = Lumo::DS_SELECT, kBox = Lumo::DS_RECTANGLE, kEllipse = Lumo::DS_ELLIPSE,
+               kLine = Lumo::DS_LINE, kPoly = Lumo::DS_POLYLINE, kText = Lumo::DS_TEXTEDIT;
 
-TEST_F(EditingTest, OnlyTheTooSmallShapeVanishes) {
-    CUIObject* first = Add(Lumo::DS_RECTANGLE, 10, 10, 50, 50);
-    CUIObject* second = Add(Lumo::DS_ELLIPSE, 100, 10, 50, 50);
-    m_document->SetModifiedFlag(0);
-    ChooseTool(Page(), Lumo::DS_RECTANGLE);
-    Drag({200, 200}, {202, 202});
-    EXPECT_EQ((Lumo::CUIObjectDeque{first, second}), Objects());
-    EXPECT_TRUE(Page().m_selection.empty());
-    EXPECT_EQ(Lumo::DS_SELECT, Lumo::CUIToolBase::run_drawshape);
-    EXPECT_EQ(0, m_document->GetModifiedFlag());
-}
-
-TEST_F(EditingTest, BandSelectsWhatItTouches) {
-    CUIObject* box = Add(Lumo::DS_RECTANGLE, 50, 50, 60, 60);
-    CUIObject* line = Add(Lumo::DS_LINE, 200, 50, 100, 100);
-    CUIObject* distant = Add(Lumo::DS_ELLIPSE, 400, 200, 50, 50);
-    Page().Select(nullptr, 0);
-    Drag({90, 200}, {40, 100});
-    EXPECT_EQ((Lumo::CUIObjectDeque{box}), Page().m_selection);
-    // The corner of the line's rectangle is not the line.
-    Drag({260, 45}, {305, 80}, MK_SHIFT);
-    EXPECT_EQ(1u, Page().m_selection.size());
-    Drag({180, 40}, {230, 90}, MK_SHIFT);
-    EXPECT_EQ((Lumo::CUIObjectDeque{line, box}), Page().m_selection);
-    Drag({380, 180}, {500, 300});
-    EXPECT_EQ((Lumo::CUIObjectDeque{distant}), Page().m_selection);
-    Click({550, 350});
-    EXPECT_TRUE(Page().m_selection.empty());
-}
-
-TEST_F(EditingTest, MovesAllSelectedObjectsAndPicksOneByAClick) {
-    CUIObject* box = Add(Lumo::DS_RECTANGLE, 50, 50, 60, 60);
-    auto* line = static_cast<Lumo::CUIObjectLine*>(Add(Lumo::DS_LINE, 200, 50, 100, 100));
-    SelectAll(Page());
-    m_document->SetModifiedFlag(0);
-    Drag({80, 80}, {95, 70});
-    ExpectBounds(*box, 65, 40, 60, 60);
-    EXPECT_FLOAT_EQ(315.0f, line->NormalizePoints()->at(1).X);
-    EXPECT_EQ(2u, Page().m_selection.size());
-    EXPECT_EQ(1, m_document->GetModifiedFlag());
-    Click({90, 70});
-    EXPECT_EQ((Lumo::CUIObjectDeque{box}), Page().m_selection);
-    Click({265, 90}, MK_SHIFT);
-    EXPECT_EQ(2u, Page().m_selection.size());
-    Click({90, 70}, MK_SHIFT);
-    EXPECT_EQ((Lumo::CUIObjectDeque{line}), Page().m_selection);
-    // With another tool active a line moves with its points all the same.
-    ChooseTool(Page(), Lumo::DS_RECTANGLE);
-    NudgeSelection(Page(), 5, 0);
-    EXPECT_FLOAT_EQ(320.0f, line->NormalizePoints()->at(1).X);
-}
-
-TEST_F(EditingTest, ResizesAcrossTheOppositeEdge) {
-    CUIObject* box = Add(Lumo::DS_RECTANGLE, 100, 100, 50, 40);
-    Drag({150, 140}, {60, 180});
-    ExpectBounds(*box, 60, 100, 40, 80);
-    Drag({100, 180}, {140, 200}, MK_SHIFT);
-    ExpectBounds(*box, 60, 100, 80, 160);
-    auto* line = static_cast<Lumo::CUIObjectLine*>(Add(Lumo::DS_LINE, 200, 200, 50, 50));
-    Drag({250, 250}, {260, 220});
-    EXPECT_FLOAT_EQ(200.0f, line->NormalizePoints()->at(0).X);
-    EXPECT_FLOAT_EQ(260.0f, line->NormalizePoints()->at(1).X);
-    EXPECT_FLOAT_EQ(220.0f, line->NormalizePoints()->at(1).Y);
-}
-
-TEST_F(EditingTest, ACancelledGestureLeavesNoTrace) {
-    CUIObject* box = Add(Lumo::DS_RECTANGLE, 100, 100, 50, 40);
-    m_document->SetModifiedFlag(0);
-    struct {
-        Lumo::DrawShape tool;
-        CPoint from, to;
-    } gestures[] = {
-        {Lumo::DS_SELECT, {120, 120}, {200, 200}},   {Lumo::DS_SELECT, {150, 140}, {300, 300}},
-        {Lumo::DS_SELECT, {10, 10}, {300, 300}},     {Lumo::DS_ELLIPSE, {200, 200}, {300, 300}},
-        {Lumo::DS_POLYLINE, {200, 200}, {300, 300}},
-    };
-    for (const auto& gesture : gestures) {
-        for (bool loseCapture : {false, true}) {
-            SCOPED_TRACE(::testing::Message() << gesture.tool << " at " << gesture.from.x);
-            Page().Select(box, 0);
-            ChooseTool(Page(), gesture.tool);
-            Mouse(WM_LBUTTONDOWN, gesture.from.x, gesture.from.y);
-            Mouse(WM_MOUSEMOVE, gesture.to.x, gesture.to.y);
-            const bool spans = Page().CurrentGesture() && Page().CurrentGesture()->SpansPresses();
-            if (loseCapture && !spans)
-                ::ReleaseCapture();
-            else
-                EXPECT_TRUE(Page().CancelGesture());
-            EXPECT_EQ(nullptr, Page().CurrentGesture());
-            EXPECT_NE(Page().m_hWnd, ::GetCapture());
-            // The release that follows belongs to nothing.
-            Mouse(WM_LBUTTONUP, gesture.to.x, gesture.to.y);
-            EXPECT_EQ((Lumo::CUIObjectDeque{box}), Objects());
-            ExpectBounds(*box, 100, 100, 50, 40);
-            EXPECT_EQ(0, m_document->GetModifiedFlag());
-        }
+class EditingTest : public StudioFixture {
+protected:
+    void TearDown() override {
+        PageGrid() = Grid();
+        StudioFixture::TearDown();
     }
-}
 
-TEST_F(EditingTest, DrawsLinesByDragAndByClicks) {
-    ChooseTool(Page(), Lumo::DS_LINE);
-    Drag({20, 20}, {120, 60});
-    EXPECT_EQ(Lumo::DS_SELECT, Lumo::CUIToolBase::run_drawshape);
-    ChooseTool(Page(), Lumo::DS_LINE);
-    Click({30, 100});
-    Mouse(WM_MOUSEMOVE, 80, 110);
-    ASSERT_EQ(2u, Objects().size());
-    // The free end follows the mouse without a button.
-    EXPECT_FLOAT_EQ(80.0f, static_cast<Lumo::CUIObjectPoly*>(Objects()[1])->NormalizePoints()->at(1).X);
-    EXPECT_NE(Page().m_hWnd, ::GetCapture());
-    Click({130, 120});
-    EXPECT_EQ(nullptr, Page().CurrentGesture());
-    ExpectBounds(*Objects()[1], 30, 100, 100, 20);
-    EXPECT_EQ(CString(L"Line2"), Objects()[1]->GetShapeName());
-}
+    // Every object with its kind, its place or points, and a mark while it is selected: "R 10,20 50,40* |
+    // ...".
+    CString State() {
+        CString state;
+        for (CUIObject* object : Objects()) {
+            state += (state.IsEmpty() ? L"" : L" | ") + object->GetShapeName().Left(1);
+            if (auto* poly = dynamic_cast<Lumo::CUIObjectPoly*>(object)) {
+                for (const Gdiplus::PointF& point : *poly->NormalizePoints())
+                    state.AppendFormat(L" %g,%g", point.X, point.Y);
+            } else {
+                const Gdiplus::RectF place = object->GetPosition();
+                state.AppendFormat(L" %g,%g %g,%g", place.X, place.Y, place.Width, place.Height);
+            }
+            state += Page().IsSelected(object) ? L"*" : L"";
+        }
+        return state;
+    }
 
-TEST_F(EditingTest, EndsAPolylineInEveryWay) {
-    const auto draw = [&] {
-        ChooseTool(Page(), Lumo::DS_POLYLINE);
-        for (CPoint at : {CPoint(20, 20), CPoint(60, 80), CPoint(100, 20)})
-            Click(at);
-    };
-    const auto points = [&] {
-        return static_cast<Lumo::CUIObjectPoly*>(Objects().back())->NormalizePoints()->size();
-    };
-    draw();
-    Mouse(WM_LBUTTONDBLCLK, 100, 20);
-    EXPECT_EQ(3u, points());
-    draw();
-    Mouse(WM_RBUTTONDOWN, 300, 300);
-    Mouse(WM_RBUTTONUP, 300, 300);
-    EXPECT_EQ(3u, points());
-    EXPECT_EQ(0, m_menus);
-    draw();
-    Page().FinishEditing();
-    EXPECT_EQ(3u, points());
-    EXPECT_EQ(3u, Objects().size());
-    EXPECT_EQ(Lumo::DS_SELECT, Lumo::CUIToolBase::run_drawshape);
-    // A double click on one spot is no figure.
-    ChooseTool(Page(), Lumo::DS_POLYLINE);
-    Click({200, 200});
-    Mouse(WM_LBUTTONDBLCLK, 200, 200);
-    EXPECT_EQ(3u, Objects().size());
-}
+    Pixels Painted() {
+        Page().UpdateWindow();
+        return PixelsOf(Page());
+    }
+};
 
-TEST_F(EditingTest, DeletesWhatIsSelectedAndNothingElse) {
-    CUIObject* first = Add(Lumo::DS_RECTANGLE, 10, 10, 50, 50);
-    CUIObject* second = Add(Lumo::DS_ELLIPSE, 100, 10, 50, 50);
-    Add(Lumo::DS_LINE, 200, 10, 50, 50);
-    Page().SelectOnly({second, Objects()[2]});
-    DeleteSelection(Page());
-    EXPECT_EQ((Lumo::CUIObjectDeque{first}), Objects());
-    EXPECT_TRUE(Page().m_selection.empty());
-    // The right button selects what its menu is about.
-    Mouse(WM_RBUTTONDOWN, 30, 30);
-    Mouse(WM_RBUTTONUP, 30, 30);
-    EXPECT_EQ((Lumo::CUIObjectDeque{first}), Page().m_selection);
-    EXPECT_EQ(1, m_menus);
+// What is done with a tool to a rectangle, a line and an ellipse, a command that follows, and what is there
+// then.
+const struct {
+    Lumo::DrawShape tool;
+    LPCWSTR gesture;
+    void (*command)(StudioCanvas&);
+    LPCWSTR state;
+} kRows[] = {
+    // clang-format off
+    {kSelect, L"d120,120 u120,120 d240,90s u240,90s", nullptr, L"R 100,100 50,40* | L 200,60 280,120* | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d240,90s u240,90s d130,120s u130,120s", nullptr, L"R 100,100 50,40 | L 200,60 280,120* | E 350,95 60,64"},
+    {kSelect, L"d10,10 m420,200 u420,200 d380,130 u380,130", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64*"},
+    {kSelect, L"d90,130 m130,150 u100,139", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d90,150 m99,90 u99,90", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d240,100s m230,130s u250,60s d285,40s m260,99s u262,99s", nullptr, L"R 100,100 50,40* | L 200,60 280,120* | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d300,300 u300,300", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d300,300s u300,300s", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"R120,120", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d10,10 m420,200 u420,200 R120,120", nullptr, L"R 100,100 50,40* | L 200,60 280,120* | E 350,95 60,64*"},
+    {kSelect, L"d120,120 m122,118 u122,118", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 m123,120 m121,120 u121,120", nullptr, L"R 101,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 m90,90 m160,133 u160,133", nullptr, L"R 140,113 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 m150,125c u150,125c", nullptr, L"R 130,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d10,10 m420,200 u420,200 d240,90 m250,70 u250,70", nullptr, L"R 110,80 50,40* | L 210,40 290,100* | E 360,75 60,64*"},
+    {kSelect, L"d120,120 m200,200 e u200,200", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 m200,200 x u200,200", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 m200,200 f", nullptr, L"R 180,180 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 m200,200 R200,200 u200,200", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d150,140 m60,180 u60,180", nullptr, L"R 60,100 40,80* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d150,140 m170,190s u170,190s", nullptr, L"R 100,100 112.5,90* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d100,100 m90,80 u90,80", nullptr, L"R 90,80 60,60* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d125,100 m90,80 u90,80", nullptr, L"R 100,80 50,60* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d150,120 m190,80 u190,80", nullptr, L"R 100,100 90,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d150,140 m170,143c u170,143c", nullptr, L"R 100,100 50,43* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d150,140 u150,140", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d150,140 m300,300 e", nullptr, L"R 100,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d240,90 u240,90 d280,120 m300,70 u300,70", nullptr, L"R 100,100 50,40 | L 200,60 300,70* | E 350,95 60,64"},
+    {kSelect, L"d240,90 u240,90 d200,60 m270,10c u270,10c", nullptr, L"R 100,100 50,40 | L 280,10 280,120* | E 350,95 60,64"},
+    {kSelect, L"d10,10 m420,200 u420,200 d280,120 m300,70 u300,70", nullptr, L"R 100,100 50,40* | L 200,60 300,70* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200 d150,140 m170,150 u170,150", nullptr, L"R 100,100 70,50* | L 200,60 280,120* | E 350,95 80,74*"},
+    {kBox, L"d20,30 m120,90 u120,90 d300,290 m200,230 u200,230", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | R 20,30 100,60 | R 200,230 100,60*"},
+    {kBox, L"d20,30 m120,90s u120,90s", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | R 20,30 100,100*"},
+    {kBox, L"d20,30 m100,100 u22,32", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kBox, L"d20,30 u23,33", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | R 20,30 3,3*"},
+    {kText, L"d20,30 m120,90 e d20,130 m90,160 x", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kEllipse, L"d20,30 m120,90 R120,90 u120,90", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kLine, L"d20,20 m60,60 u120,60", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | L 20,20 120,60*"},
+    {kLine, L"d30,100 u34,100 m80,110 d130,120 u130,120", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | L 30,100 130,120*"},
+    {kLine, L"d30,200 u30,200 m80,210c d130,212c u130,212c", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | L 30,200 130,200*"},
+    {kLine, L"d30,100 u35,100", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | L 30,100 35,100*"},
+    {kPoly, L"d20,20 u20,20 d60,80 u60,80 d100,20 u100,20 D100,20 u100,20", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | P 20,20 60,80 100,20*"},
+    {kPoly, L"d20,20 u20,20 d60,80 u60,80 d100,20 u100,20 m300,300 R300,300", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | P 20,20 60,80 100,20*"},
+    {kPoly, L"d20,20 m60,80 u60,80 d100,20 u100,20 m300,300 f", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | P 20,20 60,80 100,20*"},
+    {kPoly, L"d20,20 m60,80 u60,80 d100,20 u100,20 m300,300 e", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kPoly, L"d200,200 u200,200 D200,200 u200,200", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { NudgeSelection(page, 5, -2); }, L"R 105,98 50,40* | L 205,58 285,118* | E 355,93 60,64*"},
+    {kSelect, L"d120,120 u120,120 d240,90s u240,90s", &DeleteSelection, L"E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d240,90s u240,90s", &GroupSelection, L"E 350,95 60,64 | G 100,60 180,80*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { AlignSelection(page, Alignment::kLeft); }, L"R 350,100 50,40* | L 350,60 430,120* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { AlignSelection(page, Alignment::kRight); }, L"R 360,100 50,40* | L 330,60 410,120* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { AlignSelection(page, Alignment::kTop); }, L"R 100,95 50,40* | L 200,95 280,155* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { AlignSelection(page, Alignment::kBottom); }, L"R 100,119 50,40* | L 200,99 280,159* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { AlignSelection(page, Alignment::kCentres); }, L"R 355,100 50,40* | L 340,60 420,120* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { AlignSelection(page, Alignment::kMiddles); }, L"R 100,107 50,40* | L 200,97 280,157* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { AlignSelection(page, Alignment::kBoth); }, L"R 355,107 50,40* | L 340,97 420,157* | E 350,95 60,64*"},
+    {kSelect, L"d120,120 u120,120 d240,90s u240,90s", [](StudioCanvas& page) { AlignSelection(page, Alignment::kTop); }, L"R 100,60 50,40* | L 200,60 280,120* | E 350,95 60,64"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { DistributeSelection(page, true); }, L"R 100,100 50,40* | L 210,60 290,120* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { DistributeSelection(page, false); }, L"R 100,87.5 50,40* | L 200,60 280,120* | E 350,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { RotateSelection(page, true); }, L"R 224.5,-45.5 40,50* | L 304.5,54.5 244.5,134.5* | E 205.5,204.5 64,60*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { RotateSelection(page, false); }, L"R 245.5,214.5 40,50* | L 205.5,164.5 265.5,84.5* | E 240.5,-45.5 64,60*"},
+    {kSelect, L"d10,10 m290,200 u290,200", [](StudioCanvas& page) { GroupSelection(page), RotateSelection(page, true), UngroupSelection(page); }, L"E 350,95 60,64 | R 150,10 40,50* | L 230,110 170,190*"},
+    {kSelect, L"d10,10 m290,200 u290,200", [](StudioCanvas& page) { GroupSelection(page), RotateSelection(page, false), UngroupSelection(page); }, L"E 350,95 60,64 | R 190,140 40,50* | L 150,90 210,10*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { FlipSelection(page, true); }, L"R 360,100 50,40* | L 310,60 230,120* | E 100,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { FlipSelection(page, false); }, L"R 100,79 50,40* | L 200,159 280,99* | E 350,60 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { GroupSelection(page), FlipSelection(page, true), UngroupSelection(page); }, L"R 360,100 50,40* | L 310,60 230,120* | E 100,95 60,64*"},
+    {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { GroupSelection(page), FlipSelection(page, false), UngroupSelection(page); }, L"R 100,79 50,40* | L 200,159 280,99* | E 350,60 60,64*"},
+    {kSelect, L"d120,120 u120,120", [](StudioCanvas& page) { RestackSelection(page, Stacking::kForward); }, L"L 200,60 280,120 | R 100,100 50,40* | E 350,95 60,64"},
+    {kSelect, L"d10,10 m290,200 u290,200", [](StudioCanvas& page) { RestackSelection(page, Stacking::kFront); }, L"E 350,95 60,64 | R 100,100 50,40* | L 200,60 280,120*"},
+    {kSelect, L"d240,90 u240,90 d380,120s u380,120s", [](StudioCanvas& page) { RestackSelection(page, Stacking::kBackward); }, L"L 200,60 280,120* | E 350,95 60,64* | R 100,100 50,40"},
+    {kSelect, L"d380,120 u380,120", [](StudioCanvas& page) { RestackSelection(page, Stacking::kBack); }, L"E 350,95 60,64* | R 100,100 50,40 | L 200,60 280,120"},
+    {kSelect, L"d380,120 u380,120", [](StudioCanvas& page) { RestackSelection(page, Stacking::kForward); }, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64*"},
+    {kSelect, L"d120,120 u120,120", [](StudioCanvas& page) { ChooseTool(page, kLine), NudgeSelection(page, 5, 0); }, L"R 105,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d10,10 m290,200 u290,200", [](StudioCanvas& page) { GroupSelection(page), page.FinishEditing(); }, L"E 350,95 60,64 | G 100,60 180,80*"},
+    {kBox, L"", [](StudioCanvas&) { PageGrid().snapping = true; }, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kBox, L"d18,33 m123,88 u123,88", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | R 20,30 100,60*"},
+    {kPoly, L"d18,33 m66,88 u66,88 m123,88 f", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | P 20,30 70,90*"},
+    {kSelect, L"d120,120 m133,127 u133,127", nullptr, L"R 110,110 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 m133,121c u133,121c", nullptr, L"R 113,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d120,120 u120,120 d150,140 m166,151 u166,151", nullptr, L"R 100,100 70,50* | L 200,60 280,120 | E 350,95 60,64"},
+    {kSelect, L"d10,10 m420,200 u420,200 d120,120 m136,120 u136,120", nullptr, L"R 120,100 50,40* | L 220,60 300,120* | E 370,95 60,64*"},
+    // clang-format on
+};
+
+}  // namespace
+
+TEST_F(EditingTest, Gestures) {
+    m_parent.ShowWindow(SW_SHOWNA);
+    Page().ShowWindow(SW_SHOWNA);
+    for (const auto& row : kRows) {
+        SCOPED_TRACE(testing::Message() << "row " << &row - kRows);
+        ChooseTool(Page(), kSelect);
+        SelectAll(Page());
+        DeleteSelection(Page());
+        Add(kBox, 100, 100, 50, 40);
+        Add(kLine, 200, 60, 80, 60)->SetLineWidth(4);
+        Add(kEllipse, 350, 95, 60, 64)->SetText(L"wide caption");
+        Page().Select(nullptr, 0);
+        m_document->Edits().MarkSaved();
+        ChooseTool(Page(), row.tool);
+        const CString before = State();
+        Play(row.gesture);
+        if (row.command)
+            row.command(Page());
+        EXPECT_STREQ(State(), row.state);
+        const Pixels parts = Painted();
+        Page().Invalidate(FALSE);
+        EXPECT_EQ(CountDiffering(Painted(), parts), 0u) << "something is stale";
+        EXPECT_EQ(nullptr, Page().CurrentGesture());
+        EXPECT_NE(Page().m_hWnd, ::GetCapture());
+        // Undone, everything stands where it stood.
+        const CString after = State();
+        int steps = 0;
+        while (m_document->GetModifiedFlag() && m_document->Edits().Undo())
+            ++steps;
+        Page().Select(nullptr, 0);
+        EXPECT_STREQ(State(), before);
+        while (steps-- > 0)
+            m_document->Edits().Redo();
+        CString plain = State(), wanted = after;
+        plain.Replace(L"*", L""), wanted.Replace(L"*", L"");
+        EXPECT_STREQ(plain, wanted);
+    }
 }
 
 TEST_F(EditingTest, GroupsStayWhereTheyAre) {
@@ -225,34 +220,6 @@ TEST_F(EditingTest, GroupsStayWhereTheyAre) {
     ExpectBounds(*box, 60, 55, 120, 80);
     EXPECT_FLOAT_EQ(460.0f, line->NormalizePoints()->at(1).X);
     EXPECT_FLOAT_EQ(255.0f, line->NormalizePoints()->at(1).Y);
-}
-
-TEST_F(EditingTest, ArrangesTheWholeSelection) {
-    CUIObject* a = Add(Lumo::DS_RECTANGLE, 10, 10, 20, 20);
-    CUIObject* b = Add(Lumo::DS_LINE, 100, 50, 40, 20);
-    CUIObject* c = Add(Lumo::DS_ELLIPSE, 200, 90, 30, 30);
-    Page().SelectOnly({a, b});
-    RestackSelection(Page(), Stacking::kFront);
-    EXPECT_EQ((Lumo::CUIObjectDeque{c, a, b}), Objects());
-    RestackSelection(Page(), Stacking::kForward);
-    EXPECT_EQ((Lumo::CUIObjectDeque{c, a, b}), Objects());
-    RestackSelection(Page(), Stacking::kBackward);
-    EXPECT_EQ((Lumo::CUIObjectDeque{a, b, c}), Objects());
-    Page().SelectOnly({a, c});
-    RestackSelection(Page(), Stacking::kForward);
-    EXPECT_EQ((Lumo::CUIObjectDeque{b, a, c}), Objects());
-    RestackSelection(Page(), Stacking::kBack);
-    EXPECT_EQ((Lumo::CUIObjectDeque{a, c, b}), Objects());
-    Page().SelectOnly({c, b, a});
-    AlignSelection(Page(), Alignment::kLeft);
-    EXPECT_FLOAT_EQ(10.0f, b->GetPosition().X);
-    EXPECT_FLOAT_EQ(10.0f, static_cast<Lumo::CUIObjectPoly*>(b)->NormalizePoints()->at(0).X);
-    AlignSelection(Page(), Alignment::kMiddles);
-    EXPECT_FLOAT_EQ(5.0f, c->GetPosition().Y);
-    // A quarter turn about the selection's middle takes the points of a line along.
-    Page().SelectOnly({b});
-    RotateSelection(Page(), true);
-    ExpectBounds(*b, 20, 0, 20, 40);
 }
 
 TEST_F(EditingTest, EditsATextBoxInPlace) {

@@ -1,7 +1,9 @@
 // What a running page looks like, and that a change repaints all that it changes.
 #include "RunFixture.h"
-#include "studio/controls/MatrixControls.h"
-#include "support/Golden.h"
+#include "studio/document/DemoProject.h"
+#include "studio/document/SymbolLibrary.h"
+#include "studio/editing/Grid.h"
+#include "studio/editing/ObjectClipboard.h"
 
 #include <gtest/gtest.h>
 
@@ -12,17 +14,6 @@ namespace {
 
 class GoldenTest : public RunFixture {
 protected:
-    // What has been repainted piece by piece is what a whole repaint gives.
-    void ExpectNothingStale() {
-        m_session->Update();
-        const Pixels pieces = PixelsOf(Page());
-        m_session->PageShown();
-        Page().UpdateWindow();
-        CPoint where(0, 0);
-        EXPECT_EQ(CountDiffering(PixelsOf(Page()), pieces, &where), 0u)
-            << "at " << where.x << ", " << where.y;
-    }
-
     // A range that the value of a behaviour goes through.
     static void SetRange(CUIPreference& prefs, int low, int high) {
         for (CPrefMove* move : {&prefs.m_move1, &prefs.m_move2})
@@ -139,25 +130,110 @@ TEST_F(GoldenTest, Trends) {
     ExpectNothingStale();
 }
 
-TEST_F(GoldenTest, Controls) {
-    const Gdiplus::RectF places[] = {{3, 5, 210, 130},   {221, 7, 180, 122},   {409, 4, 187, 140},
-                                     {5, 151, 190, 96},  {203, 153, 80, 41},   {291, 151, 110, 60},
-                                     {409, 155, 88, 39}, {203, 231, 190, 120}, {5, 261, 185, 113}};
-    for (int i = 0; i < 9; ++i)
-        Add(static_cast<Lumo::DrawShape>(Lumo::DS_CHARTPEQ + i), places[i].X, places[i].Y, places[i].Width,
-            places[i].Height);
-    m_device.Settle();
-    m_device.Set(L"in1.gain", -17.5);
-    m_device.Set(L"xp.3.5.on", 1.0);
-    m_device.Set(L"xp.3.5.gain", -9.0);
-    m_device.Set(L"out1.peq.2.gain", 11.0);
-    m_device.Set(L"out1.geq.7", -8.0);
+TEST_F(GoldenTest, DemoProject) {
+    m_parent.MoveWindow(0, 0, 810, 700);
+    ASSERT_TRUE(m_document->NewFile(MakeDemoProject()));
+    Sheet edited(1621);
+    const auto show = [&](int page) {
+        Page().ShowWindow(SW_HIDE);
+        m_document->ShowPage(page);
+        Page().MoveWindow(0, 0, 808, 690);
+        Page().ShowWindow(SW_SHOWNA);
+        Page().UpdateWindow();
+        return PixelsOf(Page());
+    };
+    for (int page = 0; page < 4; ++page)
+        edited.Add(show(page));
+    ExpectGolden(edited.All(), "studio", "demo");
+    show(0);
     Run();
-    // The share of letters differs from one version of a font to the next.
-    constexpr size_t kLetters = 1500;
-    ExpectGolden(PixelsOf(Page()), "studio", "controls", kLetters);
-    Mouse(WM_LBUTTONDOWN, 100, 200);
-    Mouse(WM_LBUTTONUP, 100, 200);
-    EXPECT_EQ(m_device.Get(L"in1.mute"), 1.0);
+    for (int i = 0; i < 130; ++i)
+        m_session->Tick(0.1);
+    ExpectGolden(PixelsOf(Page()), "studio", "demo-running");
     ExpectNothingStale();
+}
+
+TEST_F(GoldenTest, StandardSymbols) {
+    const CString folder = FileName(L"symbols");
+    WriteStandardSymbols(folder);
+    const auto symbols = FindSymbols(folder);
+    const Pixels all = PixelsOf(nullptr, CRect(0, 0, 820, 200), [&](HDC dc) {
+        Gdiplus::Graphics g(dc);
+        g.TranslateTransform(5, 5);
+        for (const CString& path : symbols) {
+            const ObjectPtr symbol = LoadSymbol(path);
+            symbol->Draw(&g);
+            g.TranslateTransform(symbol->GetPosition().Width + 15, 0);
+            ::DeleteFile(path);
+        }
+    });
+    ::RemoveDirectory(folder);
+    ExpectGolden(all, "studio", "symbols");
+}
+
+// Each kind of object with its outlines, fills and captions, as it is drawn, selected, and dragged.
+TEST_F(GoldenTest, Editing) {
+    const CString picture = FileName(L"picture.png");
+    golden::Save({3, 2, {0xFF0000, 0x00FF00, 0x0000FF, 0xFFFF00, 0x00FFFF, 0xFFFFFF}}, picture.GetString());
+    Sheet sheet(1203);
+    const auto look = [&] {
+        Page().UpdateWindow();
+        sheet.Add(PixelsOf(Page()));
+    };
+    constexpr Lumo::DrawShape kKinds[] = {Lumo::DS_RECTANGLE, Lumo::DS_ELLIPSE, Lumo::DS_TEXTEDIT,
+                                          Lumo::DS_LINE, Lumo::DS_POLYLINE};
+    constexpr int kCaps[] = {0, 1, 2, 3, 0x11, 0x12, 0x13, 0x14};
+    for (int i = 0; i < 40; ++i) {
+        const int column = i % 8, row = i / 8;
+        CUIObject* object = Add(kKinds[row], 12.0f + 73.0f * static_cast<float>(column),
+                                14.0f + 77.0f * static_cast<float>(row), 51 + static_cast<float>(column), 43);
+        if (auto* poly = dynamic_cast<Lumo::CUIObjectPoly*>(object); poly && row == 4) {
+            Gdiplus::PointF corner = poly->NormalizePoints()->front() + Gdiplus::PointF(40, -9);
+            poly->AddPoint(corner);
+        }
+        object->SetText(column % 3 ? L"Tx\n3y" : L"Aj");
+        object->SetTextAlignment(column % 3);
+        object->SetTextFontStyle(column);
+        object->SetFillShapeMode(column % 7);
+        object->GetCoordinate().Format<Lumo::CUIShapeFormatFill>().m_strImagePath =
+            column == 6 && row == 1 ? CString(L"none.png") : picture;
+        object->SetLineDashStyle(column % 5);
+        object->SetLineWidth(static_cast<float>(1 + column % 4));
+        object->SetLineStartCap(kCaps[column]);
+        object->SetLineEndCap(kCaps[(column + 3) % 8]);
+    }
+    Page().Select(nullptr, 0);
+    PageGrid().shown = true;
+    look();
+    SelectAll(Page());
+    look();
+    DuplicateSelection(Page());
+    SelectAll(Page());
+    look();
+    DeleteSelection(Page());
+    for (const Lumo::DrawShape kind : kKinds) {
+        ChooseTool(Page(), kind);
+        const int x = 30 + 100 * static_cast<int>(kind == Lumo::DS_LINE) + 40 * static_cast<int>(kind);
+        Drag({x % 500, 60}, {x % 500 + 70, 160}, kind == Lumo::DS_ELLIPSE ? MK_SHIFT : 0);
+    }
+    Mouse(WM_MOUSEMOVE, 480, 300);
+    look();
+    Page().FinishEditing();
+    Mouse(WM_LBUTTONDOWN, 590, 10);
+    Mouse(WM_MOUSEMOVE, 300, 111, MK_LBUTTON);
+    look();
+    Mouse(WM_LBUTTONUP, 250, 111);
+    PageGrid() = Grid();
+    Page().Invalidate(FALSE);
+    for (int i = 0; i < 202; ++i)
+        Add(Lumo::DS_ELLIPSE, static_cast<float>(i * 37 % 560), static_cast<float>(i * 53 % 170), 30, 20);
+    SelectAll(Page());
+    Page().Deselect(Objects().front());
+    const Gdiplus::RectF grip = Objects().back()->GetPosition();
+    const CPoint from(static_cast<int>(grip.X) + 9, static_cast<int>(grip.Y) + 9);
+    Mouse(WM_LBUTTONDOWN, from.x, from.y);
+    Mouse(WM_MOUSEMOVE, from.x + 9, from.y + 170, MK_LBUTTON);
+    look();
+    Mouse(WM_LBUTTONUP, from.x, from.y + 170);
+    ExpectGolden(sheet.All(), "studio", "editing");
 }

@@ -1,7 +1,11 @@
 // The property panel in a real window, driven by real keys and controls.
 #include "StudioFixture.h"
 #include "studio/app/panels/PropertyPanel.h"
+#include "studio/document/ObjectExtras.h"
 #include "studio/editing/History.h"
+#include "studio/editing/PageEdits.h"
+#include "studio/properties/PropertyTable.h"
+#include "support/Golden.h"
 
 #include <gtest/gtest.h>
 
@@ -66,6 +70,20 @@ protected:
         state[VK_CONTROL] = 0;
         ::SetKeyboardState(state);
         return kept;
+    }
+    Pixels Picture() {
+        ::HideCaret(nullptr);
+        m_panel.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        return PixelsOf(m_panel);
+    }
+    // A panel as high as all that is in it.
+    void Enlarge(int height) {
+        m_parent.MoveWindow(0, 0, 600, height);
+        m_panel.MoveWindow(300, 0, PropertyPanel::kWidth, height);
+    }
+    void ClickOn(HWND control, int x, int y) {
+        ::SendMessage(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+        ::SendMessage(control, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
     }
     float X() { return Objects().front()->GetPosition().X; }
 
@@ -200,4 +218,107 @@ TEST_F(PropertyPanelTest, AListThatLosesTheFocusWhileItIsPressedGivesTheMouseBac
     ::SendMessage(box, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(70, 40));
     ::SendMessage(box, WM_LBUTTONUP, 0, MAKELPARAM(70, 12));
     EXPECT_EQ(nullptr, ::GetCapture());
+}
+
+// Every kind of object, several, none; with all that they have being different.
+TEST_F(PropertyPanelTest, ShowsWhatIsSelected) {
+    Enlarge(880);
+    Sheet sheet(1100);
+    const auto show = [&](const Lumo::CUIObjectDeque& objects) {
+        Page().SelectOnly(objects);
+        m_panel.Refresh();
+        sheet.Add(Picture());
+    };
+    Lumo::CUIObject* shape = Add(Lumo::DS_RECTANGLE, -10, 20.25f, 100, 50);
+    shape->SetFillShapeMode(3), shape->SetFillColor(0x80123456), shape->SetLineShapeMode(2);
+    shape->SetLineColor(0xABCDEF), shape->SetLineAlpha(51), shape->SetLineWidth(3.5f);
+    shape->SetLineDashStyle(2), shape->SetTextFontStyle(5), shape->SetTextAlignment(2);
+    shape->SetText(L"two\nlines"), shape->SetTextColor(0x40FF00FF), shape->SetTextFontSize(17);
+    shape->GetCoordinate().Format<Lumo::CUIShapeFormatFill>().m_strImagePath = L"C:\\signs\\lamp.png";
+    Lumo::CUIObject* line = Add(Lumo::DS_LINE, 200, 20, 60, 30);
+    line->SetLineStartCap(Gdiplus::LineCapArrowAnchor), line->SetLineEndCap(Gdiplus::LineCapRound);
+    line->SetTextFontStyle(10);
+    Lumo::CUIObject* text = Add(Lumo::DS_TEXTEDIT, 10, 120, 100, 50);
+    Lumo::CUIObject* control = Add(Lumo::DS_CHARTPEQ, 300, 120, 100, 50);
+    EditExtras(*control)->binding = L"out3.peq";
+    show({});
+    for (Lumo::CUIObject* object : {shape, line, text, control})
+        show({object});
+    show({shape, line, text});
+    Page().SelectOnly({shape, text});
+    GroupSelection(Page());
+    show({Objects().back()});
+    // The record of each behaviour; with it alone on it is the one that is shown.
+    Enlarge(640);
+    for (UINT header = 1; header <= 4; ++header)
+        ::SendMessage(::GetDlgItem(m_panel, static_cast<int>(header)), BM_CLICK, 0, 0);
+    for (int i = 0; i < kBehaviourCount; ++i) {
+        const auto behaviour = static_cast<Behaviour>(i);
+        Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+        EditExtras(*object)->binding = L"in1.level";
+        EditExtras(*object)->TurnOn(behaviour, true);
+        for (const Property& field : BehaviourFields(behaviour)) {
+            const int number = static_cast<int>(&field - BehaviourFields(behaviour).data());
+            const PropertyValue now = field.get(*object);
+            if (std::holds_alternative<float>(now))
+                field.set(*object, PropertyValue(number + 0.0f));
+            else if (field.kind == FieldKind::kChoice)
+                field.set(*object, PropertyValue(number % static_cast<int>(field.choices().size())));
+            else if (std::holds_alternative<int>(now))
+                field.set(*object, PropertyValue(number % 2));
+            else if (std::holds_alternative<ColorParts>(now))
+                field.set(*object, PartsOf(0x20103040u * static_cast<DWORD>(number)));
+            else if (field.label != Text::kPropLineColors)
+                field.set(*object, PropertyValue(CString(L"in1.level")));
+        }
+        show({object});
+    }
+    ExpectGolden(sheet.All(), "studio", "properties", 20);
+}
+
+// The states of the fields that the mouse and the keys make.
+TEST_F(PropertyPanelTest, FieldsShowTheirState) {
+    Enlarge(980);
+    Sheet sheet(1100);
+    Lumo::CUIObject* shape = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel.Refresh();
+    const auto header = [&](int number) { return ::GetDlgItem(m_panel, number); };
+    const auto buttons = Controls(L"Button");
+    Type(kWidth, L"0");
+    Press(VK_RETURN);
+    sheet.Add(Picture());
+    Type(kFillOpacity, L"200");
+    Press(VK_RETURN);
+    ::SendMessage(header(4), BM_CLICK, 0, 0);
+    sheet.Add(Picture());
+    ::SendMessage(header(4), BM_CLICK, 0, 0);
+    for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
+        CRect place;
+        ::SetFocus(buttons[i]);
+        ::GetWindowRect(buttons[i], place);
+        m_panel.ScreenToClient(place);
+        Picture();
+        ::SendMessage(buttons[i], BM_SETSTATE, i % 2, 0);
+        sheet.Add(PixelsOf(m_panel, place));
+        ::SendMessage(buttons[i], BM_SETSTATE, 0, 0);
+    }
+    for (const HWND box : Controls(L"ComboBox")) {
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ::GetComboBoxInfo(box, &info);
+        ::SetFocus(box);
+        m_panel.Refresh();
+        if (::SendMessage(box, CB_GETCOUNT, 0, 0) > 20)
+            continue;  // the fonts of the system
+        ::SendMessage(box, CB_SHOWDROPDOWN, TRUE, 0);
+        ::SendMessage(info.hwndList, LB_SETCURSEL, 1, 0);
+        ::RedrawWindow(info.hwndList, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        CWnd list;
+        list.Attach(info.hwndList);
+        sheet.Add(PixelsOf(list));
+        list.Detach();
+        ::SendMessage(box, CB_SHOWDROPDOWN, FALSE, 0);
+    }
+    EXPECT_NE(shape, nullptr);
+    ExpectGolden(sheet.All(), "studio", "fields", 20);
 }

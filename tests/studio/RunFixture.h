@@ -6,6 +6,7 @@
 #include "studio/document/ObjectExtras.h"
 #include "studio/editing/PageEdits.h"
 #include "studio/runtime/RunSession.h"
+#include "support/Golden.h"
 
 #include <afxadv.h>
 
@@ -20,6 +21,7 @@ protected:
         m_parent.ShowWindow(SW_SHOWNA);
         Page().ShowWindow(SW_SHOWNA);
     }
+    void OnTick() override { m_session->Tick(0.4); }
     void TearDown() override {
         m_session.reset();
         StudioFixture::TearDown();
@@ -39,6 +41,17 @@ protected:
         m_session = std::make_unique<Studio::RunSession>(*m_document, m_device, *this);
         m_session->Update();
         Page().UpdateWindow();
+    }
+
+    /// What has been repainted piece by piece is what a whole repaint gives.
+    void ExpectNothingStale() {
+        m_session->Update();
+        const Pixels pieces = PixelsOf(Page());
+        m_session->PageShown();
+        Page().UpdateWindow();
+        CPoint where(0, 0);
+        EXPECT_EQ(CountDiffering(PixelsOf(Page()), pieces, &where), 0u)
+            << "at " << where.x << ", " << where.y;
     }
 
     Studio::ObjectExtras& Extras(Lumo::CUIObject* object, Studio::Behaviour behaviour, LPCWSTR value) {

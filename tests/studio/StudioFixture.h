@@ -51,6 +51,60 @@ protected:
         Mouse(WM_LBUTTONUP, at.x, at.y, flags);
     }
 
+    /// A gesture of words with a place each, measured from `corner`, and s(hift) or c(ontrol): m(ove),
+    /// d(own), u(p), D(ouble click), R(ight button), w(heel), W(heel down); and those without: l(eave), x
+    /// (the mouse is taken away), e(scape), f(inish), t(ick).
+    void Play(const CString& gesture, CPoint corner = CPoint(0, 0)) {
+        int at = 0;
+        for (CString word = gesture.Tokenize(L" ", at); !word.IsEmpty(); word = gesture.Tokenize(L" ", at)) {
+            const int x = ::_wtoi(word.Mid(1)) + corner.x;
+            const int y = ::_wtoi(word.Mid(word.Find(L',') + 1)) + corner.y;
+            const WCHAR last = word[word.GetLength() - 1];
+            const UINT flags = last == L's' ? MK_SHIFT : last == L'c' ? MK_CONTROL : 0;
+            const UINT held = m_down ? MK_LBUTTON : 0;
+            CPoint screen(x, y);
+            Page().ClientToScreen(&screen);
+            m_down = word[0] == L'd' || word[0] == L'D' || (m_down && word[0] != L'u');
+            switch (word[0]) {
+                case L'm':
+                    Mouse(WM_MOUSEMOVE, x, y, flags | held);
+                    break;
+                case L'd':
+                case L'D':
+                    Mouse(word[0] == L'd' ? WM_LBUTTONDOWN : WM_LBUTTONDBLCLK, x, y, flags);
+                    break;
+                case L'u':
+                    Mouse(WM_LBUTTONUP, x, y, flags);
+                    break;
+                case L'R':
+                    Page().SendMessage(WM_RBUTTONDOWN, flags, MAKELPARAM(x, y));
+                    Page().SendMessage(WM_RBUTTONUP, flags, MAKELPARAM(x, y));
+                    break;
+                case L'w':
+                case L'W':
+                    Page().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(flags, word[0] == L'w' ? 120 : -120),
+                                       MAKELPARAM(screen.x, screen.y));
+                    break;
+                case L'l':
+                    Page().SendMessage(WM_MOUSELEAVE);
+                    break;
+                case L'x':
+                    ::ReleaseCapture();
+                    break;
+                case L'e':
+                    Page().CancelGesture();
+                    break;
+                case L'f':
+                    Page().FinishEditing();
+                    break;
+                default:
+                    OnTick();
+            }
+        }
+        m_down = false;
+    }
+    virtual void OnTick() {}
+
     /// Puts a drawn object on the page.
     Lumo::CUIObject* Add(Lumo::DrawShape kind, float x, float y, float width, float height) {
         Lumo::CUIObject* object =
@@ -84,6 +138,7 @@ protected:
     std::vector<CString> m_files;
     int m_notifications = 0;
     int m_menus = 0;
+    bool m_down = false;
 };
 
 /// Compares rectangles for readable messages.
