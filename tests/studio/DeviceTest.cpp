@@ -1,9 +1,12 @@
 // The simulated device: values by name, levels, filters.
 #include "studio/device/Device.h"
 
+#include "support/Golden.h"
+
 #include <gtest/gtest.h>
 
 #include <complex>
+#include <map>
 #include <numbers>
 
 using namespace Studio;
@@ -146,4 +149,35 @@ TEST(DeviceTest, SameSeedSameLevelsAndMutesSilence) {
     for (int i = 0; i < 200; ++i)
         one.Tick(1.0 / 30);
     EXPECT_EQ(one.Get(L"out1.level"), Ballistics::kFloor);
+}
+
+// What there is, with its limits, and what it stands at after a while.
+TEST(DeviceTest, ValuesAndLimits) {
+    Device device(3);
+    device.Settle();
+    device.Set(L"master.gain", -3.0);
+    device.Tick(0.7);
+    std::map<std::string, std::string> limits;
+    std::string values, channel;
+    for (int value = 0; value < device.Count(); ++value) {
+        const ValueInfo& info = device.Info(value);
+        const std::string name(info.name.GetString(), info.name.GetString() + info.name.GetLength());
+        const CString text = device.Describe(value);
+        if (name.substr(0, name.find('.', 3)) != channel)
+            values += "\n" + (channel = name.substr(0, name.find('.', 3))) + ":";
+        values += " " + std::string(text.GetString(), text.GetString() + text.GetLength());
+        std::string kind;
+        for (char c : name)
+            if (c < '0' || c > '9')
+                kind += c;
+            else if (kind.back() != '#')
+                kind += '#';
+        char limit[99];
+        std::snprintf(limit, sizeof limit, "%g to %g%s%s, alarm %g", info.low, info.high,
+                      info.isSwitch ? ", switch" : "", info.isReadOnly ? ", read only" : "", info.alarm);
+        EXPECT_EQ(limits.try_emplace(kind, limit).first->second, limit) << name;
+    }
+    for (const auto& [kind, limit] : limits)
+        values += "\n" + kind + " " + limit;
+    ExpectGoldenText(values + "\n", "studio", "device");
 }

@@ -101,29 +101,58 @@ TEST_F(GoldenTest, Behaviours) {
     for (size_t i = 0; i < std::size(kGains); ++i)
         m_device.Set(kGains[i], -41 + 5 * static_cast<int>(i));
     m_device.Set(L"in2.mute", 1.0);
+    // Colours, captions, and what blinks or hides in parts.
+    constexpr LPCWSTR kNames[] = {L"in1.mute", L"in6.mute", L"in1.level", L"in2.gain"};
+    for (int i = 0; i < 24; ++i) {
+        CUIObject* object = Add(i % 5 == 4 ? Lumo::DS_LINE : i % 2 ? Lumo::DS_ELLIPSE : Lumo::DS_TEXTEDIT,
+                                9 + 73.0f * static_cast<float>(i % 8), 280 + 40.0f * static_cast<float>(i / 8), 60, 30);
+        constexpr Behaviour kSome[] = {Behaviour::kColor, Behaviour::kText, Behaviour::kButton, Behaviour::kHide,
+                                       Behaviour::kFill,  Behaviour::kBlink};
+        auto& extras = Extras(object, kSome[i % 6], kNames[i / 6]);
+        auto& prefs = extras.prefs;
+        SetRange(prefs, -60, 0);
+        prefs.m_color.m_dwNormalColor = 0xFF205030, prefs.m_color.m_dwTextOnColor = 0xFFFF0000;
+        prefs.m_color.m_dwLineColor = 0xFF00FFFF, prefs.m_text.m_nType = i / 12;
+        prefs.m_button.m_strOnText = L"on", prefs.m_button.m_strOffText = L"off", prefs.m_button.m_nAction = i / 12 * 2;
+        prefs.m_fill.m_nDirection = i / 6, prefs.m_fill.m_dwBorderColor = 0xFFFF00FF;
+        (i / 6 % 3 == 0 ? prefs.m_hide.m_bHideFill : i / 6 % 3 == 1 ? prefs.m_hide.m_bHideLine : prefs.m_hide.m_bHideText) = 1;
+        (i / 6 % 3 == 0 ? prefs.m_blink.m_bBlinkText : i / 6 % 3 == 1 ? prefs.m_blink.m_bBlinkFill : prefs.m_blink.m_bBlinkLine) = 1;
+    }
     Run();
+    m_device.Settle();
+    m_session->Tick(0.6);
     ExpectGolden(PixelsOf(Page()), "studio", "behaviours");
+    ExpectNothingStale();
 }
 
+// Graphs of each kind; with letters and too small for them; full, half full, with a line for the binding alone.
 TEST_F(GoldenTest, Trends) {
-    // Too small for letters.
-    for (int type = 0; type < 4; ++type) {
-        CUIObject* object = Add(Lumo::DS_RECTANGLE, 13 + 121.0f * static_cast<float>(type), 17, 110, 77);
+    const auto add = [&](int i, const Gdiplus::RectF& place, int span) -> CPrefTrend& {
+        CUIObject* object = Add(Lumo::DS_RECTANGLE, place.X, place.Y, place.Width, place.Height);
         object->SetText(L" ");
         auto& trend = Extras(object, Behaviour::kTrend, L"in1.gain").prefs.m_trend;
-        trend.m_nType = type, trend.m_nTimeSpan = 30, trend.m_nLowValue = -60, trend.m_nHighValue = 12;
+        trend.m_nType = i % 4, trend.m_nTimeSpan = span, trend.m_nLowValue = -60, trend.m_nHighValue = 12;
         trend.m_nTimeDivisions = 3, trend.m_nValueDivisions = 4;
-        for (LPCWSTR name : {L"in1.gain", L"in2.gain"}) {
+        for (int k = 0; k < i % 7; ++k) {
             auto* line = new CPrefTrendLine;
-            line->m_strName = name;
-            line->m_nWidth = name == CString(L"in1.gain") ? 3 : 1;
+            line->m_strName.Format(L"in%d.gain", k + 1);
+            line->m_nWidth = 1 + 2 * k, line->m_nColor = k % 2 ? -1 : static_cast<int>(0xFF40C080u * (k + 1));
             trend.m_lines.push_back(line);
         }
-    }
+        return trend;
+    };
+    for (int i = 0; i < 8; ++i)
+        add(i, Gdiplus::RectF(13 + 147.0f * static_cast<float>(i % 4), i < 4 ? 9 : 109, i < 4 ? 139 : 114, 87),
+            i % 2 ? 30 : 9);
+    add(1, {13, 209, 123.0f, 63.0f}, 90000);
+    add(3, {160, 209, 300, 65.0f}, 0).m_nTimeDivisions = 200;
+    auto& flat = add(1, {470, 209, 123, 90}, 20);
+    flat.m_nHighValue = flat.m_nLowValue, flat.m_nValueDivisions = 0;
     Run();
     for (int i = 0; i < 230; ++i) {
         m_device.Set(L"in1.gain", -55 + i % 60);
-        m_device.Set(L"in2.gain", i < 100 ? -20 : -37.5);
+        m_device.Set(L"in2.gain", i < 150 ? -20 : -37.5);
+        m_device.Set(L"in3.gain", -70 + i % 90);
         m_session->Tick(0.1);
     }
     ExpectGolden(PixelsOf(Page()), "studio", "trends");

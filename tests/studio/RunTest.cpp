@@ -123,99 +123,21 @@ TEST_F(RunTest, EveryWayOfOperating) {
         double before, held, after;
         LPCWSTR asked;
     } rows[] = {
+        // clang-format off
         {"slider", Behaviour::kSlider, nullptr, {7, 80}, {7, 30}, -1, -48, -18, L""},
-        {"right",
-         Behaviour::kSlider,
-         [](CUIPreference& p) { p.m_slider.m_nDirection = 1; },
-         {10, 80},
-         {30, 5},
-         -1,
-         -45,
-         -15,
-         L""},
-        {"down",
-         Behaviour::kSlider,
-         [](CUIPreference& p) { p.m_slider.m_nDirection = 2; },
-         {10, 80},
-         {30, 5},
-         -1,
-         -12,
-         -57,
-         L""},
-        {"left",
-         Behaviour::kSlider,
-         [](CUIPreference& p) { p.m_slider.m_nDirection = 3; },
-         {10, 80},
-         {30, 5},
-         -1,
-         -15,
-         -45,
-         L""},
-        {"dragged",
-         Behaviour::kSlider,
-         [](CUIPreference& p) { p.m_slider.m_nMode = 1; },
-         {7, 80},
-         {7, 60},
-         -30,
-         -30,
-         -18,
-         L""},
-        {"set",
-         Behaviour::kButton,
-         [](CUIPreference& p) { p.m_button.m_nAction = 2, p.m_button.m_nValue = -7; },
-         {11, 20},
-         kBeside,
-         -20,
-         -7,
-         -7,
-         L""},
-        {"add",
-         Behaviour::kButton,
-         [](CUIPreference& p) { p.m_button.m_nAction = 4, p.m_button.m_nValue = -7; },
-         {11, 20},
-         kBeside,
-         -20,
-         -27,
-         -27,
-         L""},
+        {"right", Behaviour::kSlider, [](CUIPreference& p) { p.m_slider.m_nDirection = 1; }, {10, 80}, {30, 5}, -1, -45, -15, L""},
+        {"down", Behaviour::kSlider, [](CUIPreference& p) { p.m_slider.m_nDirection = 2; }, {10, 80}, {30, 5}, -1, -12, -57, L""},
+        {"left", Behaviour::kSlider, [](CUIPreference& p) { p.m_slider.m_nDirection = 3; }, {10, 80}, {30, 5}, -1, -15, -45, L""},
+        {"dragged", Behaviour::kSlider, [](CUIPreference& p) { p.m_slider.m_nMode = 1; }, {7, 80}, {7, 60}, -30, -30, -18, L""},
+        {"set", Behaviour::kButton, [](CUIPreference& p) { p.m_button.m_nAction = 2, p.m_button.m_nValue = -7; }, {11, 20}, kBeside, -20, -7, -7, L""},
+        {"add", Behaviour::kButton, [](CUIPreference& p) { p.m_button.m_nAction = 4, p.m_button.m_nValue = -7; }, {11, 20}, kBeside, -20, -27, -27, L""},
         {"typed", Behaviour::kInput, nullptr, {11, 20}, {12, 20}, -20, -20, -20, L"in1.gain"},
         {"not typed", Behaviour::kInput, nullptr, {11, 20}, kBeside, -20, -20, -20, L""},
-        {"page",
-         Behaviour::kPage,
-         [](CUIPreference& p) { p.m_page.m_nMode = 1, p.m_page.m_nPage = 3; },
-         {11, 20},
-         {12, 20},
-         -20,
-         -20,
-         -20,
-         L"3"},
-        {"next",
-         Behaviour::kPage,
-         [](CUIPreference& p) { p.m_page.m_nMode = 2; },
-         {11, 20},
-         {12, 20},
-         -20,
-         -20,
-         -20,
-         L"step 1"},
-        {"previous",
-         Behaviour::kPage,
-         [](CUIPreference& p) { p.m_page.m_nMode = 3; },
-         {11, 20},
-         {12, 20},
-         -20,
-         -20,
-         -20,
-         L"step -1"},
-        {"stayed",
-         Behaviour::kPage,
-         [](CUIPreference& p) { p.m_page.m_nMode = 3; },
-         {11, 20},
-         kBeside,
-         -20,
-         -20,
-         -20,
-         L""},
+        {"page", Behaviour::kPage, [](CUIPreference& p) { p.m_page.m_nMode = 1, p.m_page.m_nPage = 3; }, {11, 20}, {12, 20}, -20, -20, -20, L"3"},
+        {"next", Behaviour::kPage, [](CUIPreference& p) { p.m_page.m_nMode = 2; }, {11, 20}, {12, 20}, -20, -20, -20, L"step 1"},
+        {"previous", Behaviour::kPage, [](CUIPreference& p) { p.m_page.m_nMode = 3; }, {11, 20}, {12, 20}, -20, -20, -20, L"step -1"},
+        {"stayed", Behaviour::kPage, [](CUIPreference& p) { p.m_page.m_nMode = 3; }, {11, 20}, kBeside, -20, -20, -20, L""},
+        // clang-format on
     };
     const CPoint corners[] = {{20, 30}, {40000, 70000}};
     for (const CPoint& corner : corners) {
@@ -289,47 +211,6 @@ TEST_F(RunTest, RadioButtonsOfOneGroupExcludeEachOtherWhereverTheyStand) {
         Click({50 + 100 * i, 40});
         EXPECT_STREQ(on(), expected[i]) << i;
     }
-}
-
-TEST_F(RunTest, ControlsAnswerTheMouse) {
-    auto* chart = dynamic_cast<PeqChart*>(Add(Lumo::DS_CHARTPEQ, 0, 0, 300, 180));
-    auto* matrix = dynamic_cast<DeviceChart*>(Add(Lumo::DS_CHARTDEVICE, 310, 0, 260, 260));
-    Add(Lumo::DS_BUTTONLEVEL, 10, 200, 100, 40);
-    auto* mute = Add(Lumo::DS_BUTTONDEVICE, 120, 200, 80, 40);
-    CUIObject* held = Add(Lumo::DS_BUTTONDEVICE, 10, 250, 80, 40);
-    EditExtras(*held)->binding = L"master.mute";
-    dynamic_cast<DeviceButton*>(held)->SetButtonStyle(DeviceButton::kMomentary);
-    Page().SelectOnly({mute, held});
-    GroupSelection(Page());
-    Run();
-    const double gain = m_device.Get(L"out1.peq.3.gain"), frequency = m_device.Get(L"out1.peq.3.freq");
-    const CPoint handle = chart->HandleOf(3);
-    Drag(handle, {handle.x + 30, handle.y - 20}, MK_LBUTTON);
-    EXPECT_GT(m_device.Get(L"out1.peq.3.gain"), gain + 1.0);
-    EXPECT_GT(m_device.Get(L"out1.peq.3.freq"), frequency * 1.5);
-    EXPECT_EQ(chart->HandleOf(3), CPoint(handle.x + 30, handle.y - 20)) << "the handle is under the pointer";
-
-    CPoint cell = matrix->CellOf(4, 9);
-    cell.x += 310;
-    const double on = m_device.Get(L"xp.4.9.on");
-    Click(cell);
-    EXPECT_NE(m_device.Get(L"xp.4.9.on"), on);
-    Drag(cell, {cell.x, cell.y + 20}, MK_LBUTTON);
-    EXPECT_NE(m_device.Get(L"xp.4.9.on"), on) << "a drag does not switch";
-    EXPECT_EQ(m_device.Get(L"xp.4.9.gain"), -5.0);
-
-    const double before = m_device.Get(L"in1.gain");
-    Drag({60, 220}, {60, 200}, MK_LBUTTON);
-    EXPECT_EQ(m_device.Get(L"in1.gain"), before + 5.0);
-    Drag({600, 290}, {60, 205}, MK_LBUTTON);  // pressed beside every control
-    EXPECT_EQ(m_device.Get(L"in1.gain"), before + 5.0);
-    EXPECT_EQ(m_device.Get(L"in1.mute"), 0.0);
-    Click({160, 220});  // in a group
-    EXPECT_EQ(m_device.Get(L"in1.mute"), 1.0);
-    Mouse(WM_LBUTTONDOWN, 50, 270);
-    EXPECT_EQ(m_device.Get(L"master.mute"), 1.0);
-    Mouse(WM_LBUTTONUP, 50, 270);
-    EXPECT_EQ(m_device.Get(L"master.mute"), 0.0);
 }
 
 TEST_F(RunTest, ControlsFarOutOnThePageAnswerTheMouse) {

@@ -17,6 +17,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -199,4 +201,17 @@ inline void ExpectGolden(const Pixels& seen, const std::string& folder, const st
     ADD_FAILURE() << differing << " pixels differ from " << kept << ", the first at " << where.x << ", "
                   << where.y << "; look at " << now
                   << " and take it over with scripts/renew-golden.sh if it is right";
+}
+
+/// The same for a text, which every system writes alike.
+inline void ExpectGoldenText(const std::string& seen, const std::string& folder, const std::string& name) {
+    const auto kept = golden::Kept(folder, name).replace_extension("txt");
+    const auto now = golden::Seen(folder, name).replace_extension("txt");
+    std::filesystem::remove(now);
+    std::ifstream file(kept, std::ios::binary);
+    if (std::string(std::istreambuf_iterator<char>(file), {}) == seen)
+        return;
+    std::filesystem::create_directories(now.parent_path());
+    std::ofstream(now, std::ios::binary) << seen;
+    ADD_FAILURE() << now << " differs from " << kept;
 }
