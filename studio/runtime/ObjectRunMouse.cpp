@@ -39,8 +39,10 @@ bool ObjectRun::Relay(Lumo::CUICanvas* canvas, UINT message, UINT wParam, LPARAM
     if (!TakesMouse() || (!m_pressed && !ConditionHolds(m_extras, m_values, m_device)))
         return false;
     if (message == WM_MOUSELEAVE) {
-        if (std::exchange(m_pressed, false))
+        if (std::exchange(m_pressed, false)) {
+            m_started = false;
             ReleaseButton();
+        }
         return true;
     }
     // A second press comes as a double click.

@@ -9,18 +9,6 @@ namespace {
 
 class ControlsTest : public RunFixture {
 protected:
-    static CString Changes(const Device& from, const Device& to) {
-        CString changes, one;
-        for (int value = 0; value < to.Count(); ++value) {
-            if (to.Get(value) == from.Get(value) || to.Info(value).isReadOnly)
-                continue;
-            one.Format(L"%s%s=%.5g", changes.IsEmpty() ? L"" : L" ", to.Info(value).name.GetString(),
-                       to.Get(value));
-            changes += one;
-        }
-        return changes;
-    }
-
     void ExpectRows(const std::string& name);
 
     static constexpr int kLeft = 5, kTop = 3;

@@ -107,6 +107,10 @@ const struct {
     {kPoly, L"d20,20 m60,80 u60,80 d100,20 u100,20 m300,300 f", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | P 20,20 60,80 100,20*"},
     {kPoly, L"d20,20 m60,80 u60,80 d100,20 u100,20 m300,300 e", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
     {kPoly, L"d200,200 u200,200 D200,200 u200,200", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
+    {kPictureTool, L"d30,40 m90,100 u150,60", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 picture 30,40 120,20"},
+    {kPictureTool, L"d30,40 u36,44", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 picture 30,40 0,0"},
+    {kPictureTool, L"d30,45 u35,40", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 picture 30,40 5,5"},
+    {kPictureTool, L"d30,40 m90,100 e u150,60", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
     {kSelect, L"d10,10 m420,200 u420,200", [](StudioCanvas& page) { NudgeSelection(page, 5, -2); }, L"R 105,98 50,40* | L 205,58 285,118* | E 355,93 60,64*"},
     {kSelect, L"d120,120 u120,120 d240,90s u240,90s", &DeleteSelection, L"E 350,95 60,64"},
     {kSelect, L"d120,120 u120,120 d240,90s u240,90s", &GroupSelection, L"E 350,95 60,64 | G 100,60 180,80*"},
@@ -147,6 +151,24 @@ const struct {
 
 }  // namespace
 
+TEST_F(EditingTest, TheCursorTellsWhatAPressDoes) {
+    CUIObject* box = Add(kBox, 100, 100, 50, 40);
+    Add(kBox, 200, 100, 50, 40);
+    Page().SelectOnly({box});
+    const auto at = [&](Lumo::DrawShape tool, int x, int y) {
+        return dynamic_cast<PageTool*>(Lumo::CUIToolBase::FindTool(tool))->CursorAt(Page(), {x, y});
+    };
+    const struct {
+        int x, y;
+        LPCWSTR cursor;
+    } rows[] = {{100, 100, IDC_SIZENWSE}, {150, 100, IDC_SIZENESW}, {150, 140, IDC_SIZENWSE},
+                {100, 140, IDC_SIZENESW}, {125, 100, IDC_SIZENS},   {150, 120, IDC_SIZEWE},
+                {125, 120, IDC_SIZEALL},  {96, 113, IDC_ARROW},     {225, 120, IDC_ARROW}};
+    for (const auto& row : rows)
+        EXPECT_EQ(at(kSelect, row.x, row.y), ::LoadCursor(nullptr, row.cursor)) << row.x << ", " << row.y;
+    EXPECT_EQ(at(kBox, 125, 120), ::LoadCursor(nullptr, IDC_CROSS));
+}
+
 TEST_F(EditingTest, Gestures) {
     m_parent.ShowWindow(SW_SHOWNA);
     Page().ShowWindow(SW_SHOWNA);
@@ -165,7 +187,9 @@ TEST_F(EditingTest, Gestures) {
         Play(row.gesture);
         if (row.command)
             row.command(Page());
-        EXPECT_STREQ(State(), row.state);
+        Settle();
+        EXPECT_STREQ(State() + m_picture, row.state);
+        m_picture.Empty();
         const Pixels parts = Painted();
         Page().Invalidate(FALSE);
         EXPECT_EQ(CountDiffering(Painted(), parts), 0u) << "something is stale";

@@ -104,19 +104,27 @@ TEST_F(GoldenTest, Behaviours) {
     // Colours, captions, and what blinks or hides in parts.
     constexpr LPCWSTR kNames[] = {L"in1.mute", L"in6.mute", L"in1.level", L"in2.gain"};
     for (int i = 0; i < 24; ++i) {
-        CUIObject* object = Add(i % 5 == 4 ? Lumo::DS_LINE : i % 2 ? Lumo::DS_ELLIPSE : Lumo::DS_TEXTEDIT,
-                                9 + 73.0f * static_cast<float>(i % 8), 280 + 40.0f * static_cast<float>(i / 8), 60, 30);
-        constexpr Behaviour kSome[] = {Behaviour::kColor, Behaviour::kText, Behaviour::kButton, Behaviour::kHide,
-                                       Behaviour::kFill,  Behaviour::kBlink};
+        CUIObject* object =
+            Add(i % 5 == 4 ? Lumo::DS_LINE
+                : i % 2    ? Lumo::DS_ELLIPSE
+                           : Lumo::DS_TEXTEDIT,
+                9 + 73.0f * static_cast<float>(i % 8), 280 + 40.0f * static_cast<float>(i / 8), 60, 30);
+        constexpr Behaviour kSome[] = {Behaviour::kColor, Behaviour::kText, Behaviour::kButton,
+                                       Behaviour::kHide,  Behaviour::kFill, Behaviour::kBlink};
         auto& extras = Extras(object, kSome[i % 6], kNames[i / 6]);
         auto& prefs = extras.prefs;
         SetRange(prefs, -60, 0);
         prefs.m_color.m_dwNormalColor = 0xFF205030, prefs.m_color.m_dwTextOnColor = 0xFFFF0000;
         prefs.m_color.m_dwLineColor = 0xFF00FFFF, prefs.m_text.m_nType = i / 12;
-        prefs.m_button.m_strOnText = L"on", prefs.m_button.m_strOffText = L"off", prefs.m_button.m_nAction = i / 12 * 2;
+        prefs.m_button.m_strOnText = L"on", prefs.m_button.m_strOffText = L"off",
+        prefs.m_button.m_nAction = i / 12 * 2;
         prefs.m_fill.m_nDirection = i / 6, prefs.m_fill.m_dwBorderColor = 0xFFFF00FF;
-        (i / 6 % 3 == 0 ? prefs.m_hide.m_bHideFill : i / 6 % 3 == 1 ? prefs.m_hide.m_bHideLine : prefs.m_hide.m_bHideText) = 1;
-        (i / 6 % 3 == 0 ? prefs.m_blink.m_bBlinkText : i / 6 % 3 == 1 ? prefs.m_blink.m_bBlinkFill : prefs.m_blink.m_bBlinkLine) = 1;
+        (i / 6 % 3 == 0   ? prefs.m_hide.m_bHideFill
+         : i / 6 % 3 == 1 ? prefs.m_hide.m_bHideLine
+                          : prefs.m_hide.m_bHideText) = 1;
+        (i / 6 % 3 == 0   ? prefs.m_blink.m_bBlinkText
+         : i / 6 % 3 == 1 ? prefs.m_blink.m_bBlinkFill
+                          : prefs.m_blink.m_bBlinkLine) = 1;
     }
     Run();
     m_device.Settle();
@@ -125,7 +133,8 @@ TEST_F(GoldenTest, Behaviours) {
     ExpectNothingStale();
 }
 
-// Graphs of each kind; with letters and too small for them; full, half full, with a line for the binding alone.
+// Graphs of each kind; with letters and too small for them; full, half full, with a line for the binding
+// alone.
 TEST_F(GoldenTest, Trends) {
     const auto add = [&](int i, const Gdiplus::RectF& place, int span) -> CPrefTrend& {
         CUIObject* object = Add(Lumo::DS_RECTANGLE, place.X, place.Y, place.Width, place.Height);
@@ -142,7 +151,8 @@ TEST_F(GoldenTest, Trends) {
         return trend;
     };
     for (int i = 0; i < 8; ++i)
-        add(i, Gdiplus::RectF(13 + 147.0f * static_cast<float>(i % 4), i < 4 ? 9 : 109, i < 4 ? 139 : 114, 87),
+        add(i,
+            Gdiplus::RectF(13 + 147.0f * static_cast<float>(i % 4), i < 4 ? 9 : 109, i < 4 ? 139 : 114, 87),
             i % 2 ? 30 : 9);
     add(1, {13, 209, 123.0f, 63.0f}, 90000);
     add(3, {160, 209, 300, 65.0f}, 0).m_nTimeDivisions = 200;
@@ -174,6 +184,10 @@ TEST_F(GoldenTest, DemoProject) {
     for (int page = 0; page < 4; ++page)
         edited.Add(show(page));
     ExpectGolden(edited.All(), "studio", "demo");
+    CString names;
+    for (const Studio::Page& page : m_document->Pages())
+        names += page.name + L" ";
+    EXPECT_STREQ(names, L"Overview Matrix Equaliser Levels ");
     show(0);
     Run();
     for (int i = 0; i < 130; ++i)
@@ -236,6 +250,14 @@ TEST_F(GoldenTest, Editing) {
     look();
     SelectAll(Page());
     look();
+    Add(Lumo::DS_LINE, -300, -200, 7, 9);
+    Page().NotifyState();
+    Settle();
+    Page().ScrollTo(CPoint(-33, -57));
+    look();
+    DeleteSelection(Page());
+    Settle();
+    SelectAll(Page());
     DuplicateSelection(Page());
     SelectAll(Page());
     look();

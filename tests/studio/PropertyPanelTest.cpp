@@ -6,6 +6,7 @@
 #include "studio/editing/PageEdits.h"
 #include "studio/properties/PropertyTable.h"
 #include "support/Golden.h"
+#include "support/MessageBoxAnswerer.h"
 
 #include <gtest/gtest.h>
 
@@ -94,10 +95,11 @@ protected:
         ::SendMessage(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
         ::SendMessage(control, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
     }
-    // Words: f(ocus) or t(ype, also =TEXT) with the number of an edit control, b(utton) or B (with its focus) with
-    // that of a button, c(hoice) with that of a box and a row, h(eading), n(umber's arrow) up or N down with a
-    // repetition, p(ress beside), y (time passes); R(eturn), E(scape), T(ab), S (back), U(p), D(own), u and d with
-    // shift, z (undo), g (another selection), G (none).
+    // Words: f(ocus) or t(ype, also =TEXT) with the number of an edit control, b(utton) or B (with its focus)
+    // with that of a button, c(hoice) with that of a box and a row, h(eading), n(umber's arrow) up or N down
+    // with a repetition, p(ress beside), y (time passes); R(eturn), E(scape), T(ab), S (back), U(p), D(own),
+    // u and d with shift, K (Return with control), z (undo), g (another selection), G (none), w(heel), v
+    // (scroll bar).
     void Do(const CString& words) {
         int at = 0;
         for (CString word = words.Tokenize(L" ", at); !word.IsEmpty(); word = words.Tokenize(L" ", at)) {
@@ -130,7 +132,8 @@ protected:
                 case L'n':
                 case L'N':
                     ::GetClientRect(field, room);
-                    ::SendMessage(field, WM_LBUTTONDOWN, 0, MAKELPARAM(room.right - 15, word[0] == L'n' ? 11 : 12));
+                    ::SendMessage(field, WM_LBUTTONDOWN, 0,
+                                  MAKELPARAM(room.right - 15, word[0] == L'n' ? 11 : 12));
                     ::SendMessage(field, WM_TIMER, 1, 0);
                     ::SendMessage(field, WM_LBUTTONUP, 0, 0);
                     ::SendMessage(field, WM_LBUTTONDOWN, 0, MAKELPARAM(room.right - 16, 3));
@@ -150,12 +153,19 @@ protected:
                     Page().SelectOnly(word[0] == L'g' ? Objects() : Lumo::CUIObjectDeque());
                     m_panel->Refresh();
                     break;
+                case L'v':
+                    m_panel->SendMessage(WM_VSCROLL, static_cast<WPARAM>(number));
+                    break;
+                case L'K':
+                    Press(VK_RETURN, true);
+                    break;
                 case L'w':
                     m_panel->ScrollByWheel(static_cast<short>(number));
                     break;
                 default: {
                     const CString keys = L"RETSUDud";
-                    constexpr UINT kCodes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_TAB, VK_UP, VK_DOWN, VK_UP, VK_DOWN};
+                    constexpr UINT kCodes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_TAB,
+                                               VK_UP,     VK_DOWN,   VK_UP,  VK_DOWN};
                     const int key = keys.Find(word[0]);
                     Press(kCodes[key], false, key == 3 || key > 5);
                 }
@@ -163,8 +173,8 @@ protected:
         }
     }
 
-    // Where the focus is, what the first edit controls show, a refusal, how far the panel is scrolled, and the
-    // places of the objects.
+    // Where the focus is, what the first edit controls show, a refusal, how far the panel is scrolled, and
+    // the places of the objects.
     CString State() {
         CString state = L"page";
         const HWND focus = ::GetFocus();
@@ -241,7 +251,19 @@ const struct {
     {L"w-120", L"page: 10 20 100 50 3E7BFA 28% ^60 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"w-32000", L"page: 10 20 100 50 3E7BFA 28% ^777 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"w-240 w120 f1", L"E1: 10 20 100 50 3E7BFA 28% ^60 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
-    {L"b0", L"B0: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"v1", L"page: 10 20 100 50 3E7BFA 28% ^30 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"v1 v1 v0", L"page: 10 20 100 50 3E7BFA 28% ^30 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"v3", L"page: 10 20 100 50 3E7BFA 28% ^400 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"v7", L"page: 10 20 100 50 3E7BFA 28% ^777 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"v7 v2", L"page: 10 20 100 50 3E7BFA 28% ^377 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"v7 v6", L"page: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"f9 S", L"E8: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"f13 K R", L"E13: 10 20 100 50 3E7BFA 28% ^234 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"t9=7 R t10=31 R", L"E10: 10 20 100 50 3E7BFA 28% (A colour is six digits 0-9, A-F: 3E7BFA.) ^16 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"f18", L"E18: 10 20 100 50 3E7BFA 28% ^534 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"B14 S", L"E17: 10 20 100 50 3E7BFA 28% ^447 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"b1", L"B1: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
+    {L"h1", L"B0: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"B9 R", L"B9: 10 20 100 50 3E7BFA 28% ^321 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 2"},
     {L"B9 R R", L"B9: 10 20 100 50 3E7BFA 28% ^321 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"B9 T T", L"B11: 10 20 100 50 3E7BFA 28% ^321 | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
@@ -314,7 +336,8 @@ TEST_F(PropertyPanelTest, KeysOfTextStayInThePanelKeysOfCommandsDoNot) {
         EXPECT_TRUE(Press(key, true)) << key;
     for (UINT key : {UINT{'S'}, UINT{'Y'}, UINT{'G'}})
         EXPECT_FALSE(Press(key, true)) << key;
-    EXPECT_FALSE(Press(VK_F5));
+    for (UINT key : {VK_F1, VK_F4, VK_F5, VK_F24})
+        EXPECT_FALSE(Press(key)) << key;
 }
 
 TEST_F(PropertyPanelTest, ManyChangesAreShownOnceWhenThereIsTime) {
@@ -330,6 +353,61 @@ TEST_F(PropertyPanelTest, ManyChangesAreShownOnceWhenThereIsTime) {
     while (TextOf(kX) == L"10" && ::GetTickCount() < end && ::GetMessage(&message, nullptr, 0, 0))
         ::DispatchMessage(&message);
     EXPECT_EQ(L"60", TextOf(kX));
+}
+
+// Keys for a menu that is open: d(own), r(ight), u(p), R(eturn), E(scape).
+std::string g_menuKeys;
+void CALLBACK PostMenuKeys(HWND window, UINT, UINT_PTR timer, DWORD) {
+    ::KillTimer(window, timer);
+    for (const char key : g_menuKeys)
+        ::PostMessage(window, WM_KEYDOWN,
+                      key == 'd'   ? VK_DOWN
+                      : key == 'r' ? VK_RIGHT
+                      : key == 'u' ? VK_UP
+                      : key == 'R' ? VK_RETURN
+                                   : VK_ESCAPE,
+                      1);
+}
+
+TEST_F(PropertyPanelTest, ValuesComeFromAMenu) {
+    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel->Refresh();
+    Do(L"c7=15");
+    m_edits = Controls(L"Edit");
+    const struct {
+        int edit;
+        const char* keys;
+        LPCWSTR text;
+    } rows[] = {{17, "drR", L"in"},
+                {17, "drdrR", L"in1"},
+                {17, "drdrdR", L"in1.level"},
+                {17, "E", L"in1.level"},
+                {18, "drrR", L"in1.level"},
+                {18, "urR", L"master.gain"},
+                {18, "drdrdR", L"in2.peak"},
+                {19, "drrR", L"in1.level"},
+                {19, "drdrR", L"in1.level, in2.level"},
+                {19, "E", L"in1.level, in2.level"}};
+    for (const auto& row : rows) {
+        Focus(static_cast<Edit>(row.edit));
+        g_menuKeys = row.keys;
+        ::SetTimer(m_parent, 1, 50, &PostMenuKeys);
+        EXPECT_TRUE(Press(VK_DOWN));
+        EXPECT_STREQ(TextOf(static_cast<Edit>(row.edit)), row.text);
+    }
+}
+
+TEST_F(PropertyPanelTest, ColoursComeFromADialog) {
+    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
+    m_panel->Refresh();
+    MessageBoxAnswerer answerer;
+    answerer.onBox = [] {
+        for (int id : {706, 707, 708})
+            ::SetDlgItemInt(::FindWindow(L"#32770", nullptr), id, static_cast<UINT>(id - 690), FALSE);
+    };
+    Do(L"B2 R");
+    EXPECT_EQ(answerer.captions.size(), 1u);
+    EXPECT_EQ(TextOf(kFillColor), L"101112");
 }
 
 // The platform's box hands the mouse on to its list when the button goes up, also to a list that is closed.
@@ -418,6 +496,15 @@ TEST_F(PropertyPanelTest, FieldsShowTheirState) {
     ::SendMessage(header(4), BM_CLICK, 0, 0);
     sheet.Add(Picture());
     ::SendMessage(header(4), BM_CLICK, 0, 0);
+    // Another behaviour, and the panel in a low window, scrolled.
+    Do(L"c7=13");
+    Enlarge(300);
+    for (LPCWSTR words : {L"v7", L"w240"}) {
+        Do(words);
+        sheet.Add(Picture());
+    }
+    Enlarge(980);
+    Do(L"c7=10");
     for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
         CRect place;
         ::SetFocus(buttons[i]);

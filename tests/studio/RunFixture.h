@@ -31,9 +31,7 @@ protected:
     void ScrollTo(CPoint corner) {
         Add(Lumo::DS_RECTANGLE, static_cast<float>(corner.x) + 700, static_cast<float>(corner.y) + 500, 9, 5);
         Page().NotifyState();
-        MSG message;
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-            ::DispatchMessage(&message);
+        Settle();
         Page().ScrollTo(corner);
     }
 
@@ -59,6 +57,16 @@ protected:
         extras.TurnOn(behaviour, true);
         extras.Record(behaviour).m_strName = value;
         return extras;
+    }
+
+    /// The values that differ, as "in1.mute=1 in2.gain=-3".
+    static CString Changes(const Studio::Device& from, const Studio::Device& to) {
+        CString changes;
+        for (int value = 0; value < to.Count(); ++value)
+            if (to.Get(value) != from.Get(value) && !to.Info(value).isReadOnly)
+                changes.AppendFormat(L"%s%s=%.5g", changes.IsEmpty() ? L"" : L" ",
+                                     to.Info(value).name.GetString(), to.Get(value));
+        return changes;
     }
 
     std::vector<BYTE> Bytes() {

@@ -177,6 +177,61 @@ TEST_F(RunTest, EveryWayOfOperating) {
     }
 }
 
+// What a gesture on an object of 60 by 40 makes of the device and asks of the program.
+TEST_F(RunTest, GesturesOnBehaviours) {
+    using Set = void (*)(ObjectExtras&);
+    const struct {
+        Behaviour behaviour;
+        LPCWSTR value;
+        Set set;
+        LPCWSTR gesture, changes, asked;
+    } rows[] = {
+        // clang-format off
+        {Behaviour::kInput, L"in1.gain", [](ObjectExtras& e) { e.prefs.m_input.m_nStep = 25; }, L"w20,20 w20,20 W20,20 w20,20", L"in1.gain=3", L""},
+        {Behaviour::kInput, L"in1.gain", [](ObjectExtras& e) { e.prefs.m_input.m_nStep = 25; }, L"d20,20 u20,39", L"", L"in1.gain"},
+        {Behaviour::kInput, L"in1.gain", nullptr, L"d20,20 u20,45", L"", L""},
+        {Behaviour::kInput, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_input.m_nType = 1; }, L"w20,20 d20,20 u20,20", L"in1.mute=1", L""},
+        {Behaviour::kInput, L"nothing", nullptr, L"w20,20 d20,20 u20,20", L"", L""},
+        {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 1; }, L"d20,20", L"in1.mute=1", L""},
+        {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 1, e.prefs.m_button.m_strReleaseCommand = L"in2.gain=5"; }, L"d20,20 m200,200 u200,200", L"in2.gain=5", L""},
+        {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 1; }, L"d20,20 x", L"", L""},
+        {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 1, e.prefs.m_button.m_bConfirm = 1, e.prefs.m_button.m_strReleaseCommand = L"in2.gain=5"; }, L"d20,20 u20,20", L"in2.gain=5", L""},
+        {Behaviour::kButton, L"in1.gain", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 3, e.prefs.m_button.m_nValue = -9, e.prefs.m_button.m_strPressCommand = L"in2.gain=%1;in3.gain=%2", e.prefs.m_button.m_strArguments[1] = L"4"; }, L"d20,20 u20,20", L"in1.gain=-9 in3.gain=4", L""},
+        {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 5, e.prefs.m_button.m_strPressCommand = L"in2.gain=5"; }, L"d20,20 u20,20", L"in2.gain=5", L""},
+        {Behaviour::kButton, L"in1.mute", nullptr, L"d20,20 m500,300 m20,20 u20,20 D20,20 u20,20 d20,20", L"in1.mute=1", L""},
+        {Behaviour::kButton, L"in1.mute", nullptr, L"d60,40 u60,40", L"", L""},
+        {Behaviour::kButton, L"in1.mute", nullptr, L"m20,20 W20,20 R20,20 l", L"", L""},
+        {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.TurnOn(Behaviour::kHide, true); }, L"d20,20 u20,20", L"", L""},
+        {Behaviour::kSlider, L"in1.gain", nullptr, L"d20,20 m30,10 x m30,35", L"in1.gain=-6", L""},
+        {Behaviour::kSlider, L"in1.gain", [](ObjectExtras& e) { e.prefs.m_slider.m_nMode = 1, e.prefs.m_slider.m_nDirection = 3; }, L"d20,20 m14,90 m26,90 u26,90", L"in1.gain=-9.6", L""},
+        {Behaviour::kSlider, L"nothing", nullptr, L"d20,20 m30,10 u30,10", L"", L""},
+        {Behaviour::kPage, L"", [](ObjectExtras& e) { e.prefs.m_page.m_strPageName = L"Two"; }, L"d20,20 m90,20 m59,20 u59,20", L"", L"Two"},
+        // clang-format on
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << "row " << &row - rows);
+        CUIObject* object = Add(Lumo::DS_RECTANGLE, 100, 50, 60, 40);
+        ObjectExtras& extras = Extras(object, row.behaviour, row.value);
+        extras.prefs.m_slider.m_nLowValue = -60, extras.prefs.m_slider.m_nHighValue = 12;
+        if (row.set)
+            row.set(extras);
+        if (extras.IsOn(Behaviour::kHide))
+            extras.Record(Behaviour::kHide).m_strName = L"in1.mute";
+        m_device = Device();
+        m_asked.Empty();
+        const Device before = m_device;
+        Run();
+        Play(row.gesture, {100, 50});
+        EXPECT_STREQ(Changes(before, m_device), row.changes);
+        EXPECT_STREQ(m_asked, row.asked);
+        Play(L"x l");
+        ExpectNothingStale();
+        m_session.reset();
+        Page().SelectOnly({object});
+        DeleteSelection(Page());
+    }
+}
+
 TEST_F(RunTest, RadioButtonsOfOneGroupExcludeEachOtherWhereverTheyStand) {
     const auto button = [&](int number, DWORD group) {
         CUIObject* object = Add(Lumo::DS_BUTTONDEVICE, 100.0f * static_cast<float>(number) - 90, 20, 80, 40);

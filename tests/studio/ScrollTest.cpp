@@ -2,6 +2,7 @@
 #include "StudioFixture.h"
 #include "studio/document/ObjectExtras.h"
 #include "studio/runtime/RunSession.h"
+#include "support/Golden.h"
 
 #include <gtest/gtest.h>
 
@@ -12,13 +13,6 @@ namespace {
 
 class ScrollTest : public StudioFixture, public RunHost {
 protected:
-    // The bars follow the page when the messages that ask for it are handled.
-    void Settle() {
-        MSG message;
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-            ::DispatchMessage(&message);
-    }
-
     bool HasBar(DWORD style) { return (Page().GetStyle() & style) != 0; }
 
     void GoToPage(const CString&) override {}
@@ -132,4 +126,45 @@ TEST_F(ScrollTest, ABarThatTakesRoomBringsTheOther) {
     Page().GetClientRect(client);
     EXPECT_EQ(592, Page().ScrollOrigin().x + client.right);
     EXPECT_EQ(710, Page().ScrollOrigin().y + client.bottom);
+}
+
+TEST_F(ScrollTest, BarsAndWheel) {
+    Add(Lumo::DS_RECTANGLE, -300, -200, 50, 40);
+    Add(Lumo::DS_RECTANGLE, 1500, 1100, 50, 40);
+    Page().NotifyState();
+    Settle();
+    const struct {
+        UINT message, how;
+        CPoint origin;
+    } rows[] = {
+        {WM_HSCROLL, SB_LINEDOWN, {53, 44}}, {WM_HSCROLL, SB_PAGEDOWN, {616, 44}},
+        {WM_HSCROLL, SB_LINEUP, {13, 44}},   {WM_HSCROLL, SB_PAGEUP, {-400, 44}},
+        {WM_HSCROLL, SB_TOP, {-400, 44}},    {WM_HSCROLL, SB_BOTTOM, {1067, 44}},
+        {WM_VSCROLL, SB_LINEDOWN, {33, 64}}, {WM_VSCROLL, SB_PAGEDOWN, {33, 427}},
+        {WM_VSCROLL, SB_LINEUP, {33, 24}},   {WM_VSCROLL, SB_PAGEUP, {33, -300}},
+        {WM_VSCROLL, SB_TOP, {33, -300}},    {WM_VSCROLL, SB_BOTTOM, {33, 857}},
+        {WM_MOUSEWHEEL, 0, {33, -76}},       {WM_MOUSEWHEEL, MK_SHIFT, {-87, 44}},
+    };
+    for (const auto& row : rows) {
+        Page().ScrollTo(CPoint(33, 44));
+        Page().SendMessage(row.message, row.message == WM_MOUSEWHEEL ? MAKEWPARAM(row.how, 240) : row.how,
+                           row.message == WM_MOUSEWHEEL ? MAKELPARAM(50, 50) : 0);
+        EXPECT_EQ(row.origin, Page().ScrollOrigin())
+            << row.how << " " << Page().ScrollOrigin().x << ", " << Page().ScrollOrigin().y;
+    }
+}
+
+TEST_F(ScrollTest, ABandStaysWhereItBeganOnThePage) {
+    m_parent.ShowWindow(SW_SHOWNA);
+    Page().ShowWindow(SW_SHOWNA);
+    Add(Lumo::DS_RECTANGLE, 1500, 1100, 50, 40);
+    Page().NotifyState();
+    Settle();
+    Play(L"d100,100 m500,300 m640,450");
+    Page().SendMessage(WM_TIMER, 1);
+    EXPECT_NE(Page().ScrollOrigin(), CPoint(0, 0));
+    const Pixels parts = PixelsOf(Page());
+    Page().Invalidate(FALSE);
+    Page().UpdateWindow();
+    EXPECT_EQ(CountDiffering(PixelsOf(Page()), parts), 0u);
 }

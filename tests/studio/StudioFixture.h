@@ -131,6 +131,15 @@ protected:
     void OnCanvasState(Studio::StudioCanvas&) override { ++m_notifications; }
     void OnCanvasPointer(Studio::StudioCanvas&, const CPoint*) override {}
     void OnCanvasMenu(Studio::StudioCanvas&, CPoint) override { ++m_menus; }
+    void OnCanvasPicture(Studio::StudioCanvas&, const Gdiplus::RectF& place) override {
+        m_picture.Format(L" picture %g,%g %g,%g", place.X, place.Y, place.Width, place.Height);
+    }
+    /// Handles the messages that wait.
+    static void Settle() {
+        MSG message;
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessage(&message);
+    }
 
     CWnd m_parent;
     Studio::PageTools m_tools;
@@ -138,6 +147,7 @@ protected:
     std::vector<CString> m_files;
     int m_notifications = 0;
     int m_menus = 0;
+    CString m_picture;
     bool m_down = false;
 };
 
