@@ -46,37 +46,6 @@ TEST(BehaviourTest, Comparisons) {
     }
 }
 
-TEST(BehaviourTest, MoveSizeRotateFillAndSliderFollowTheValue) {
-    Bench bench;
-    auto& prefs = bench.extras.prefs;
-    for (Behaviour behaviour : {Behaviour::kMove1, Behaviour::kMove2, Behaviour::kSize1, Behaviour::kRotate,
-                                Behaviour::kFill, Behaviour::kSlider})
-        bench.extras.TurnOn(behaviour, true);
-    prefs.m_move1.m_nDirection = 1, prefs.m_move1.m_fDistance = 80.0f;
-    prefs.m_move2.m_nDirection = 0, prefs.m_move2.m_nMode = 1, prefs.m_move2.m_fDistance = 30.0f;
-    prefs.m_size1.m_nDirection = 0, prefs.m_size1.m_nSmallSize = 10, prefs.m_size1.m_nLargeSize = 60;
-    for (CPrefMove* move : {&prefs.m_move1, &prefs.m_move2})
-        move->m_nLowValue = -60, move->m_nHighValue = 0;
-    prefs.m_size1.m_nLowValue = -60, prefs.m_size1.m_nHighValue = 0;
-    prefs.m_rotate.m_nLowValue = 0, prefs.m_rotate.m_nHighValue = -60;  // the other way round
-    prefs.m_fill.m_nLowValue = -60, prefs.m_fill.m_nHighValue = 0;
-    prefs.m_slider.m_nLowValue = -60, prefs.m_slider.m_nHighValue = 12;
-    const Look low = bench.At(-60), half = bench.At(-30), full = bench.At(12);
-    EXPECT_FLOAT_EQ(low.x, 100.0f);
-    EXPECT_FLOAT_EQ(half.x, 140.0f);
-    EXPECT_FLOAT_EQ(full.x, 180.0f) << "no further than the end";
-    // The upper edge moves with the size, then the jump lifts all.
-    EXPECT_FLOAT_EQ(low.height, 10.0f);
-    EXPECT_FLOAT_EQ(low.y, 60.0f);
-    EXPECT_FLOAT_EQ(half.height, 35.0f);
-    EXPECT_FLOAT_EQ(half.y, 35.0f);
-    EXPECT_FLOAT_EQ(full.y, 10.0f - 30.0f);
-    EXPECT_FLOAT_EQ(low.angle, 90.0f);
-    EXPECT_FLOAT_EQ(half.angle, 45.0f);
-    EXPECT_FLOAT_EQ(half.filled, 0.5f);
-    EXPECT_FLOAT_EQ(full.slider, 1.0f);
-}
-
 TEST(BehaviourTest, ColourBlinkHideAndText) {
     Bench bench;
     auto& prefs = bench.extras.prefs;

@@ -100,6 +100,7 @@ const struct {
     {"buttons", kSwitch, {80, 40}, L"xp.1.3.on", L"", L"d20,20 x", L"", DeviceButton::kMomentary},
     {"buttons", kSwitch, {80, 40}, L"xp.1.3.on", L"", L"d20,20 u20,20 d20,20 u20,20", L"xp.1.3.on=1", DeviceButton::kRadio},
     {"buttons", kSwitch, {80, 40}, L"in1.gain", L"", L"d20,20 u20,20", L""},
+    {"buttons", kLevels, {110, 90}, L"out", L"master.mute=1", L"t t", L""},
     {"matrix", kMatrix, {290, 300}, L"", L"xp.2.3.on=1;xp.2.3.gain=6;xp.3.3.gain=-40;xp.4.4.gain=-30", L"", L""},
     {"matrix", kMatrix, {290, 260}, L"xp", L"", L"m120,120", L""},
     {"matrix", kMatrix, {290, 300}, L"xp", L"", L"d40,53 m41,54 m42,56 u42,56", L"xp.1.1.on=0"},

@@ -133,24 +133,6 @@ TEST(DeviceTest, ValuesByName) {
         EXPECT_EQ(device.Find(device.Info(value).name), value);
 }
 
-TEST(DeviceTest, SameSeedSameLevelsAndMutesSilence) {
-    Device one(3), two(3), other(4);
-    bool differs = false;
-    one.Set(L"in2.mute", 1.0), two.Set(L"in2.mute", 1.0);
-    for (int i = 0; i < 200; ++i) {
-        one.Tick(1.0 / 30), two.Tick(1.0 / 30), other.Tick(1.0 / 30);
-        EXPECT_EQ(one.Get(L"out1.level"), two.Get(L"out1.level"));
-        differs |= one.Get(L"in3.level") != other.Get(L"in3.level");
-    }
-    EXPECT_TRUE(differs);
-    EXPECT_EQ(one.Get(L"in2.level"), Ballistics::kFloor);
-    EXPECT_GT(one.Get(L"in1.level"), -60.0);
-    one.Set(L"master.mute", 1.0);
-    for (int i = 0; i < 200; ++i)
-        one.Tick(1.0 / 30);
-    EXPECT_EQ(one.Get(L"out1.level"), Ballistics::kFloor);
-}
-
 // What there is, with its limits, and what it stands at after a while.
 TEST(DeviceTest, ValuesAndLimits) {
     Device device(3);

@@ -2,15 +2,13 @@
 #include "studio/StudioFixture.h"
 
 #include "core/UIObjectPoly.h"
+#include "studio/editing/Geometry.h"
 #include "studio/editing/Grid.h"
 #include "studio/editing/GroupObject.h"
 #include "studio/editing/History.h"
-#include "studio/editing/ObjectClipboard.h"
 #include "studio/editing/PageEdits.h"
 #include "support/Golden.h"
 
-#include <algorithm>
-#include <random>
 #include <gtest/gtest.h>
 
 using namespace Studio;
@@ -139,6 +137,7 @@ const struct {
     {kSelect, L"d380,120 u380,120", [](StudioCanvas& page) { RestackSelection(page, Stacking::kForward); }, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64*"},
     {kSelect, L"d120,120 u120,120", [](StudioCanvas& page) { ChooseTool(page, kLine), NudgeSelection(page, 5, 0); }, L"R 105,100 50,40* | L 200,60 280,120 | E 350,95 60,64"},
     {kSelect, L"d10,10 m290,200 u290,200", [](StudioCanvas& page) { GroupSelection(page), page.FinishEditing(); }, L"E 350,95 60,64 | G 100,60 180,80*"},
+    {kSelect, L"d10,10 m290,200 u290,200", [](StudioCanvas& page) { GroupSelection(page), PlaceFitted(*page.Objects()->back(), CaptureGeometry(*page.Objects()->back()), {10, 20, 360, 40}), UngroupSelection(page); }, L"E 350,95 60,64 | R 10,40 100,20* | L 210,20 370,50*"},
     {kBox, L"", [](StudioCanvas&) { PageGrid().snapping = true; }, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64"},
     {kBox, L"d18,33 m123,88 u123,88", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | R 20,30 100,60*"},
     {kPoly, L"d18,33 m66,88 u66,88 m123,88 f", nullptr, L"R 100,100 50,40 | L 200,60 280,120 | E 350,95 60,64 | P 20,30 70,90*"},
@@ -210,42 +209,6 @@ TEST_F(EditingTest, Gestures) {
     }
 }
 
-TEST_F(EditingTest, GroupsStayWhereTheyAre) {
-    CUIObject* box = Add(Lumo::DS_RECTANGLE, 50, 50, 60, 40);
-    auto* line = static_cast<Lumo::CUIObjectLine*>(Add(Lumo::DS_LINE, 200, 60, 50, 90));
-    SelectAll(Page());
-    GroupSelection(Page());
-    ASSERT_EQ(1u, Objects().size());
-    auto* group = dynamic_cast<GroupObject*>(Objects()[0]);
-    ASSERT_NE(nullptr, group);
-    ExpectBounds(*group, 50, 50, 200, 100);
-    Gdiplus::Bitmap bitmap(300, 200, PixelFormat32bppPARGB);
-    Gdiplus::Graphics g(&bitmap);
-    Gdiplus::Color inside, outside;
-    for (int paint = 0; paint < 3; ++paint) {
-        g.Clear(Gdiplus::Color(0xFF000000));
-        group->Draw(&g);
-        bitmap.GetPixel(60, 80, &inside);
-        bitmap.GetPixel(120, 140, &outside);
-        EXPECT_NE(0xFF000000, inside.GetValue());
-        EXPECT_EQ(0xFF000000, outside.GetValue());
-    }
-    // Names of children stay taken.
-    EXPECT_EQ(CString(L"Rectangle2"), Add(Lumo::DS_RECTANGLE, 300, 300, 20, 20)->GetShapeName());
-    DeleteSelection(Page());
-    Drag({80, 70}, {90, 75});
-    Drag({260, 155}, {460, 255});
-    ExpectBounds(*group, 60, 55, 400, 200);
-    RotateSelection(Page(), true);
-    RotateSelection(Page(), false);
-    UngroupSelection(Page());
-    EXPECT_EQ((Lumo::CUIObjectDeque{box, line}), Objects());
-    EXPECT_EQ(2u, Page().m_selection.size());
-    ExpectBounds(*box, 60, 55, 120, 80);
-    EXPECT_FLOAT_EQ(460.0f, line->NormalizePoints()->at(1).X);
-    EXPECT_FLOAT_EQ(255.0f, line->NormalizePoints()->at(1).Y);
-}
-
 TEST_F(EditingTest, EditsATextBoxInPlace) {
     CUIObject* text = Add(Lumo::DS_TEXTEDIT, 50, 50, 200, 40);
     text->SetText(L"before");
@@ -266,91 +229,23 @@ TEST_F(EditingTest, EditsATextBoxInPlace) {
     EXPECT_TRUE(Objects().empty());
 }
 
-TEST_F(EditingTest, SurvivesCarelessUse) {
-    std::mt19937 random(7);
-    const auto upTo = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
-    const Lumo::DrawShape tools[] = {Lumo::DS_SELECT, Lumo::DS_SELECT,   Lumo::DS_RECTANGLE,
-                                     Lumo::DS_LINE,   Lumo::DS_POLYLINE, Lumo::DS_TEXTEDIT};
-    const UINT messages[] = {WM_LBUTTONDOWN, WM_LBUTTONUP,     WM_MOUSEMOVE,   WM_MOUSEMOVE,
-                             WM_LBUTTONUP,   WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONUP};
-    const UINT keys[] = {0, 0, MK_SHIFT, MK_CONTROL};
-    for (int step = 0; step < 6000; ++step) {
-        Mouse(messages[upTo(8)], upTo(400), upTo(300), keys[upTo(4)]);
-        const int command = upTo(80);
-        if (command < 4 || (command >= 6 && command < 19))
-            Page().FinishEditing();
-        switch (command) {
-            case 0:
-                SelectAll(Page());
-                break;
-            case 1:
-                GroupSelection(Page());
-                break;
-            case 2:
-                UngroupSelection(Page());
-                break;
-            case 3:
-                DeleteSelection(Page());
-                break;
-            case 4:
-                Page().CancelGesture();
-                break;
-            case 5:
-                ::ReleaseCapture();
-                break;
-            case 6:
-                RotateSelection(Page(), true);
-                break;
-            case 7:
-            case 8:
-            case 9:
-                m_document->Edits().Undo();
-                break;
-            case 10:
-            case 11:
-                m_document->Edits().Redo();
-                break;
-            case 12:
-                if (Objects().size() < 300)
-                    DuplicateSelection(Page());
-                break;
-            case 13:
-                RestackSelection(Page(), static_cast<Stacking>(upTo(4)));
-                break;
-            case 14:
-                FlipSelection(Page(), true);
-                break;
-            case 15:
-                if (m_document->Pages().size() < 5)
-                    m_document->DuplicatePage(m_document->CurrentIndex());
-                break;
-            case 16:
-                m_document->RemovePage(upTo(5));
-                break;
-            case 17:
-                m_document->ShowPage(upTo(5));
-                break;
-            case 18:
-                CutSelection(Page());
-                PasteObjects(Page());
-                break;
-            default:
-                if (upTo(4) == 0) {
-                    Page().FinishEditing();
-                    ChooseTool(Page(), tools[upTo(6)]);
-                }
-        }
-        for (CUIObject* selected : Page().m_selection)
-            ASSERT_NE(Objects().end(), std::find(Objects().begin(), Objects().end(), selected)) << step;
-        ASSERT_TRUE(Page().CurrentGesture() || ::GetCapture() != Page().m_hWnd) << step;
-    }
-    CString path = FileName(L"careless.cbf");
-    Page().FinishEditing();
-    while (m_document->Edits().CanUndo())
-        ASSERT_TRUE(m_document->Edits().Undo());
-    EXPECT_TRUE(Objects().empty());
-    while (m_document->Edits().CanRedo())
-        ASSERT_TRUE(m_document->Edits().Redo());
-    EXPECT_TRUE(m_document->Save(path));
-    EXPECT_TRUE(m_document->Load(path));
+TEST_F(EditingTest, UngroupingPutsEveryGroupsChildrenInItsPlace) {
+    Lumo::CUIObjectDeque order;
+    for (int i = 0; i < 6; ++i)
+        order.push_back(Add(Lumo::DS_RECTANGLE, static_cast<float>(i * 20), 10, 10, 10));
+    Page().SelectOnly({order[0], order[1]});
+    GroupSelection(Page());
+    CUIObject* first = Objects().back();
+    Page().SelectOnly({order[3], order[4]});
+    GroupSelection(Page());
+    CUIObject* second = Objects().back();
+    EXPECT_EQ((Lumo::CUIObjectDeque{order[2], order[5], first, second}), Objects());
+    Page().SelectOnly({order[5], first, second});
+    UngroupSelection(Page());
+    EXPECT_EQ((Lumo::CUIObjectDeque{order[2], order[5], order[0], order[1], order[3], order[4]}), Objects());
+    EXPECT_EQ(5u, Page().m_selection.size()) << "what is no group stays selected";
+    ExpectBounds(*order[4], 80, 10, 10, 10);
+    m_document->Edits().Undo();
+    EXPECT_EQ((Lumo::CUIObjectDeque{order[2], order[5], first, second}), Objects());
+    EXPECT_EQ(2u, static_cast<GroupObject*>(second)->GetChildren().size());
 }

@@ -4,6 +4,7 @@
 #include "studio/document/SymbolLibrary.h"
 #include "studio/editing/Grid.h"
 #include "studio/editing/ObjectClipboard.h"
+#include "studio/editing/PictureFill.h"
 
 #include <gtest/gtest.h>
 
@@ -285,6 +286,18 @@ TEST_F(GoldenTest, Editing) {
     Mouse(WM_LBUTTONDOWN, from.x, from.y);
     Mouse(WM_MOUSEMOVE, from.x + 9, from.y + 170, MK_LBUTTON);
     look();
-    Mouse(WM_LBUTTONUP, from.x, from.y + 170);
+    const Pixels parts = PixelsOf(Page());
+    Page().CancelGesture();
+    Page().UpdateWindow();
+    const Pixels cancelled = PixelsOf(Page());
+    Page().Invalidate(FALSE);
+    Page().UpdateWindow();
+    EXPECT_EQ(CountDiffering(PixelsOf(Page()), cancelled), 0u);
+    EXPECT_NE(parts, cancelled);
+    // A picture of its own size stands around its place, or fills what was asked for.
+    EXPECT_EQ(nullptr, MakePicture(FileName(L"none"), Gdiplus::RectF(50, 50, 0, 0), {100, 100}));
+    ExpectBounds(*MakePicture(picture, Gdiplus::RectF(50, 50, 0, 0), {100, 100}), 49, 49, 3, 2);
+    ExpectBounds(*MakePicture(picture, Gdiplus::RectF(50, 50, 0, 0), {1.5f, 100}), 49, 50, 1.5f, 1);
+    ExpectBounds(*MakePicture(picture, Gdiplus::RectF(50, 50, 20, 9), {1.5f, 100}), 50, 50, 20, 9);
     ExpectGolden(sheet.All(), "studio", "editing");
 }

@@ -8,7 +8,9 @@
 #include "support/Golden.h"
 #include "support/MessageBoxAnswerer.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <map>
 
 using namespace Studio;
 
@@ -107,69 +109,53 @@ protected:
             const auto buttons = Controls(L"Button"), boxes = Controls(L"ComboBox");
             const HWND field = ::GetParent(m_edits[static_cast<unsigned>(number) % m_edits.size()]);
             CRect room;
-            switch (word[0]) {
-                case L'f':
-                    Focus(static_cast<Edit>(number));
-                    break;
-                case L't':
-                    Type(static_cast<Edit>(number), word.Mid(word.Find(L'=') + 1));
-                    break;
-                case L'B':
-                    ::SetFocus(buttons[number]);
-                    break;
-                case L'b':
-                    ::SendMessage(buttons[number], BM_CLICK, 0, 0);
-                    break;
-                case L'c':
-                    ::SetFocus(boxes[number]);
-                    ::SendMessage(boxes[number], CB_SETCURSEL, ::_wtoi(word.Mid(word.Find(L'=') + 1)), 0);
-                    ::SendMessage(::GetParent(boxes[number]), WM_COMMAND, MAKEWPARAM(1, CBN_SELCHANGE),
-                                  reinterpret_cast<LPARAM>(boxes[number]));
-                    break;
-                case L'h':
-                    ::SendMessage(::GetDlgItem(*m_panel, number), BM_CLICK, 0, 0);
-                    break;
-                case L'n':
-                case L'N':
-                    ::GetClientRect(field, room);
-                    ::SendMessage(field, WM_LBUTTONDOWN, 0,
-                                  MAKELPARAM(room.right - 15, word[0] == L'n' ? 11 : 12));
-                    ::SendMessage(field, WM_TIMER, 1, 0);
-                    ::SendMessage(field, WM_LBUTTONUP, 0, 0);
-                    ::SendMessage(field, WM_LBUTTONDOWN, 0, MAKELPARAM(room.right - 16, 3));
-                    break;
-                case L'p':
-                    m_panel->SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(30, 5));
-                    break;
-                case L'y':
-                    m_panel->SendMessage(WM_TIMER, 2);
-                    break;
-                case L'z':
-                    m_document->Edits().Undo();
-                    m_panel->Refresh();
-                    break;
-                case L'g':
-                case L'G':
-                    Page().SelectOnly(word[0] == L'g' ? Objects() : Lumo::CUIObjectDeque());
-                    m_panel->Refresh();
-                    break;
-                case L'v':
-                    m_panel->SendMessage(WM_VSCROLL, static_cast<WPARAM>(number));
-                    break;
-                case L'K':
-                    Press(VK_RETURN, true);
-                    break;
-                case L'w':
-                    m_panel->ScrollByWheel(static_cast<short>(number));
-                    break;
-                default: {
-                    const CString keys = L"RETSUDud";
-                    constexpr UINT kCodes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_TAB,
-                                               VK_UP,     VK_DOWN,   VK_UP,  VK_DOWN};
-                    const int key = keys.Find(word[0]);
-                    Press(kCodes[key], false, key == 3 || key > 5);
-                }
-            }
+            const auto message = [](HWND to, UINT what, WPARAM how, int px, int py) {
+                ::SendMessage(to, what, how, MAKELPARAM(px, py));
+            };
+            const auto select = [&](const Lumo::CUIObjectDeque& objects) {
+                Page().SelectOnly(objects);
+                m_panel->Refresh();
+            };
+            const auto arrow = [&](int y) {
+                ::GetClientRect(field, room);
+                message(field, WM_LBUTTONDOWN, 0, room.right - 15, y);
+                message(field, WM_TIMER, 1, 0, 0);
+                message(field, WM_LBUTTONUP, 0, 0, 0);
+                message(field, WM_LBUTTONDOWN, 0, room.right - 16, 3);
+            };
+            const auto choose = [&] {
+                ::SetFocus(boxes[number]);
+                ::SendMessage(boxes[number], CB_SETCURSEL, ::_wtoi(word.Mid(word.Find(L'=') + 1)), 0);
+                ::SendMessage(::GetParent(boxes[number]), WM_COMMAND, MAKEWPARAM(1, CBN_SELCHANGE),
+                              reinterpret_cast<LPARAM>(boxes[number]));
+            };
+            const std::map<WCHAR, std::function<void()>> acts = {
+                {L'f', [&] { Focus(static_cast<Edit>(number)); }},
+                {L't', [&] { Type(static_cast<Edit>(number), word.Mid(word.Find(L'=') + 1)); }},
+                {L'B', [&] { ::SetFocus(buttons[number]); }},
+                {L'b', [&] { ::SendMessage(buttons[number], BM_CLICK, 0, 0); }},
+                {L'c', choose},
+                {L'h', [&] { ::SendMessage(::GetDlgItem(*m_panel, number), BM_CLICK, 0, 0); }},
+                {L'n', [&] { arrow(11); }},
+                {L'N', [&] { arrow(12); }},
+                {L'p', [&] { message(*m_panel, WM_LBUTTONDOWN, 0, 30, 5); }},
+                {L'y', [&] { message(*m_panel, WM_TIMER, 2, 0, 0); }},
+                {L'z', [&] { m_document->Edits().Undo(), m_panel->Refresh(); }},
+                {L'g', [&] { select(Objects()); }},
+                {L'G', [&] { select({}); }},
+                {L'v', [&] { message(*m_panel, WM_VSCROLL, static_cast<WPARAM>(number), 0, 0); }},
+                {L'w', [&] { m_panel->ScrollByWheel(static_cast<short>(number)); }},
+                {L'K', [&] { Press(VK_RETURN, true); }},
+                {L'R', [&] { Press(VK_RETURN); }},
+                {L'E', [&] { Press(VK_ESCAPE); }},
+                {L'T', [&] { Press(VK_TAB); }},
+                {L'S', [&] { Press(VK_TAB, false, true); }},
+                {L'U', [&] { Press(VK_UP); }},
+                {L'D', [&] { Press(VK_DOWN); }},
+                {L'u', [&] { Press(VK_UP, false, true); }},
+                {L'd', [&] { Press(VK_DOWN, false, true); }},
+            };
+            acts.at(word[0])();
         }
     }
 
@@ -243,6 +229,7 @@ const struct {
     {L"n0", L"page: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"g n1", L"E1:  20 100 50  28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"g t1=44 R", L"E1: 44 20 100 50  28% | 44,20 100,50 48445566 1 0 | 44,20 100,50 483E7BFA 1 0"},
+    {L"g t1=55 g R", L"E1: 55 20 100 50  28% | 55,20 100,50 48445566 1 0 | 55,20 100,50 483E7BFA 1 0"},
     {L"g t1=44 G", L"page:       | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"f4 T", L"B1: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
     {L"f4 T R", L"B1: 10 20 100 50 3E7BFA 28% | 40,20 100,50 48445566 1 0 | 10,20 100,50 483E7BFA 1 0"},
@@ -300,30 +287,6 @@ TEST_F(PropertyPanelTest, KeysAndMouse) {
             MakePanel();
         }
     }
-}
-
-TEST_F(PropertyPanelTest, FieldsFollowTheSelectionButNotWhileTheirTextIsTyped) {
-    Lumo::CUIObject* first = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
-    Lumo::CUIObject* second = Add(Lumo::DS_RECTANGLE, 40, 20, 100, 50);
-    Page().SelectOnly({first, second});
-    m_panel->Refresh();
-    EXPECT_EQ(L"", TextOf(kX));
-    EXPECT_EQ(L"20", TextOf(kY));
-    EXPECT_FALSE(::IsWindowEnabled(m_edits[kName]));
-    Type(kX, L"55");
-    first->SetPosition({15, 25, 100, 50});
-    m_panel->Refresh();
-    EXPECT_EQ(L"55", TextOf(kX));
-    EXPECT_EQ(L"", TextOf(kY));
-    Press(VK_RETURN);
-    EXPECT_FLOAT_EQ(55.0f, first->GetPosition().X);
-    EXPECT_FLOAT_EQ(55.0f, second->GetPosition().X);
-    // With nothing left to show, the focus does not stay in a dead field.
-    Page().SelectOnly({});
-    m_panel->Refresh();
-    EXPECT_EQ(L"", TextOf(kX));
-    EXPECT_FALSE(::IsWindowEnabled(m_edits[kX]));
-    EXPECT_EQ(Page().m_hWnd, ::GetFocus());
 }
 
 TEST_F(PropertyPanelTest, KeysOfTextStayInThePanelKeysOfCommandsDoNot) {

@@ -41,25 +41,6 @@ protected:
 
 }  // namespace
 
-TEST_F(PropertyTest, AValueThatDiffersIsEmptyAndATypedOneGoesToAll) {
-    Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
-    Add(Lumo::DS_ELLIPSE, 40, 20, 100, 50);
-    Lumo::CUIObject* line = Add(Lumo::DS_LINE, 200, 20, 60, 30);
-    SelectAllObjects();
-    const Property& x = Find(Text::kSectionPosition, Text::kPropPlace, L"X");
-    EXPECT_FALSE(Read(x).value);
-    EXPECT_EQ(PropertyValue(20.0f), Read(Find(Text::kSectionPosition, Text::kPropPlace, L"Y")).value);
-    EXPECT_TRUE(Write(x, 70.0f).IsEmpty());
-    for (Lumo::CUIObject* object : Objects())
-        EXPECT_FLOAT_EQ(70.0f, object->GetPosition().X);
-    // The points of a line come along.
-    EXPECT_FLOAT_EQ(70.0f, dynamic_cast<Lumo::CUIObjectPoly*>(line)->NormalizePoints()->front().X);
-    Undo();
-    EXPECT_FLOAT_EQ(10.0f, Objects()[0]->GetPosition().X);
-    EXPECT_FLOAT_EQ(40.0f, Objects()[1]->GetPosition().X);
-    EXPECT_FLOAT_EQ(200.0f, dynamic_cast<Lumo::CUIObjectPoly*>(line)->NormalizePoints()->front().X);
-}
-
 TEST_F(PropertyTest, ObjectsWithoutThePropertyDoNotCount) {
     Lumo::CUIObject* rectangle = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
     Lumo::CUIObject* line = Add(Lumo::DS_LINE, 200, 20, 60, 30);
@@ -135,25 +116,6 @@ TEST_F(PropertyTest, ValuesAreNamedAsTheDeviceNamesThem) {
     EXPECT_FALSE(Write(lines, CString(L"in1.level, , in2.level")).IsEmpty());
 }
 
-TEST_F(PropertyTest, ABurstIsOneStep) {
-    Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
-    const Property& width = Find(Text::kSectionOutline, Text::kPropWidth);
-    for (float value : {3.0f, 4.0f, 5.0f})
-        Write(width, value, 77);
-    EXPECT_FLOAT_EQ(5.0f, object->GetLineWidth());
-    Undo();
-    EXPECT_FLOAT_EQ(2.0f, object->GetLineWidth());
-}
-
-TEST_F(PropertyTest, CaptionsCanBeEmptied) {
-    Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
-    object->SetText(L"Level");
-    EXPECT_TRUE(Write(Find(Text::kSectionText, Text::kPropCaption), CString()).IsEmpty());
-    EXPECT_TRUE(object->GetText().IsEmpty());
-    Undo();
-    EXPECT_EQ(L"Level", object->GetText());
-}
-
 TEST_F(PropertyTest, LinesOfACaptionAreStoredAsItsObjectShowsThem) {
     Lumo::CUIObject* shape = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
     Lumo::CUIObject* box = Add(Lumo::DS_TEXTEDIT, 10, 120, 100, 50);
@@ -183,41 +145,6 @@ TEST_F(PropertyTest, BehavioursAreReadWithoutMakingExtras) {
     Undo();
     const ObjectExtras* extras = FindExtras(*object);
     EXPECT_FALSE(extras && extras->IsOn(Behaviour::kBlink));
-}
-
-// Every field of every record takes a value, gives it back, and touches no other field.
-TEST_F(PropertyTest, EachFieldOfARecordIsItsOwn) {
-    Lumo::CUIObject* object = Add(Lumo::DS_RECTANGLE, 10, 20, 100, 50);
-    for (int i = 0; i < kBehaviourCount; ++i) {
-        const auto& fields = BehaviourFields(static_cast<Behaviour>(i));
-        for (const Property& field : fields) {
-            if (field.applies && !field.applies(*object))
-                continue;
-            std::vector<PropertyValue> before;
-            before.reserve(fields.size());
-            for (const Property& other : fields)
-                before.push_back(other.get(*object));
-            PropertyValue value = field.get(*object);
-            if (auto* number = std::get_if<float>(&value))
-                *number = *number == 7.0f ? 8.0f : 7.0f;
-            else if (auto* code = std::get_if<int>(&value))
-                *code = *code == 1 ? 0 : 1;
-            else if (auto* text = std::get_if<CString>(&value))
-                *text = field.label == Text::kPropLineColors ? L"3E7BFA" : L"in1.level";
-            else
-                value = PartsOf(0x12345678);
-            field.set(*object, value);
-            for (size_t k = 0; k < fields.size(); ++k) {
-                // A trend's lines bring their width and colour.
-                const bool isOfLines =
-                    fields[k].label == Text::kPropLineWidth || fields[k].label == Text::kPropLineColors;
-                if (&fields[k] != &field && !isOfLines) {
-                    EXPECT_EQ(before[k], fields[k].get(*object)) << "record " << i << ", field " << k;
-                }
-            }
-            EXPECT_EQ(value, field.get(*object)) << "record " << i;
-        }
-    }
 }
 
 TEST_F(PropertyTest, ListsInOneTextKeepWhatTheyDoNotName) {

@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+
 /// Opens a document with one page in a real parent window, with Studio's tools registered.
 class StudioFixture : public ::testing::Test, public Studio::CanvasListener {
 protected:
@@ -65,41 +68,25 @@ protected:
             CPoint screen(x, y);
             Page().ClientToScreen(&screen);
             m_down = word[0] == L'd' || word[0] == L'D' || (m_down && word[0] != L'u');
-            switch (word[0]) {
-                case L'm':
-                    Mouse(WM_MOUSEMOVE, x, y, flags | held);
-                    break;
-                case L'd':
-                case L'D':
-                    Mouse(word[0] == L'd' ? WM_LBUTTONDOWN : WM_LBUTTONDBLCLK, x, y, flags);
-                    break;
-                case L'u':
-                    Mouse(WM_LBUTTONUP, x, y, flags);
-                    break;
-                case L'R':
-                    Page().SendMessage(WM_RBUTTONDOWN, flags, MAKELPARAM(x, y));
-                    Page().SendMessage(WM_RBUTTONUP, flags, MAKELPARAM(x, y));
-                    break;
-                case L'w':
-                case L'W':
-                    Page().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(flags, word[0] == L'w' ? 120 : -120),
-                                       MAKELPARAM(screen.x, screen.y));
-                    break;
-                case L'l':
-                    Page().SendMessage(WM_MOUSELEAVE);
-                    break;
-                case L'x':
-                    ::ReleaseCapture();
-                    break;
-                case L'e':
-                    Page().CancelGesture();
-                    break;
-                case L'f':
-                    Page().FinishEditing();
-                    break;
-                default:
-                    OnTick();
-            }
+            const auto turn = [&](int by) {
+                Page().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(flags, by), MAKELPARAM(screen.x, screen.y));
+            };
+            const auto right = [&](UINT message) { Page().SendMessage(message, flags, MAKELPARAM(x, y)); };
+            const std::map<WCHAR, std::function<void()>> acts = {
+                {L'm', [&] { Mouse(WM_MOUSEMOVE, x, y, flags | held); }},
+                {L'd', [&] { Mouse(WM_LBUTTONDOWN, x, y, flags); }},
+                {L'D', [&] { Mouse(WM_LBUTTONDBLCLK, x, y, flags); }},
+                {L'u', [&] { Mouse(WM_LBUTTONUP, x, y, flags); }},
+                {L'R', [&] { right(WM_RBUTTONDOWN), right(WM_RBUTTONUP); }},
+                {L'w', [&] { turn(WHEEL_DELTA); }},
+                {L'W', [&] { turn(-WHEEL_DELTA); }},
+                {L'l', [&] { Page().SendMessage(WM_MOUSELEAVE); }},
+                {L'x', [] { ::ReleaseCapture(); }},
+                {L'e', [&] { Page().CancelGesture(); }},
+                {L'f', [&] { Page().FinishEditing(); }},
+                {L't', [&] { OnTick(); }},
+            };
+            acts.at(word[0])();
         }
         m_down = false;
     }
