@@ -49,4 +49,10 @@ convert "${guide%.md}.png" -crop 620x360+4+76 +repage promised.png
 convert demo.png -crop 620x360+0+0 +repage shown.png
 apart=$(compare -metric AE -fuzz 10% promised.png shown.png null: 2>&1) || true
 [ "$apart" -le 300 ] || fail "The guide's picture shows another page: $apart pixels differ."
+
+# The page in the picture of the window, below the tools and the strip, and the strip's ground.
+[ "$(convert window.png -depth 8 -format '%[hex:u.p{76,212}]' info: | cut -c1-6)" = 58A6FF ] ||
+    fail "The window's picture does not show the first fader."
+[ "$(convert window.png -crop 200x10+200+36 -unique-colors -format '%w' info:)" -ge 5 ] ||
+    fail "The strip has no gradient."
 [ "$failed" = no ]
