@@ -7,10 +7,11 @@ set -euo pipefail
 
 out=build/run
 program=build/release/bin/Studio.exe
-page=830x700+240+92  # the page on the screen: Studio's window opens at a fixed place
+page=830x700+240+92  # the page on the screen: Studio's window opens at a fixed place when none is kept
 
 rm -rf "$out"
 mkdir -p "$out"
+find "${WINEPREFIX:?}/drive_c/users" -path '*/TesselStudio/Studio.ini' -delete
 studio=
 trap '[ -z "$studio" ] || kill "$studio" 2>/dev/null || true' EXIT
 

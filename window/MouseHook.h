@@ -34,8 +34,8 @@ public:
     /// Calls `listener` for what this thread gets from now on, in the place of the one that was started
     /// before. False when there is no function or the system refuses.
     bool Start(Listener listener);
-    /// As `Start`, for presses of a button alone that are not for `window` or one within it: `pressed` is
-    /// called before the press goes on to its window.
+    /// As `Start`, for presses of a button alone that are not for `window`, one within it or a menu:
+    /// `pressed` is called before the press goes on to its window.
     bool StartElsewhere(HWND window, std::function<void()> pressed);
     /// Ends the calls, as `KeyboardHook::Stop` does.
     void Stop();

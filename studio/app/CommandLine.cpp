@@ -4,6 +4,7 @@
 #include "studio/document/FileReport.h"
 #include "studio/document/PageImage.h"
 #include "studio/document/SymbolLibrary.h"
+#include "window/Tools.h"
 
 #include <shellapi.h>
 
@@ -39,13 +40,11 @@ bool HasRightCount(const CommandLine& line) {
 
 // A program with windows has no console, but it may have been given one, a pipe or a file.
 void Print(const CString& text) {
-    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), nullptr, 0, nullptr, nullptr);
-    std::string bytes(size, '\0');
-    ::WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), bytes.data(), size, nullptr, nullptr);
+    const std::string bytes = Lumo::Tools::ToUtf8(text);
     DWORD written;
     const HANDLE output = ::GetStdHandle(STD_OUTPUT_HANDLE);
     if (output && output != INVALID_HANDLE_VALUE)
-        ::WriteFile(output, bytes.data(), static_cast<DWORD>(size), &written, nullptr);
+        ::WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
 
 // Page number from 1; without one, the page that the file shows first.

@@ -6,6 +6,7 @@
 #include "studio/app/Painting.h"
 
 #include "window/DeferWindow.h"
+#include "window/Tools.h"
 
 #include <algorithm>
 
@@ -16,6 +17,7 @@ namespace {
 const CRect kFrame(40, 40, 40 + 1320, 40 + 860);
 // Everything has its place, and some of the page is seen.
 constexpr POINT kLeastSize = {760, 520};
+constexpr WCHAR kSection[] = L"Frame";  // of the settings file, for the frame's place
 
 }  // namespace
 
@@ -81,6 +83,16 @@ bool MainFrame::CreateFrame() {
         return false;
     ShowPage();
     return true;
+}
+
+void MainFrame::ShowWhereItWas(int show) {
+    const CString folder = Autosave::DefaultFolder();
+    if (!folder.IsEmpty()) {
+        ::CreateDirectory(folder, nullptr);
+        m_placement.SetPath(folder + L"\\Studio.ini");
+        show = Lumo::Tools::LoadPlacement(m_hWnd, m_placement, kSection, show);
+    }
+    ShowWindow(show);
 }
 
 void MainFrame::OnSize(UINT type, int cx, int cy) {
@@ -155,6 +167,8 @@ void MainFrame::OnClose() {
     if (!MayDiscard())
         return;
     m_autosave->Discard();
+    if (!m_placement.GetPath().IsEmpty())
+        Lumo::Tools::SavePlacement(m_hWnd, m_placement, kSection);
     DestroyWindow();
 }
 

@@ -11,6 +11,8 @@
 #include "studio/document/StudioDocument.h"
 #include "studio/editing/PageTool.h"
 
+#include <Ini.h>
+
 class COleInsertDialog;
 
 namespace Studio {
@@ -24,6 +26,8 @@ public:
     /// Makes the window with a new document. False when that fails; the object deletes itself then or with
     /// its window.
     bool CreateFrame();
+    /// Shows the frame as `show` says, where it was when it was closed the last time; it will be kept again.
+    void ShowWhereItWas(int show);
     /// Opens a file; a refused one is reported and changes nothing.
     void OpenPath(const CString& path);
     /// Opens the demo project as a document without a file.
@@ -126,6 +130,7 @@ private:
     HMENU m_menuBar = nullptr;
     RunMode m_run;
     CString m_title;
+    CIni m_placement;  // without a path nothing is kept
 };
 
 }  // namespace Studio

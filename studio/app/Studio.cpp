@@ -27,7 +27,7 @@ public:
         if (!frame->CreateFrame())
             return FALSE;
         m_pMainWnd = frame;
-        frame->ShowWindow(m_nCmdShow);
+        frame->ShowWhereItWas(m_nCmdShow);
         frame->UpdateWindow();
         if (line.arguments.empty())
             frame->Start(line.demo);

@@ -29,12 +29,15 @@ bool NumberEntry::Open(CWnd& parent, CRect area, double number, std::function<vo
     SetWindowText(text);
     SetSel(0, -1);
     SetFocus();
+    // Not every part of the window takes the keyboard when it is pressed.
+    m_elsewhere.StartElsewhere(m_hWnd, [this] { Close(); });
     m_done = std::move(done);
     return true;
 }
 
 void NumberEntry::Close() {
     m_done = nullptr;
+    m_elsewhere.Stop();
     if (m_hWnd)
         DestroyWindow();
 }

@@ -1,7 +1,7 @@
 // A field over the page in which a number is typed while the page runs.
 #pragma once
 
-#include <afxwin.h>
+#include "window/MouseHook.h"
 
 #include <functional>
 
@@ -28,6 +28,7 @@ private:
     void Accept();
 
     std::function<void(double)> m_done;
+    Lumo::MouseHook m_elsewhere;
 };
 
 }  // namespace Studio

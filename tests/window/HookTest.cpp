@@ -193,6 +193,14 @@ TEST_F(HookTest, APressElsewhereIsOneOutsideTheWindowAndItsChildren) {
     Pump();
     EXPECT_EQ("!", Click());
     EXPECT_EQ(1, presses) << "neither the wheel nor the release";
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, 7, L"In a menu");
+    ::SetCursorPos(200, 210);
+    SendMouse(MOUSEEVENTF_LEFTDOWN);
+    SendMouse(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(7, ::TrackPopupMenu(menu, TPM_RETURNCMD, 190, 200, 0, child, nullptr));
+    EXPECT_EQ(1, presses) << "the menu is the window's";
 }
 
 TEST_F(HookTest, AModalDialogsInputIsHeardAndTheLastOneUnhooks) {

@@ -31,6 +31,14 @@ bool IsPress(UINT message) {
     return false;
 }
 
+// A menu is a window of its own, but belongs to what it was opened for.
+bool IsMenuOpen() {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    return ::GetGUIThreadInfo(::GetCurrentThreadId(), &info) &&
+           (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
+}
+
 }  // namespace
 
 KeyboardHook::~KeyboardHook() {
@@ -69,7 +77,8 @@ bool MouseHook::StartElsewhere(HWND window, std::function<void()> pressed) {
         return false;
     }
     return Start([window, pressed = std::move(pressed)](const HookedMouse& mouse) {
-        if (IsPress(mouse.message) && mouse.window != window && !::IsChild(window, mouse.window))
+        if (IsPress(mouse.message) && mouse.window != window && !::IsChild(window, mouse.window) &&
+            !IsMenuOpen())
             pressed();
         return false;
     });
