@@ -183,12 +183,12 @@ BOOL CALLBACK NoteControl(HWND window, LPARAM notes) {
 
 TEST(FileDialog, ShowsWhatItIsGivenAndGivesTheChosenPath) {
     TestFolder folder;
-    for (int row = 0; row < 2; ++row) {
+    for (DWORD row = 0; row < 2; ++row) {
         CFileDialog dialog(FALSE, _T("cbf"), row ? _T("plain") : folder.path + _T("\\새 page.cbf"),
                            OFN_OVERWRITEPROMPT, _T("Pages (*.cbf)|*.cbf|All (*.*)|*.*||"));
         dialog.m_ofn.lpstrTitle = _T("Pick one");
         dialog.m_ofn.lpstrInitialDir = folder.path;
-        dialog.m_ofn.nFilterIndex = static_cast<DWORD>(2 * row);
+        dialog.m_ofn.nFilterIndex = 2 * row;
         std::wstring seen;
         DialogUser user([&](HWND window) {
             TCHAR title[32];

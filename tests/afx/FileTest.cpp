@@ -193,7 +193,8 @@ TEST(MemFile, GrowsByHalfInWholeSteps) {
     file.Write(&byte, 0);
     for (auto [distance, from] :
          {std::pair{-101LL, UINT(CFile::end)}, {0LL, 3u}, {LLONG_MAX, UINT(CFile::end)}})
-        EXPECT_EQ(CFileException::badSeek, CauseOf<CFileException>([&] { file.Seek(distance, from); }));
+        EXPECT_EQ(CFileException::badSeek,
+                  CauseOf<CFileException>([&file, d = distance, f = from] { file.Seek(d, f); }));
     EXPECT_TRUE(file.GetPosition() == 100 && file.GetLength() == 100);
     BYTE own[8] = {1, 2, 3};
     file.Attach(own, 8, 16);

@@ -322,7 +322,7 @@ struct Counting : CWnd {
 };
 
 TEST(WindowMembers, Family) {
-    CFrameWnd* frame = new CFrameWnd;
+    auto* frame = new CFrameWnd;
     ASSERT_TRUE(frame->Create(nullptr, _T("frame")));
     Counting parent, middle, inner, popup;
     ASSERT_TRUE(parent.Create(nullptr, nullptr, WS_VISIBLE, CRect(3, 4, 300, 200), frame, 49));

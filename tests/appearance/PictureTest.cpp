@@ -21,7 +21,8 @@ public:
     explicit Cells(int rows) : m_height(rows * kHigh), m_surface(kColumns * kWide, m_height) {}
     Gdiplus::PointF Next() {
         const int cell = m_count++;
-        return {static_cast<float>(cell % kColumns * kWide), static_cast<float>(cell / kColumns * kHigh)};
+        const int row = cell / kColumns;
+        return {static_cast<float>(cell % kColumns * kWide), static_cast<float>(row * kHigh)};
     }
     Gdiplus::Graphics* operator->() { return &m_surface.graphics(); }
     operator Gdiplus::Graphics*() { return m_surface; }

@@ -160,6 +160,6 @@ TEST(DeviceTest, ValuesAndLimits) {
         EXPECT_EQ(limits.try_emplace(kind, limit).first->second, limit) << name;
     }
     for (const auto& [kind, limit] : limits)
-        values += "\n" + kind + " " + limit;
+        values.append("\n").append(kind).append(" ").append(limit);
     ExpectGoldenText(values + "\n", "studio", "device");
 }

@@ -105,11 +105,12 @@ TEST_F(GoldenTest, Behaviours) {
     // Colours, captions, and what blinks or hides in parts.
     constexpr LPCWSTR kNames[] = {L"in1.mute", L"in6.mute", L"in1.level", L"in2.gain"};
     for (int i = 0; i < 24; ++i) {
+        const int row = i / 8;
         CUIObject* object =
             Add(i % 5 == 4 ? Lumo::DS_LINE
                 : i % 2    ? Lumo::DS_ELLIPSE
                            : Lumo::DS_TEXTEDIT,
-                9 + 73.0f * static_cast<float>(i % 8), 280 + 40.0f * static_cast<float>(i / 8), 60, 30);
+                9 + 73.0f * static_cast<float>(i % 8), 280 + 40.0f * static_cast<float>(row), 60, 30);
         constexpr Behaviour kSome[] = {Behaviour::kColor, Behaviour::kText, Behaviour::kButton,
                                        Behaviour::kHide,  Behaviour::kFill, Behaviour::kBlink};
         auto& extras = Extras(object, kSome[i % 6], kNames[i / 6]);
