@@ -52,8 +52,16 @@ public:
 
 private:
     struct Edge {
-        int x0, y0, x1, y1;  // 1/256 of a pixel; y0 < y1
+        int x0, y0, x1, y1;  // 1/256 of a pixel; y0 <= y1, level ones only keep figures together
         int direction;       // 1 when the figure goes down here, else -1
+    };
+    // An edge within a row, and its x at the row's top and bottom.
+    struct Lane {
+        size_t edge;
+        int64_t slope;
+        int top, bottom;
+        int Left() const { return std::min(top, bottom); }
+        int Right() const { return std::max(top, bottom); }
     };
     // An edge between two heights of a row.
     struct Piece {
@@ -79,8 +87,12 @@ private:
     void AddSmooth(const Edge& edge);
     void AddSharp(const Edge& edge);
     void SweepBand(FillRule rule);
+    int At(const Lane& lane, int y) const;
+    int CoverPiece(int row, const Piece& piece, int height, int winding, FillRule rule);
     void SweepRow(int row, FillRule rule);
-    void SweepStrip(int row, int top, int bottom, int least, FillRule rule);
+    int SweepLanes(int row, std::span<const Lane> lanes, int winding, FillRule rule);
+    int SweepStrip(int row, std::span<const Lane> lanes, int top, int bottom, int least, int winding,
+                   FillRule rule);
     void EmitRow(int row, bool alternate, RowSink& sink);
 
     IntRect m_clip;
@@ -98,7 +110,7 @@ private:
     std::vector<uint8_t> m_coverage;
     std::vector<Run> m_runs;
 
-    std::vector<size_t> m_active;
+    std::vector<Lane> m_lanes;  // from left to right
     std::vector<int> m_heights;
     std::vector<Piece> m_pieces;
     size_t m_next = 0;

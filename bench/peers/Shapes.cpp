@@ -178,6 +178,30 @@ public:
             });
     }
 
+    // A line of 60 pieces that goes up and down, as a trend does.
+    void Trend() {
+        const raster::SolidPaint paint(0xFF40C080);
+        Pen pen;
+        pen.width = 1.5;
+        cairo_set_source_rgb(m_cairo, 0.25, 0.75, 0.5);
+        cairo_set_line_width(m_cairo, 1.5);
+        const auto height = [](int i) { return 20 + 12 * std::sin(i * 0.2) + i * 7 % 11; };
+        Path path;
+        Compare(
+            "smooth trend of 60 points, 60x40",
+            [&](int x, int y) {
+                path.Clear();
+                for (int i = 0; i < 60; ++i)
+                    path.LineTo({1.0 * x + i, y + height(i)});
+                m_renderer.Stroke(path, pen, {}, paint);
+            },
+            [&](int x, int y) {
+                for (int i = 0; i < 60; ++i)
+                    cairo_line_to(m_cairo, x + i, y + height(i));
+                cairo_stroke(m_cairo);
+            });
+    }
+
     // The brush is made for each call on both sides.
     void GradientFill() {
         const raster::GradientStop stops[] = {{0, 0xFF203040}, {1, 0xFF40C080}};
@@ -251,6 +275,7 @@ int main() {
     bench.Line();
     bench.Text();
     bench.EllipseFill();
+    bench.Trend();
     bench.GradientFill();
     bench.Picture("picture 60x40 as it is", 1, raster::Sampling::Bilinear, CAIRO_FILTER_BILINEAR);
     bench.Picture("picture twice as large, 60x40", 2, raster::Sampling::Bilinear, CAIRO_FILTER_BILINEAR);

@@ -7,7 +7,8 @@
 
 namespace raster {
 
-inline constexpr int kUnit = 256;  // of a coordinate to a pixel
+inline constexpr int kUnit = 256;                  // of a coordinate to a pixel
+inline constexpr int64_t kOne = int64_t{1} << 32;  // fraction of positions that go down an edge
 
 // The pixel in which a coordinate lies.
 inline int PixelOf(int fixed) {

@@ -61,10 +61,12 @@ public:
 private:
     static Point Middle(Point a, Point b) { return (a + b) * 0.5; }
 
-    // Wang's bound.
+    // Wang's bound. Curves that bend both ways or have a tip lose more of their area: half as much is
+    // allowed.
     double Lines(const Curve& curve) const {
         const Point first = curve.a - curve.b * 2 + curve.c, second = curve.b - curve.c * 2 + curve.d;
-        return std::sqrt(std::sqrt(std::max(Dot(first, first), Dot(second, second))) * m_factor);
+        const double factor = Dot(first, second) < 0 ? 2 * m_factor : m_factor;
+        return std::sqrt(std::sqrt(std::max(Dot(first, first), Dot(second, second))) * factor);
     }
 
     // Vertices lie outside the curve by two thirds of what the lines between points of it would lose: the

@@ -9,8 +9,7 @@ namespace raster {
 
 namespace {
 
-constexpr int kBandCells = 1 << 16;         // 256 kB: stays in the second cache
-constexpr int64_t kOne = int64_t{1} << 32;  // fraction of positions that go down an edge
+constexpr int kBandCells = 1 << 16;  // 256 kB: stays in the second cache
 
 int ToFixed(double value) {
     return static_cast<int>(std::lrint(value * kUnit));
@@ -117,7 +116,7 @@ void Rasterizer::AddEdge(int x0, int y0, int x1, int y1) {
         std::swap(y0, y1);
     }
     const int left = std::min(x0, x1);
-    if (y0 == y1 || y1 <= m_clip.top * kUnit || y0 >= m_clip.bottom * kUnit || left >= m_clip.right * kUnit)
+    if (y1 <= m_clip.top * kUnit || y0 >= m_clip.bottom * kUnit || left >= m_clip.right * kUnit)
         return;
     m_minX = std::min(m_minX, left);
     m_maxX = std::max(m_maxX, std::max(x0, x1));
@@ -132,7 +131,7 @@ void Rasterizer::Finish(FillRule rule, Edges edges, RowSink& sink) {
     const bool sweep = edges == Edges::Smooth && !m_simple;
     if (sweep) {
         std::sort(m_edges.begin(), m_edges.end(), [](const Edge& a, const Edge& b) { return a.y0 < b.y0; });
-        m_active.clear();
+        m_lanes.clear();
         m_next = 0;
     }
     m_left = std::max(m_clip.left, PixelOf(m_minX));
