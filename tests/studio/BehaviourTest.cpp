@@ -104,17 +104,6 @@ TEST(BehaviourTest, ConditionJoinsFromLeftToRightAndReadsLimitsAsSigned) {
     EXPECT_FALSE(holds(0));
 }
 
-TEST(BehaviourTest, CommandsAssignWithArguments) {
-    Device device;
-    CPrefButton button;
-    button.m_strArguments[0] = L"in3";
-    button.m_strArguments[11] = L"-7.5";
-    RunCommand(button, L" %1.mute = 1; %1.gain=%12; rubbish; =4; out1.gain=x; in4.gain = 2", device);
-    EXPECT_EQ(device.Get(L"in3.mute"), 1.0);
-    EXPECT_EQ(device.Get(L"in3.gain"), -7.5);
-    EXPECT_EQ(device.Get(L"in4.gain"), 2.0);
-}
-
 TEST(ObjectExtrasTest, CopiesAndArchiveKeepNamesLinesAndSwitches) {
     ObjectPtr object = MakeObject(ObjectClass::kRectangle);
     ObjectExtras& extras = *EditExtras(*object);

@@ -137,15 +137,19 @@ void ControlsTest::ExpectRows(const std::string& name) {
         m_device = settled;
         Run();
         RunCommand(CPrefButton(), row.set, m_device);
-        m_session->Update();
+        ExpectNothingStale();
         const Device before = m_device;
         Play(row.gesture, {kLeft, kTop});
         EXPECT_STREQ(Changes(before, m_device), row.changes);
         const CRect place(CPoint(kLeft - 2, kTop - 2), row.size + CSize(4, 4));
         sheet.Add(PixelsOf(Page(), place));
-        Play(L"x l");
-        ExpectNothingStale();
+        // Every other run ends in the middle of its gesture.
+        if ((&row - kRows) % 2) {
+            Play(L"x l");
+            ExpectNothingStale();
+        }
         m_session.reset();
+        EXPECT_NE(::GetCapture(), Page().m_hWnd);
         Page().UpdateWindow();
         EXPECT_EQ(CountDiffering(PixelsOf(Page()), edited), 0u) << "edited again";
         Page().SelectOnly({object});

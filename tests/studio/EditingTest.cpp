@@ -1,7 +1,6 @@
 // Editing with real mouse messages: what a user expects where the library keeps something else.
 #include "studio/StudioFixture.h"
 
-#include "core/UIObjectPoly.h"
 #include "studio/editing/Geometry.h"
 #include "studio/editing/Grid.h"
 #include "studio/editing/GroupObject.h"
@@ -207,26 +206,6 @@ TEST_F(EditingTest, Gestures) {
         plain.Replace(L"*", L""), wanted.Replace(L"*", L"");
         EXPECT_STREQ(plain, wanted);
     }
-}
-
-TEST_F(EditingTest, EditsATextBoxInPlace) {
-    CUIObject* text = Add(Lumo::DS_TEXTEDIT, 50, 50, 200, 40);
-    text->SetText(L"before");
-    m_document->SetModifiedFlag(0);
-    // Hit in the corner, where the library's text box is not.
-    Mouse(WM_LBUTTONDBLCLK, 60, 60);
-    ASSERT_NE(nullptr, Page().m_pEdit);
-    reinterpret_cast<CWnd*>(Page().m_pEdit)->SetWindowText(L"after");
-    Click({400, 300});
-    EXPECT_EQ(nullptr, Page().m_pEdit);
-    EXPECT_EQ(CString(L"after"), text->GetText());
-    EXPECT_EQ(1, m_document->GetModifiedFlag());
-    // An object that goes while it is edited takes its editor along.
-    Mouse(WM_LBUTTONDBLCLK, 60, 60);
-    ASSERT_NE(nullptr, Page().m_pEdit);
-    RemoveObjects(Page(), {text}, Text::kStepDelete);
-    EXPECT_EQ(nullptr, Page().m_pEdit);
-    EXPECT_TRUE(Objects().empty());
 }
 
 TEST_F(EditingTest, UngroupingPutsEveryGroupsChildrenInItsPlace) {

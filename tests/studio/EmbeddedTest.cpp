@@ -27,11 +27,11 @@ constexpr DWORD kRed = 0xFFE02040;
 // A picture of one colour that the platform itself keeps as an embedded item.
 ComPtr<IOleObject> MakeStaticPicture(IStorage& storage) {
     constexpr int kSide = 40;
-    BITMAPINFOHEADER info = {sizeof info, kSide, kSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof info + sizeof(DWORD) * kSide * kSide);
+    BITMAPINFOHEADER info = {sizeof info, kSide, kSide / 2, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof info + sizeof(DWORD) * kSide * kSide / 2);
     auto* dib = static_cast<BYTE*>(::GlobalLock(memory));
     std::memcpy(dib, &info, sizeof info);
-    std::fill_n(reinterpret_cast<DWORD*>(dib + sizeof info), kSide * kSide, kRed & 0xFFFFFF);
+    std::fill_n(reinterpret_cast<DWORD*>(dib + sizeof info), kSide * kSide / 2, kRed & 0xFFFFFF);
     ::GlobalUnlock(memory);
     COleDataSource source;
     source.CacheGlobalData(CF_DIB, memory);
@@ -130,7 +130,7 @@ TEST_F(EmbeddedTest, ALargeItemFitsTheRoom) {
     const ObjectPtr object = MakeEmbedded(MakeItem(), PointF(100, 80), SizeF(20, 300));
     const Gdiplus::RectF bounds = object->GetPosition();
     EXPECT_FLOAT_EQ(20, bounds.Width);
-    EXPECT_NEAR(bounds.Width, bounds.Height, 1.0f);
+    EXPECT_NEAR(bounds.Width, 2 * bounds.Height, 1.0f);
     EXPECT_NEAR(100, bounds.X + bounds.Width / 2, 1.0f);
 }
 

@@ -1,6 +1,5 @@
 // Undo and redo: after any number of steps, and for every command, the page is what it was.
 #include "studio/StudioFixture.h"
-#include "studio/editing/GroupObject.h"
 #include "studio/editing/History.h"
 #include "studio/editing/ListChange.h"
 #include "studio/editing/ObjectClipboard.h"
@@ -128,15 +127,22 @@ TEST_F(HistoryTest, TypedTextIsOneStepAndMayBeEmpty) {
     CUIObject* text = Add(Lumo::DS_TEXTEDIT, 50, 50, 200, 40);
     text->SetText(L"before");
     for (LPCWSTR typed : {L"after", L""}) {
+        // Hit in the corner, where the library's text box is not.
         Mouse(WM_LBUTTONDBLCLK, 60, 60);
         ASSERT_NE(nullptr, Page().m_pEdit);
         reinterpret_cast<CWnd*>(Page().m_pEdit)->SetWindowText(typed);
-        Page().FinishEditing();
+        Click({400, 300});
+        EXPECT_EQ(nullptr, Page().m_pEdit);
         EXPECT_EQ(CString(typed), text->GetText());
         EXPECT_TRUE(Edits().Undo());
         EXPECT_EQ(CString(L"before"), text->GetText());
         EXPECT_FALSE(Edits().CanUndo());
     }
+    // An object that goes while it is edited takes its editor along.
+    Mouse(WM_LBUTTONDBLCLK, 60, 60);
+    RemoveObjects(Page(), {text}, Text::kStepDelete);
+    EXPECT_EQ(nullptr, Page().m_pEdit);
+    EXPECT_TRUE(Objects().empty());
 }
 
 TEST_F(HistoryTest, ListChangesAreSmallAndExact) {

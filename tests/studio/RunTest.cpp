@@ -1,6 +1,5 @@
 // Run mode through real messages: controls, behaviours, repainting, and everything as before at the end.
 #include "RunFixture.h"
-#include "studio/controls/LevelControls.h"
 #include "studio/controls/MatrixControls.h"
 #include "studio/controls/PeqChart.h"
 #include "studio/runtime/NumberEntry.h"
@@ -142,7 +141,7 @@ TEST_F(RunTest, GesturesOnBehaviours) {
         {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 1, e.prefs.m_button.m_strReleaseCommand = L"in2.gain=5"; }, L"d20,20 m200,200 u200,200", L"in2.gain=5", L""},
         {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 1; }, L"d20,20 x", L"", L""},
         {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 1, e.prefs.m_button.m_bConfirm = 1, e.prefs.m_button.m_strReleaseCommand = L"in2.gain=5"; }, L"d20,20 u20,20", L"in2.gain=5", L""},
-        {Behaviour::kButton, L"in1.gain", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 3, e.prefs.m_button.m_nValue = -9, e.prefs.m_button.m_strPressCommand = L"in2.gain=%1;in3.gain=%2", e.prefs.m_button.m_strArguments[1] = L"4"; }, L"d20,20 u20,20", L"in1.gain=-9 in3.gain=4", L""},
+        {Behaviour::kButton, L"in1.gain", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 3, e.prefs.m_button.m_nValue = -9, e.prefs.m_button.m_strPressCommand = L" %1.gain =5; rubbish;=4;in4.gain=x; in3.gain=%12", e.prefs.m_button.m_strArguments[0] = L"in2", e.prefs.m_button.m_strArguments[11] = L"4"; }, L"d20,20 u20,20", L"in1.gain=-9 in2.gain=5 in3.gain=4", L""},
         {Behaviour::kButton, L"in1.mute", [](ObjectExtras& e) { e.prefs.m_button.m_nAction = 5, e.prefs.m_button.m_strPressCommand = L"in2.gain=5"; }, L"d20,20 u20,20", L"in2.gain=5", L""},
         {Behaviour::kButton, L"in1.mute", nullptr, L"d20,20 m500,300 m20,20 u20,20 D20,20 u20,20 d20,20", L"in1.mute=1", L""},
         {Behaviour::kButton, L"in1.mute", nullptr, L"d60,40 u60,40", L"", L""},
@@ -195,13 +194,12 @@ TEST_F(RunTest, RadioButtonsOfOneGroupExcludeEachOtherWhereverTheyStand) {
     CUIObject* const second = button(2, 7);
     CUIObject* const third = button(3, 7);
     CUIObject* const other = button(4, 8);
-    CUIObject* const fifth = button(5, 7);
+    button(5, 7);
     Page().SelectOnly({third, other});
     GroupSelection(Page());
     Page().SelectOnly({Objects().back(), second});
     GroupSelection(Page());
     EXPECT_EQ(Objects().size(), 3u);
-    EXPECT_NE(fifth, nullptr);
     Run();
     const auto on = [&] {
         CString which;
@@ -235,24 +233,6 @@ TEST_F(RunTest, ControlsFarOutOnThePageAnswerTheMouse) {
     cell.x += 310;
     Drag(cell, {cell.x, cell.y + 20}, MK_LBUTTON);
     EXPECT_EQ(m_device.Get(L"xp.4.9.gain"), -5.0);
-}
-
-TEST_F(RunTest, NothingStaysGrabbedWhenTheRunEnds) {
-    auto* chart = dynamic_cast<PeqChart*>(Add(Lumo::DS_CHARTPEQ, 0, 0, 300, 180));
-    CUIObject* held = Add(Lumo::DS_BUTTONDEVICE, 10, 250, 80, 40);
-    EditExtras(*held)->binding = L"master.mute";
-    dynamic_cast<DeviceButton*>(held)->SetButtonStyle(DeviceButton::kMomentary);
-    const CPoint handle = chart->HandleOf(3);
-    for (CPoint at : {handle, CPoint(50, 270)}) {
-        Run();
-        Mouse(WM_MOUSEMOVE, at.x, at.y);
-        Mouse(WM_LBUTTONDOWN, at.x, at.y);
-        Mouse(WM_MOUSEMOVE, at.x + 5, at.y);
-        m_session.reset();
-        EXPECT_NE(::GetCapture(), Page().m_hWnd);
-    }
-    EXPECT_EQ(m_device.Get(L"master.mute"), 0.0) << "a momentary button is released";
-    EXPECT_EQ(chart->HotBand(), 0) << "no band stays lit while the page is edited";
 }
 
 TEST_F(RunTest, ControlsStandAnySizeAndBinding) {
