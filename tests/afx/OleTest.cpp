@@ -201,7 +201,17 @@ TEST_F(Ole, ClientItemOfNoClassStaysEmpty) {
     item.Close();
     item.Run();
     EXPECT_TRUE(item.GetLastStatus() == OLE_E_BLANK && item.GetItemState() == COleClientItem::emptyState);
-    item.Delete(FALSE);
+    struct Counted : COleClientItem {
+        explicit Counted(int& count) : alive(count) { ++alive; }
+        ~Counted() override { --alive; }
+        int& alive;
+    };
+    int alive = 0;
+    auto* stays = new Counted(alive);
+    (new Counted(alive))->Delete();
+    stays->Delete(FALSE);
+    EXPECT_EQ(1, alive);
+    delete stays;
     EXPECT_FALSE(item.CreateNewItem(CLSID_NULL));
     EXPECT_TRUE(FAILED(item.GetLastStatus()));
     EXPECT_EQ(static_cast<UINT>(COleClientItem::emptyState), item.GetItemState());

@@ -74,6 +74,7 @@ protected:
     ~TabScript() override { m_parent.DestroyWindow(); }
 
     void Make() {
+        ::SetCursorPos(900, 700);
         m_parent.refused = 0;
         m_tabs = std::make_unique<TabCtrl>();
         m_tabs->Create(WS_VISIBLE, CRect(0, 0, 300, 30), &m_parent, 77);
@@ -189,6 +190,8 @@ protected:
         m_tabs->ScreenToClient(rect);
         CString text;
         editor->GetWindowText(text);
+        constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL;
+        EXPECT_TRUE((editor->GetStyle() & kStyle) == kStyle && editor->SendMessage(EM_GETLIMITTEXT) == 64);
         std::ostringstream out;
         out << Narrow(text) << ' ' << rect.left << '-' << rect.right;
         return out.str();
@@ -307,10 +310,10 @@ TEST_F(TabScript, Dragging) {
         {"reorder", "down:150,9 move:120,9 lose up:2,9", "A B C* D : changing2 changed2 dragend"},
         {"reorder", "down:150,9 move:120,9 pump:esc up:2,9", "A B C* D : changing2 changed2 dragend taken"},
         {"reorder", "down:150,9 move:120,9 pump:x", "A B C* D drag held focus : changing2 changed2"},
-        {"reorder", "down:150,9 move:120,9 remove:0 up:2,9", "B C* D : changing2 changed2 dragend"},
-        {"reorder", "down:150,9 move:120,9 insert:0 up:2,9", "N A B C* D : changing2 changed2 dragend"},
-        {"reorder", "down:150,9 move:120,9 mv:0,1 up:2,9", "B A C* D : changing2 changed2 dragend"},
-        {"reorder", "down:150,9 move:120,9 all up:2,9", ": changing2 changed2 dragend"},
+        {"reorder", "down:150,9 move:120,9 remove:0", "B C* D : changing2 changed2 dragend"},
+        {"reorder", "down:150,9 move:120,9 insert:0", "N A B C* D : changing2 changed2 dragend"},
+        {"reorder", "down:150,9 move:120,9 mv:0,1", "B A C* D : changing2 changed2 dragend"},
+        {"reorder", "down:150,9 move:120,9 all", ": changing2 changed2 dragend"},
         {"reorder close", "down:70,9 move:120,9 up:2,9", "A* B C D over 1 :"},
     });
 }
@@ -387,6 +390,30 @@ TEST_F(TabScript, Scrolling) {
         {"more:3 reorder cur:6", "down:34,9 move:60,9 move:2,9 up:2,9",
          "A B C D* x x x scrolled 146 : changing3 changed3 dragend"},
     });
+}
+
+TEST_F(TabScript, HoldingAButtonAndDraggingToAnEndScrollOn) {
+    const auto scrollsTo = [&](int offset) {
+        const ULONGLONG end = ::GetTickCount64() + 2000;
+        while (m_tabs->GetTabRect(0).left != 6 - offset && ::GetTickCount64() < end) {
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+            PumpQueue();
+        }
+        return m_tabs->GetTabRect(0).left == 6 - offset;
+    };
+    ::SetCursorPos(40 + 282, 30 + 15);
+    PumpQueue();
+    Run("more:3 move:282,15 down:282,15");
+    EXPECT_TRUE(scrollsTo(120) && scrollsTo(146));
+    ::SetCursorPos(40 + 262, 30 + 15);
+    Run("move:282,15 up:282,15 move:262,15 down:262,15");
+    EXPECT_TRUE(scrollsTo(0));
+    Run("up:262,15 reorder down:34,9 move:60,9");
+    ::SetCursorPos(40 + 229, 30 + 15);
+    EXPECT_TRUE(scrollsTo(60) && scrollsTo(146));
+    ::SetCursorPos(40 + 23, 30 + 15);
+    EXPECT_TRUE(scrollsTo(86) && scrollsTo(0));
+    Run("lose");
 }
 
 // Notes what is painted and how: the tabs, their texts and the signs.
