@@ -89,8 +89,10 @@ TEST(ResourceChain, StringsComeByTheirNumbers) {
     TCHAR cut[4] = _T("old");
     EXPECT_EQ(3, AfxLoadString(5003, cut, 4));
     EXPECT_STREQ(_T("thi"), cut);
-    EXPECT_EQ(0, AfxLoadString(5002, cut, 4));
-    EXPECT_EQ(0, cut[0]);
+    for (const auto& [number, room] : {std::pair{5002u, 4u}, {5003u, 1u}}) {
+        cut[0] = 'o';
+        EXPECT_TRUE(AfxLoadString(number, cut, room) == 0 && cut[0] == 0);
+    }
 
     // Found behind a program without it.
     HMODULE program = AfxGetResourceHandle();

@@ -284,6 +284,9 @@ TEST_F(Frame, StatusBarKeepsItsPanes) {
                             2 * share + 170 + width};
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(expected[i], ends[i]) << i;
+    frame.bar.SetPaneInfo(1, 801, SBPS_NORMAL, 100);
+    frame.bar.SendMessage(SB_GETPARTS, 6, reinterpret_cast<LPARAM>(ends));
+    EXPECT_EQ((client.Width() - 5 * 8 - 100 - 40 - width) / 2 + 116, ends[1]) << "laid out anew";
     UINT id, style;
     int wide;
     frame.bar.GetPaneInfo(0, id, style, wide);
@@ -318,6 +321,8 @@ TEST_F(Frame, StatusBarKeepsItsPanes) {
     EXPECT_TRUE(frame.bar.GetStyle() & SBARS_SIZEGRIP);
     ASSERT_TRUE(frame.bar.SetIndicators(nullptr, 2));
     EXPECT_TRUE(frame.bar.GetCount() == 2 && frame.bar.GetItemID(1) == ID_SEPARATOR);
+    frame.bar.GetPaneInfo(1, id, style, wide);
+    EXPECT_TRUE(style == 0 && wide == 0) << "the first one alone stretches";
 }
 
 TEST(Menu, ObjectsAreFoundByTheirHandles) {

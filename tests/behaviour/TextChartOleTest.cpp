@@ -18,6 +18,7 @@ TEST(TextEdit, KeepsItsNameThroughInit) {
     EXPECT_EQ(DS_TEXTEDIT, text.GetType());
     EXPECT_STREQ(L"TextEdit", text.GetShapeName());
     RectF rect(1, 2, 30, 40);
+    EXPECT_STREQ(L"TextEdit", CUIObjectTextEdit(rect, DS_TOOL_TEXT).GetShapeName());
     text.Init(DS_TOOL_TEXT, rect);
     EXPECT_EQ(DS_TOOL_TEXT, text.GetType());
     EXPECT_TRUE(SameBytes(Stored(text), ObjectBase(0xFF01, L"TextEdit", 1, 2, 30, 40)));
