@@ -69,9 +69,9 @@ TEST(CoordinateTest, EmptyTextsAreIgnored) {
 
 TEST(CoordinateTest, AccessorsReachTheirOwnFields) {
     CUICoordinate coordinate;
-    float value = 0;
+    float value = 20;
     const auto next = [&] { return value += 1; };
-    coordinate.SetLineDashValue(next(), 2, 3, 4);
+    coordinate.SetLineDashValue(next(), 22, 23, 24);
     coordinate.SetLineStartArrow(5, 6, 7);
     coordinate.SetLineEndArrow(8, 9, 10);
     coordinate.SetScale({11, 12});
@@ -84,7 +84,7 @@ TEST(CoordinateTest, AccessorsReachTheirOwnFields) {
     float a, b, c, d;
     int filled;
     coordinate.GetLineDashValue(&a, &b, &c, &d);
-    EXPECT_EQ((std::vector<float>{a, b, c, d}), (std::vector<float>{1, 2, 3, 4}));
+    EXPECT_EQ((std::vector<float>{a, b, c, d}), (std::vector<float>{21, 22, 23, 24}));
     coordinate.GetLineStartArrow(&a, &b, &filled);
     EXPECT_EQ((std::vector<float>{a, b, static_cast<float>(filled)}), (std::vector<float>{5, 6, 7}));
     coordinate.GetLineEndArrow(&a, nullptr, &filled);
