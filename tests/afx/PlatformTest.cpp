@@ -47,15 +47,15 @@ private:
     void* m_original;
 };
 
+HANDLE WINAPI NoteFile(LPCWSTR path, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security, DWORD creation,
+                       DWORD attributes, HANDLE) {
+    Note(path, access >> 30, share, security->bInheritHandle, creation, attributes >> 24);
+    ::SetLastError(ERROR_SEEK);
+    return INVALID_HANDLE_VALUE;
+}
+
 TEST(Platform, OpensFilesAsTheFlagsSay) {
-    const Instead open("CreateFileW", &::CreateFileW,
-                       [](LPCWSTR path, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security,
-                          DWORD creation, DWORD attributes, HANDLE) -> HANDLE {
-                           Note(path, access >> 30, share, security->bInheritHandle, creation,
-                                attributes >> 24);
-                           ::SetLastError(ERROR_SEEK);
-                           return INVALID_HANDLE_VALUE;
-                       });
+    const Instead open("CreateFileW", &::CreateFileW, &NoteFile);
     const struct {
         UINT flags;
         LPCWSTR arguments;
@@ -149,9 +149,17 @@ TEST(Platform, ShowsMessageBoxesWithTheIconOfTheirButtons) {
     program.m_pMainWnd = nullptr;
 }
 
+void WINAPI NoteLine(LPCWSTR line) {
+    Note(line, L"|");
+}
+
+void WINAPI NoteBreak() {
+    Note(L"break");
+}
+
 TEST(Platform, IsToldOfTracesAndAssertions) {
-    const Instead output("OutputDebugStringW", &::OutputDebugStringW, [](LPCWSTR line) { Note(line, L"|"); });
-    const Instead stop("DebugBreak", &::DebugBreak, [] { Note(L"break"); });
+    const Instead output("OutputDebugStringW", &::OutputDebugStringW, &NoteLine);
+    const Instead stop("DebugBreak", &::DebugBreak, &NoteBreak);
     AfxTrace(L"%s is %d", L"one", 1);
     EXPECT_EQ(L"one is 1 | ", Calls());
     for (int length : {1022, 1023, 1024, 1025, 3000}) {
@@ -229,19 +237,23 @@ TEST(Platform, ShowsFileDialogsOfTheOldKind) {
     EXPECT_EQ(L"o   (null) 4096 free ", Calls());
 }
 
+BOOL WINAPI NoteColours(CHOOSECOLORW* cc) {
+    Note(cc->rgbResult, cc->Flags, cc->hwndOwner ? L"owned" : L"free", cc->lpCustColors[15]);
+    cc->lpCustColors[15] = 9;
+    cc->rgbResult = 8;
+    return cc->Flags & CC_FULLOPEN;
+}
+
+BOOL WINAPI NoteFonts(CHOOSEFONTW* cf) {
+    Note(cf->Flags, cf->lpLogFont->lfHeight, cf->hwndOwner ? L"owned" : L"free",
+         cf->hDC ? L"printer" : L"screen");
+    cf->lpLogFont->lfHeight = 31;
+    return cf->Flags & CF_PRINTERFONTS;
+}
+
 TEST(Platform, ShowsColoursAndFonts) {
-    const Instead colours("ChooseColorW", &::ChooseColorW, [](CHOOSECOLORW* cc) -> BOOL {
-        Note(cc->rgbResult, cc->Flags, cc->hwndOwner ? L"owned" : L"free", cc->lpCustColors[15]);
-        cc->lpCustColors[15] = 9;
-        cc->rgbResult = 8;
-        return cc->Flags & CC_FULLOPEN;
-    });
-    const Instead fonts("ChooseFontW", &::ChooseFontW, [](CHOOSEFONTW* cf) -> BOOL {
-        Note(cf->Flags, cf->lpLogFont->lfHeight, cf->hwndOwner ? L"owned" : L"free",
-             cf->hDC ? L"printer" : L"screen");
-        cf->lpLogFont->lfHeight = 31;
-        return cf->Flags & CF_PRINTERFONTS;
-    });
+    const Instead colours("ChooseColorW", &::ChooseColorW, &NoteColours);
+    const Instead fonts("ChooseFontW", &::ChooseFontW, &NoteFonts);
     CWnd top, inside;
     ASSERT_TRUE(CreateHidden(top));
     ASSERT_TRUE(inside.Create(nullptr, nullptr, 0, CRect(0, 0, 9, 9), &top, 1));
@@ -264,20 +276,24 @@ TEST(Platform, ShowsColoursAndFonts) {
 
 UINT g_answer;
 
+UINT WINAPI NoteWide(LPOLEUIINSERTOBJECTW io) {
+    Note(L"wide", io->dwFlags, io->hWndOwner ? L"owned" : L"free", io->cchFile);
+    return g_answer;
+}
+
+UINT WINAPI NoteNarrow(LPOLEUIINSERTOBJECTA io) {
+    Note(L"narrow", io->dwFlags, io->hWndOwner ? L"owned" : L"free", io->cchFile, io->cClsidExclude,
+         io->lpClsidExclude ? L"some" : L"none");
+    ::lstrcpyA(io->lpszFile, "C:\\a.txt");
+    io->dwFlags = IOF_SELECTCREATEFROMFILE | IOF_CHECKLINK;
+    io->clsid.Data1 = 77;
+    io->hMetaPict = reinterpret_cast<HGLOBAL>(78);
+    return OLEUI_OK;
+}
+
 TEST(Platform, AsksForObjectsInTheFormThatItHas) {
-    const Instead wide("OleUIInsertObjectW", &::OleUIInsertObjectW, [](LPOLEUIINSERTOBJECTW io) -> UINT {
-        Note(L"wide", io->dwFlags, io->hWndOwner ? L"owned" : L"free", io->cchFile);
-        return g_answer;
-    });
-    const Instead narrow("OleUIInsertObjectA", &::OleUIInsertObjectA, [](LPOLEUIINSERTOBJECTA io) -> UINT {
-        Note(L"narrow", io->dwFlags, io->hWndOwner ? L"owned" : L"free", io->cchFile, io->cClsidExclude,
-             io->lpClsidExclude ? L"some" : L"none");
-        ::lstrcpyA(io->lpszFile, "C:\\a.txt");
-        io->dwFlags = IOF_SELECTCREATEFROMFILE | IOF_CHECKLINK;
-        io->clsid.Data1 = 77;
-        io->hMetaPict = reinterpret_cast<HGLOBAL>(78);
-        return OLEUI_OK;
-    });
+    const Instead wide("OleUIInsertObjectW", &::OleUIInsertObjectW, &NoteWide);
+    const Instead narrow("OleUIInsertObjectA", &::OleUIInsertObjectA, &NoteNarrow);
     CWnd owner;
     ASSERT_TRUE(CreateHidden(owner));
     COleInsertDialog dialog(IOF_SELECTCREATENEW, &owner);
