@@ -1,0 +1,7 @@
+#include "gdiplus/Typeface.h"
+
+namespace flat {
+
+void ReleaseTypefaces() {}
+
+}  // namespace flat
