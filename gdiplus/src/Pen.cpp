@@ -19,8 +19,9 @@ PenObject::PenObject(const PenObject& other)
 
 namespace {
 
-// Anchors are not drawn yet.
 raster::Cap ToCap(GpLineCap cap) {
+    if (cap >= LineCapSquareAnchor && cap <= LineCapArrowAnchor)
+        return static_cast<raster::Cap>(static_cast<int>(raster::Cap::SquareAnchor) + cap - LineCapSquareAnchor);
     return cap <= LineCapTriangle ? static_cast<raster::Cap>(cap) : raster::Cap::Flat;
 }
 
