@@ -56,7 +56,8 @@ public:
 
     /// Draws what touches no pixel beside `around` (of the device). `body` gets the renderer and the matrix
     /// from the world to its surface.
-    void Draw(const raster::Rect& around, const std::function<void(raster::Renderer&, const raster::Matrix&)>& body);
+    void Draw(const raster::Rect& around,
+              const std::function<void(raster::Renderer&, const raster::Matrix&)>& body);
     std::unique_ptr<raster::Paint> Paint(const Brush& brush) const;
 
     void Fill(const raster::Path& path, raster::FillRule rule, const Brush& brush);

@@ -26,6 +26,7 @@ struct TextLayout {
 };
 
 /// Of `em` high letters. `rect` has no end in a direction where its size is 0. Call with a TypefaceLock held.
-TextLayout LayOut(const std::wstring& text, Typeface& face, double em, const RectF& rect, const FormatObject& format);
+TextLayout LayOut(const std::wstring& text, Typeface& face, double em, const RectF& rect,
+                  const FormatObject& format);
 
 }  // namespace flat

@@ -37,8 +37,8 @@ void WritePlain(const raster::Surface& surface, int x, int y, uint32_t color) {
 }
 
 // A rectangle of one in the place of a rectangle of the same size of the other.
-void Copy(const raster::Surface& from, int fromX, int fromY, const raster::Surface& to, int toX, int toY, int width,
-          int height) {
+void Copy(const raster::Surface& from, int fromX, int fromY, const raster::Surface& to, int toX, int toY,
+          int width, int height) {
     for (int y = 0; y < height; ++y) {
         if (from.format == to.format) {
             memcpy(to.At(toX, toY + y), from.At(fromX, fromY + y),
@@ -71,8 +71,8 @@ raster::Surface BitmapObject::Surface() const {
 
 std::vector<uint32_t> BitmapObject::Premultiplied() const {
     std::vector<uint32_t> pixels(static_cast<size_t>(width) * static_cast<size_t>(height));
-    Copy(Surface(), 0, 0, {reinterpret_cast<uint8_t*>(pixels.data()), ptrdiff_t{4} * width, width, height}, 0, 0, width,
-         height);
+    Copy(Surface(), 0, 0, {reinterpret_cast<uint8_t*>(pixels.data()), ptrdiff_t{4} * width, width, height}, 0,
+         0, width, height);
     return pixels;
 }
 
@@ -90,8 +90,8 @@ using namespace flat;
 namespace Gdiplus::DllExports {
 extern "C" {
 
-GpStatus WINGDIPAPI GdipCreateBitmapFromScan0(INT width, INT height, INT stride, PixelFormat format, BYTE* scan0,
-                                              GpBitmap** bitmap) {
+GpStatus WINGDIPAPI GdipCreateBitmapFromScan0(INT width, INT height, INT stride, PixelFormat format,
+                                              BYTE* scan0, GpBitmap** bitmap) {
     return Answer([&] {
         Require(bitmap);
         *bitmap = nullptr;
@@ -166,8 +166,9 @@ GpStatus WINGDIPAPI GdipBitmapLockBits(GpBitmap* bitmap, const GpRect* rect, UIN
         BitmapObject& own = Get<BitmapObject>(bitmap);
         Require(data);
         Require(!own.locked, WrongState);
-        const raster::IntRect box = rect ? raster::IntRect{rect->X, rect->Y, rect->X + rect->Width, rect->Y + rect->Height}
-                                         : own.Surface().Bounds();
+        const raster::IntRect box =
+            rect ? raster::IntRect{rect->X, rect->Y, rect->X + rect->Width, rect->Y + rect->Height}
+                 : own.Surface().Bounds();
         Require(!box.Empty() && Intersect(box, own.Surface().Bounds()) == box);
         const int bytes = ToFormat(format) == raster::Format::Opaque24 ? 3 : 4;
         data->Width = static_cast<UINT>(box.Width());
@@ -189,8 +190,9 @@ GpStatus WINGDIPAPI GdipBitmapLockBits(GpBitmap* bitmap, const GpRect* rect, UIN
                              static_cast<UINT_PTR>(box.top) << 32;
             if (flags & ImageLockModeRead)
                 flat::Copy(own.Surface(), box.left, box.top,
-                     {static_cast<uint8_t*>(data->Scan0), data->Stride, box.Width(), box.Height(), ToFormat(format)}, 0,
-                     0, box.Width(), box.Height());
+                           {static_cast<uint8_t*>(data->Scan0), data->Stride, box.Width(), box.Height(),
+                            ToFormat(format)},
+                           0, 0, box.Width(), box.Height());
         }
         own.locked = true;
     });
@@ -204,13 +206,15 @@ GpStatus WINGDIPAPI GdipBitmapUnlockBits(GpBitmap* bitmap, BitmapData* data) {
         own.locked = false;
         if ((data->Reserved & 3) != kCopied)
             return;
-        const int x = static_cast<int>(data->Reserved >> 8 & 0xFFFFFF), y = static_cast<int>(data->Reserved >> 32);
+        const int x = static_cast<int>(data->Reserved >> 8 & 0xFFFFFF),
+                  y = static_cast<int>(data->Reserved >> 32);
         const int width = static_cast<int>(data->Width), height = static_cast<int>(data->Height);
         if (data->Reserved & 8) {
             Require(Intersect({x, y, x + width, y + height}, own.Surface().Bounds()).Width() == width &&
                     Intersect({x, y, x + width, y + height}, own.Surface().Bounds()).Height() == height);
-            flat::Copy({static_cast<uint8_t*>(data->Scan0), data->Stride, width, height, ToFormat(data->PixelFormat)}, 0, 0,
-                 own.Surface(), x, y, width, height);
+            flat::Copy({static_cast<uint8_t*>(data->Scan0), data->Stride, width, height,
+                        ToFormat(data->PixelFormat)},
+                       0, 0, own.Surface(), x, y, width, height);
         }
         if (!(data->Reserved & 4))
             GdipFree(data->Scan0);

@@ -7,13 +7,15 @@ namespace flat {
 std::unique_ptr<raster::Paint> LinearGradientBrush::Paint(const PaintPlace& place) const {
     const std::vector<raster::GradientStop> stops =
         preset.empty() ? raster::BlendStops(colors[0], colors[1], blend, gamma) : preset;
-    return std::make_unique<raster::LinearGradient>(from, to, matrix * place.matrix, stops, ToWrap(wrap), gamma);
+    return std::make_unique<raster::LinearGradient>(from, to, matrix * place.matrix, stops, ToWrap(wrap),
+                                                    gamma);
 }
 
 std::unique_ptr<raster::Paint> TextureBrush::Paint(const PaintPlace& place) const {
     const raster::Surface picture{reinterpret_cast<uint8_t*>(const_cast<uint32_t*>(pixels->data())),
                                   ptrdiff_t{4} * width, width, height, raster::Format::Premultiplied32};
-    return std::make_unique<raster::Texture>(picture, matrix * place.matrix, ToWrap(wrap), raster::Sampling::Bilinear);
+    return std::make_unique<raster::Texture>(picture, matrix * place.matrix, ToWrap(wrap),
+                                             raster::Sampling::Bilinear);
 }
 
 namespace {
@@ -138,7 +140,8 @@ GpStatus WINGDIPAPI GdipCreateTexture(GpImage* image, GpWrapMode wrap, GpTexture
 }
 
 GpStatus WINGDIPAPI GdipTranslateTextureTransform(GpTexture* brush, REAL dx, REAL dy, GpMatrixOrder order) {
-    return Answer([&] { flat::Combine(Get<TextureBrush>(brush).matrix, raster::Matrix::Translation(dx, dy), order); });
+    return Answer(
+        [&] { flat::Combine(Get<TextureBrush>(brush).matrix, raster::Matrix::Translation(dx, dy), order); });
 }
 
 }  // extern "C"

@@ -46,12 +46,14 @@ constexpr CLSID EncoderId(BYTE last) {
 const Format kFormats[] = {
     {L"Built-in BMP Codec", L"BMP", L"*.BMP;*.DIB;*.RLE", L"image/bmp", FormatId(0xab), EncoderId(0x00),
      GUID_ContainerFormatBmp},
-    {L"Built-in JPEG Codec", L"JPEG", L"*.JPG;*.JPEG;*.JPE;*.JFIF", L"image/jpeg", FormatId(0xae), EncoderId(0x01),
-     GUID_ContainerFormatJpeg},
-    {L"Built-in GIF Codec", L"GIF", L"*.GIF", L"image/gif", FormatId(0xb0), EncoderId(0x02), GUID_ContainerFormatGif},
+    {L"Built-in JPEG Codec", L"JPEG", L"*.JPG;*.JPEG;*.JPE;*.JFIF", L"image/jpeg", FormatId(0xae),
+     EncoderId(0x01), GUID_ContainerFormatJpeg},
+    {L"Built-in GIF Codec", L"GIF", L"*.GIF", L"image/gif", FormatId(0xb0), EncoderId(0x02),
+     GUID_ContainerFormatGif},
     {L"Built-in TIFF Codec", L"TIFF", L"*.TIF;*.TIFF", L"image/tiff", FormatId(0xb1), EncoderId(0x05),
      GUID_ContainerFormatTiff},
-    {L"Built-in PNG Codec", L"PNG", L"*.PNG", L"image/png", FormatId(0xaf), EncoderId(0x06), GUID_ContainerFormatPng},
+    {L"Built-in PNG Codec", L"PNG", L"*.PNG", L"image/png", FormatId(0xaf), EncoderId(0x06),
+     GUID_ContainerFormatPng},
 };
 constexpr UINT kFormatCount = 5;
 
@@ -62,13 +64,13 @@ void Check(HRESULT result, GpStatus otherwise = GenericError) {
 }
 
 void MakeFactory(Com<IWICImagingFactory>& factory) {
-    HRESULT result = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                                      reinterpret_cast<void**>(&factory));
+    HRESULT result = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                      IID_IWICImagingFactory, reinterpret_cast<void**>(&factory));
     if (result == CO_E_NOTINITIALIZED) {
         // The caller's thread need not know of it; it stays so until the thread ends.
         CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-        result = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                                  reinterpret_cast<void**>(&factory));
+        result = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                  IID_IWICImagingFactory, reinterpret_cast<void**>(&factory));
     }
     Check(result);
 }
@@ -77,7 +79,8 @@ std::unique_ptr<BitmapObject> Load(IStream* stream) {
     Com<IWICImagingFactory> factory;
     MakeFactory(factory);
     Com<IWICBitmapDecoder> decoder;
-    Check(factory->CreateDecoderFromStream(stream, nullptr, WICDecodeMetadataCacheOnDemand, &decoder), OutOfMemory);
+    Check(factory->CreateDecoderFromStream(stream, nullptr, WICDecodeMetadataCacheOnDemand, &decoder),
+          OutOfMemory);
     Com<IWICBitmapFrameDecode> frame;
     Check(decoder->GetFrame(0, &frame), OutOfMemory);
     UINT width = 0, height = 0;
@@ -94,8 +97,8 @@ std::unique_ptr<BitmapObject> Load(IStream* stream) {
           OutOfMemory);
     auto bitmap = std::make_unique<BitmapObject>(static_cast<int>(width), static_cast<int>(height),
                                                  opaque ? PixelFormat24bppRGB : PixelFormat32bppARGB);
-    Check(converter->CopyPixels(nullptr, static_cast<UINT>(bitmap->stride), static_cast<UINT>(bitmap->stride) * height,
-                                bitmap->bits),
+    Check(converter->CopyPixels(nullptr, static_cast<UINT>(bitmap->stride),
+                                static_cast<UINT>(bitmap->stride) * height, bitmap->bits),
           OutOfMemory);
     double x = 0, y = 0;
     if (SUCCEEDED(frame->GetResolution(&x, &y)) && x > 0 && y > 0) {
@@ -131,8 +134,8 @@ void Save(const BitmapObject& bitmap, IStream* stream, const CLSID* encoderId) {
         pixel = raster::Unpremultiply(pixel);
     Com<IWICBitmap> source;
     Check(factory->CreateBitmapFromMemory(width, height, GUID_WICPixelFormat32bppBGRA, width * 4,
-                                          static_cast<UINT>(pixels.size() * 4), reinterpret_cast<BYTE*>(pixels.data()),
-                                          &source));
+                                          static_cast<UINT>(pixels.size() * 4),
+                                          reinterpret_cast<BYTE*>(pixels.data()), &source));
     Com<IWICBitmapSource> converted;
     Check(WICConvertBitmapSource(wanted, source, &converted));
     Check(frame->WriteSource(converted, nullptr));
@@ -146,7 +149,8 @@ void OpenFile(const WCHAR* name, bool write, Com<IStream>& stream) {
     MakeFactory(factory);
     Com<IWICStream> file;
     Check(factory->CreateStream(&file));
-    Check(file->InitializeFromFilename(name, write ? GENERIC_WRITE : GENERIC_READ), write ? GenericError : InvalidParameter);
+    Check(file->InitializeFromFilename(name, write ? GENERIC_WRITE : GENERIC_READ),
+          write ? GenericError : InvalidParameter);
     Check(file->QueryInterface(IID_IStream, reinterpret_cast<void**>(&stream)));
 }
 
@@ -281,7 +285,8 @@ GpStatus WINGDIPAPI GdipCreateBitmapFromHBITMAP(HBITMAP handle, HPALETTE, GpBitm
         wanted.bmiHeader.biPlanes = 1;
         wanted.bmiHeader.biBitCount = 32;
         HDC dc = CreateCompatibleDC(nullptr);
-        const int rows = GetDIBits(dc, handle, 0, static_cast<UINT>(info.bmHeight), own->bits, &wanted, DIB_RGB_COLORS);
+        const int rows =
+            GetDIBits(dc, handle, 0, static_cast<UINT>(info.bmHeight), own->bits, &wanted, DIB_RGB_COLORS);
         DeleteDC(dc);
         Require(rows == info.bmHeight, GenericError);
         Give(bitmap, std::move(own));

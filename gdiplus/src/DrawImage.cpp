@@ -44,17 +44,19 @@ GpStatus Draw(GpGraphics* graphics, GpImage* image, const raster::Rect& to, cons
             return;
         const raster::Point corners[] = {{to.left, to.top}, {to.right, to.top}, {to.left, to.bottom}};
         const raster::Matrix place = ToParallelogram(from, corners);
-        own.Draw(MapBounds(own.ToDevice(), to), [&](raster::Renderer& renderer, const raster::Matrix& matrix) {
-            const raster::Matrix whole = place * matrix;
-            // Pixels that fall on pixels need no mixing.
-            const bool same = whole.KeepsAxes() && whole.m11 == 1 && whole.m22 == 1 &&
-                              whole.dx == std::floor(whole.dx) && whole.dy == std::floor(whole.dy);
-            renderer.Style().origin = raster::Settings::Origin::Corner;
-            const raster::Texture paint(bitmap.Surface(), whole, raster::Wrap::FlipXY,
-                                        same ? raster::Sampling::Nearest : ToSampling(own.Settings().interpolation),
-                                        with && !with->effects.Empty() ? &with->effects : nullptr);
-            renderer.FillRectangle(to, matrix, paint);
-        });
+        own.Draw(MapBounds(own.ToDevice(), to),
+                 [&](raster::Renderer& renderer, const raster::Matrix& matrix) {
+                     const raster::Matrix whole = place * matrix;
+                     // Pixels that fall on pixels need no mixing.
+                     const bool same = whole.KeepsAxes() && whole.m11 == 1 && whole.m22 == 1 &&
+                                       whole.dx == std::floor(whole.dx) && whole.dy == std::floor(whole.dy);
+                     renderer.Style().origin = raster::Settings::Origin::Corner;
+                     const raster::Texture paint(
+                         bitmap.Surface(), whole, raster::Wrap::FlipXY,
+                         same ? raster::Sampling::Nearest : ToSampling(own.Settings().interpolation),
+                         with && !with->effects.Empty() ? &with->effects : nullptr);
+                     renderer.FillRectangle(to, matrix, paint);
+                 });
     });
 }
 
@@ -89,11 +91,13 @@ GpStatus WINGDIPAPI GdipDrawImageI(GpGraphics* graphics, GpImage* image, INT x, 
     return GdipDrawImage(graphics, image, REAL(x), REAL(y));
 }
 
-GpStatus WINGDIPAPI GdipDrawImageRect(GpGraphics* graphics, GpImage* image, REAL x, REAL y, REAL width, REAL height) {
+GpStatus WINGDIPAPI GdipDrawImageRect(GpGraphics* graphics, GpImage* image, REAL x, REAL y, REAL width,
+                                      REAL height) {
     return flat::Draw(graphics, image, ToRect(x, y, width, height), Whole(image));
 }
 
-GpStatus WINGDIPAPI GdipDrawImageRectI(GpGraphics* graphics, GpImage* image, INT x, INT y, INT width, INT height) {
+GpStatus WINGDIPAPI GdipDrawImageRectI(GpGraphics* graphics, GpImage* image, INT x, INT y, INT width,
+                                       INT height) {
     return GdipDrawImageRect(graphics, image, REAL(x), REAL(y), REAL(width), REAL(height));
 }
 
@@ -104,20 +108,23 @@ GpStatus WINGDIPAPI GdipDrawImagePointRect(GpGraphics* graphics, GpImage* image,
     return flat::Draw(graphics, image, ToRect(x, y, width, height), ToRect(sourceX, sourceY, width, height));
 }
 
-GpStatus WINGDIPAPI GdipDrawImageRectRect(GpGraphics* graphics, GpImage* image, REAL x, REAL y, REAL width, REAL height,
-                                          REAL sourceX, REAL sourceY, REAL sourceWidth, REAL sourceHeight, GpUnit unit,
-                                          const GpImageAttributes* attributes, DrawImageAbort, VOID*) {
+GpStatus WINGDIPAPI GdipDrawImageRectRect(GpGraphics* graphics, GpImage* image, REAL x, REAL y, REAL width,
+                                          REAL height, REAL sourceX, REAL sourceY, REAL sourceWidth,
+                                          REAL sourceHeight, GpUnit unit, const GpImageAttributes* attributes,
+                                          DrawImageAbort, VOID*) {
     if (unit != UnitPixel)
         return NotImplemented;
-    return flat::Draw(graphics, image, ToRect(x, y, width, height), ToRect(sourceX, sourceY, sourceWidth, sourceHeight),
-                      attributes);
+    return flat::Draw(graphics, image, ToRect(x, y, width, height),
+                      ToRect(sourceX, sourceY, sourceWidth, sourceHeight), attributes);
 }
 
-GpStatus WINGDIPAPI GdipDrawImageRectRectI(GpGraphics* graphics, GpImage* image, INT x, INT y, INT width, INT height,
-                                           INT sourceX, INT sourceY, INT sourceWidth, INT sourceHeight, GpUnit unit,
-                                           const GpImageAttributes* attributes, DrawImageAbort abort, VOID* data) {
+GpStatus WINGDIPAPI GdipDrawImageRectRectI(GpGraphics* graphics, GpImage* image, INT x, INT y, INT width,
+                                           INT height, INT sourceX, INT sourceY, INT sourceWidth,
+                                           INT sourceHeight, GpUnit unit, const GpImageAttributes* attributes,
+                                           DrawImageAbort abort, VOID* data) {
     return GdipDrawImageRectRect(graphics, image, REAL(x), REAL(y), REAL(width), REAL(height), REAL(sourceX),
-                                 REAL(sourceY), REAL(sourceWidth), REAL(sourceHeight), unit, attributes, abort, data);
+                                 REAL(sourceY), REAL(sourceWidth), REAL(sourceHeight), unit, attributes,
+                                 abort, data);
 }
 
 GpStatus WINGDIPAPI GdipCreateImageAttributes(GpImageAttributes** attributes) {
@@ -128,9 +135,9 @@ GpStatus WINGDIPAPI GdipDisposeImageAttributes(GpImageAttributes* attributes) {
     return Answer([&] { Destroy<AttributesObject>(attributes); });
 }
 
-GpStatus WINGDIPAPI GdipSetImageAttributesColorMatrix(GpImageAttributes* attributes, ColorAdjustType type, BOOL enable,
-                                                      const ColorMatrix* matrix, const ColorMatrix* gray,
-                                                      ColorMatrixFlags flags) {
+GpStatus WINGDIPAPI GdipSetImageAttributesColorMatrix(GpImageAttributes* attributes, ColorAdjustType type,
+                                                      BOOL enable, const ColorMatrix* matrix,
+                                                      const ColorMatrix* gray, ColorMatrixFlags flags) {
     return Answer([&] {
         raster::ColorEffects& effects = Get<AttributesObject>(attributes).effects;
         Require(!enable || matrix);
@@ -165,8 +172,8 @@ GpStatus WINGDIPAPI GdipDrawCachedBitmap(GpGraphics* graphics, GpCachedBitmap* c
     return Answer([&] {
         GraphicsObject& own = Get<GraphicsObject>(graphics);
         CachedObject& copy = Get<CachedObject>(cached);
-        const raster::Surface picture{reinterpret_cast<uint8_t*>(copy.pixels.data()), ptrdiff_t{4} * copy.width,
-                                      copy.width, copy.height};
+        const raster::Surface picture{reinterpret_cast<uint8_t*>(copy.pixels.data()),
+                                      ptrdiff_t{4} * copy.width, copy.width, copy.height};
         // Of the transform only the translation counts.
         const raster::Matrix device = own.ToDevice();
         const auto back = device.Inverse();
@@ -176,10 +183,13 @@ GpStatus WINGDIPAPI GdipDrawCachedBitmap(GpGraphics* graphics, GpCachedBitmap* c
         own.Draw(to, [&](raster::Renderer& renderer, const raster::Matrix& matrix) {
             const raster::Matrix shift = *back * matrix;
             renderer.Style().origin = raster::Settings::Origin::Corner;
-            const raster::Texture paint(picture, raster::Matrix::Translation(to.left, to.top) *
-                                                     raster::Matrix::Translation(std::round(shift.dx), std::round(shift.dy)),
-                                        raster::Wrap::Clamp, raster::Sampling::Nearest);
-            renderer.FillRectangle(to, raster::Matrix::Translation(std::round(shift.dx), std::round(shift.dy)), paint);
+            const raster::Texture paint(
+                picture,
+                raster::Matrix::Translation(to.left, to.top) *
+                    raster::Matrix::Translation(std::round(shift.dx), std::round(shift.dy)),
+                raster::Wrap::Clamp, raster::Sampling::Nearest);
+            renderer.FillRectangle(
+                to, raster::Matrix::Translation(std::round(shift.dx), std::round(shift.dy)), paint);
         });
     });
 }

@@ -30,7 +30,8 @@ using namespace flat;
 namespace Gdiplus::DllExports {
 extern "C" {
 
-GpStatus WINGDIPAPI GdipCreateFontFamilyFromName(const WCHAR* name, GpFontCollection*, GpFontFamily** family) {
+GpStatus WINGDIPAPI GdipCreateFontFamilyFromName(const WCHAR* name, GpFontCollection*,
+                                                 GpFontFamily** family) {
     return Answer([&] {
         Require(name && family);
         Require(IsFamilyInstalled(name), FontFamilyNotFound);
@@ -105,8 +106,8 @@ GpStatus WINGDIPAPI GdipGetFontCollectionFamilyCount(GpFontCollection* collectio
     return Answer([&] { Out(count) = static_cast<INT>(Get<CollectionObject>(collection).families.size()); });
 }
 
-GpStatus WINGDIPAPI GdipGetFontCollectionFamilyList(GpFontCollection* collection, INT wanted, GpFontFamily** families,
-                                                    INT* found) {
+GpStatus WINGDIPAPI GdipGetFontCollectionFamilyList(GpFontCollection* collection, INT wanted,
+                                                    GpFontFamily** families, INT* found) {
     return Answer([&] {
         const CollectionObject& own = Get<CollectionObject>(collection);
         Require(families && found && wanted >= 0);
@@ -117,7 +118,8 @@ GpStatus WINGDIPAPI GdipGetFontCollectionFamilyList(GpFontCollection* collection
     });
 }
 
-GpStatus WINGDIPAPI GdipCreateFont(const GpFontFamily* family, REAL size, INT style, Unit unit, GpFont** font) {
+GpStatus WINGDIPAPI GdipCreateFont(const GpFontFamily* family, REAL size, INT style, Unit unit,
+                                   GpFont** font) {
     return Answer([&] {
         const FamilyObject& own = Get<FamilyObject>(family);
         Require(font && size > 0 && std::isfinite(size));

@@ -25,7 +25,8 @@ raster::Rect InWorld(const GraphicsObject& graphics, const raster::Rect& device)
 raster::Rect VisibleBounds(GraphicsObject& graphics) {
     const raster::IntRect box = graphics.Visible().Bounds();
     return box.Empty() ? raster::Rect{}
-                       : InWorld(graphics, {double(box.left), double(box.top), double(box.right), double(box.bottom)});
+                       : InWorld(graphics,
+                                 {double(box.left), double(box.top), double(box.right), double(box.bottom)});
 }
 
 }  // namespace
@@ -37,16 +38,20 @@ using namespace flat;
 namespace Gdiplus::DllExports {
 extern "C" {
 
-GpStatus WINGDIPAPI GdipSetClipRect(GpGraphics* graphics, REAL x, REAL y, REAL width, REAL height, CombineMode mode) {
-    return SetClip(graphics, [&] { return RegionShape(ToRect(x, y, width, height)); }, mode);
+GpStatus WINGDIPAPI GdipSetClipRect(GpGraphics* graphics, REAL x, REAL y, REAL width, REAL height,
+                                    CombineMode mode) {
+    return SetClip(
+        graphics, [&] { return RegionShape(ToRect(x, y, width, height)); }, mode);
 }
 
-GpStatus WINGDIPAPI GdipSetClipRectI(GpGraphics* graphics, INT x, INT y, INT width, INT height, CombineMode mode) {
+GpStatus WINGDIPAPI GdipSetClipRectI(GpGraphics* graphics, INT x, INT y, INT width, INT height,
+                                     CombineMode mode) {
     return GdipSetClipRect(graphics, REAL(x), REAL(y), REAL(width), REAL(height), mode);
 }
 
 GpStatus WINGDIPAPI GdipSetClipPath(GpGraphics* graphics, GpPath* path, CombineMode mode) {
-    return SetClip(graphics, [&] { return RegionShape(Get<PathObject>(path)); }, mode);
+    return SetClip(
+        graphics, [&] { return RegionShape(Get<PathObject>(path)); }, mode);
 }
 
 GpStatus WINGDIPAPI GdipResetClip(GpGraphics* graphics) {

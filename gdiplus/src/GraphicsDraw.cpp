@@ -84,10 +84,11 @@ GpStatus WINGDIPAPI GdipGraphicsClear(GpGraphics* graphics, ARGB color) {
         const raster::IntRect box = own.Visible().Bounds();
         const raster::Rect around{double(box.left), double(box.top), double(box.right), double(box.bottom)};
         own.Draw(around, [&](raster::Renderer& renderer, const raster::Matrix&) {
-            renderer.Style() = {raster::Edges::Sharp, raster::Settings::Origin::Corner, raster::Settings::Mode::Copy};
+            renderer.Style() = {raster::Edges::Sharp, raster::Settings::Origin::Corner,
+                                raster::Settings::Mode::Copy};
             const raster::IntRect& all = renderer.Clip().Bounds();
-            renderer.FillRectangle({double(all.left), double(all.top), double(all.right), double(all.bottom)}, {},
-                                   raster::SolidPaint(color));
+            renderer.FillRectangle({double(all.left), double(all.top), double(all.right), double(all.bottom)},
+                                   {}, raster::SolidPaint(color));
         });
     });
 }
@@ -109,14 +110,14 @@ GpStatus WINGDIPAPI GdipDrawLinesI(GpGraphics* graphics, GpPen* pen, const GpPoi
     return DrawLines(graphics, pen, points, count);
 }
 
-GpStatus WINGDIPAPI GdipDrawBezier(GpGraphics* graphics, GpPen* pen, REAL x1, REAL y1, REAL x2, REAL y2, REAL x3,
-                                   REAL y3, REAL x4, REAL y4) {
+GpStatus WINGDIPAPI GdipDrawBezier(GpGraphics* graphics, GpPen* pen, REAL x1, REAL y1, REAL x2, REAL y2,
+                                   REAL x3, REAL y3, REAL x4, REAL y4) {
     const PointF points[] = {{x1, y1}, {x2, y2}, {x3, y3}, {x4, y4}};
     return DrawBeziers(graphics, pen, points, 4);
 }
 
-GpStatus WINGDIPAPI GdipDrawBezierI(GpGraphics* graphics, GpPen* pen, INT x1, INT y1, INT x2, INT y2, INT x3, INT y3,
-                                    INT x4, INT y4) {
+GpStatus WINGDIPAPI GdipDrawBezierI(GpGraphics* graphics, GpPen* pen, INT x1, INT y1, INT x2, INT y2, INT x3,
+                                    INT y3, INT x4, INT y4) {
     const GpPoint points[] = {{x1, y1}, {x2, y2}, {x3, y3}, {x4, y4}};
     return DrawBeziers(graphics, pen, points, 4);
 }
@@ -125,23 +126,28 @@ GpStatus WINGDIPAPI GdipDrawBeziers(GpGraphics* graphics, GpPen* pen, const GpPo
     return DrawBeziers(graphics, pen, points, count);
 }
 
-GpStatus WINGDIPAPI GdipDrawCurve2(GpGraphics* graphics, GpPen* pen, const GpPointF* points, INT count, REAL tension) {
+GpStatus WINGDIPAPI GdipDrawCurve2(GpGraphics* graphics, GpPen* pen, const GpPointF* points, INT count,
+                                   REAL tension) {
     return DrawCurve(graphics, pen, points, count, tension);
 }
 
-GpStatus WINGDIPAPI GdipDrawCurve2I(GpGraphics* graphics, GpPen* pen, const GpPoint* points, INT count, REAL tension) {
+GpStatus WINGDIPAPI GdipDrawCurve2I(GpGraphics* graphics, GpPen* pen, const GpPoint* points, INT count,
+                                    REAL tension) {
     return DrawCurve(graphics, pen, points, count, tension);
 }
 
-GpStatus WINGDIPAPI GdipDrawRectangle(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width, REAL height) {
+GpStatus WINGDIPAPI GdipDrawRectangle(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width,
+                                      REAL height) {
     return Stroke(graphics, pen, [&](PathObject& path) { path.Rectangle(ToRect(x, y, width, height)); });
 }
 
-GpStatus WINGDIPAPI GdipDrawRectangleI(GpGraphics* graphics, GpPen* pen, INT x, INT y, INT width, INT height) {
+GpStatus WINGDIPAPI GdipDrawRectangleI(GpGraphics* graphics, GpPen* pen, INT x, INT y, INT width,
+                                       INT height) {
     return GdipDrawRectangle(graphics, pen, REAL(x), REAL(y), REAL(width), REAL(height));
 }
 
-GpStatus WINGDIPAPI GdipDrawEllipse(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width, REAL height) {
+GpStatus WINGDIPAPI GdipDrawEllipse(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width,
+                                    REAL height) {
     return Stroke(graphics, pen, [&](PathObject& path) { path.Ellipse(ToRect(x, y, width, height)); });
 }
 
@@ -149,14 +155,16 @@ GpStatus WINGDIPAPI GdipDrawEllipseI(GpGraphics* graphics, GpPen* pen, INT x, IN
     return GdipDrawEllipse(graphics, pen, REAL(x), REAL(y), REAL(width), REAL(height));
 }
 
-GpStatus WINGDIPAPI GdipDrawArc(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width, REAL height, REAL start,
-                                REAL sweep) {
-    return Stroke(graphics, pen, [&](PathObject& path) { path.Arc(ToRect(x, y, width, height), start, sweep); });
+GpStatus WINGDIPAPI GdipDrawArc(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width, REAL height,
+                                REAL start, REAL sweep) {
+    return Stroke(graphics, pen,
+                  [&](PathObject& path) { path.Arc(ToRect(x, y, width, height), start, sweep); });
 }
 
-GpStatus WINGDIPAPI GdipDrawPie(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width, REAL height, REAL start,
-                                REAL sweep) {
-    return Stroke(graphics, pen, [&](PathObject& path) { path.Pie(ToRect(x, y, width, height), start, sweep); });
+GpStatus WINGDIPAPI GdipDrawPie(GpGraphics* graphics, GpPen* pen, REAL x, REAL y, REAL width, REAL height,
+                                REAL start, REAL sweep) {
+    return Stroke(graphics, pen,
+                  [&](PathObject& path) { path.Pie(ToRect(x, y, width, height), start, sweep); });
 }
 
 GpStatus WINGDIPAPI GdipDrawPolygon(GpGraphics* graphics, GpPen* pen, const GpPointF* points, INT count) {
@@ -174,7 +182,8 @@ GpStatus WINGDIPAPI GdipDrawPath(GpGraphics* graphics, GpPen* pen, GpPath* path)
     });
 }
 
-GpStatus WINGDIPAPI GdipFillRectangle(GpGraphics* graphics, GpBrush* brush, REAL x, REAL y, REAL width, REAL height) {
+GpStatus WINGDIPAPI GdipFillRectangle(GpGraphics* graphics, GpBrush* brush, REAL x, REAL y, REAL width,
+                                      REAL height) {
     return Answer([&] {
         GraphicsObject& own = Get<GraphicsObject>(graphics);
         const Brush& paint = Get<Brush>(brush);
@@ -183,16 +192,19 @@ GpStatus WINGDIPAPI GdipFillRectangle(GpGraphics* graphics, GpBrush* brush, REAL
     });
 }
 
-GpStatus WINGDIPAPI GdipFillRectangleI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width, INT height) {
+GpStatus WINGDIPAPI GdipFillRectangleI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width,
+                                       INT height) {
     return GdipFillRectangle(graphics, brush, REAL(x), REAL(y), REAL(width), REAL(height));
 }
 
-GpStatus WINGDIPAPI GdipFillEllipse(GpGraphics* graphics, GpBrush* brush, REAL x, REAL y, REAL width, REAL height) {
+GpStatus WINGDIPAPI GdipFillEllipse(GpGraphics* graphics, GpBrush* brush, REAL x, REAL y, REAL width,
+                                    REAL height) {
     return Fill(graphics, brush, FillModeAlternate,
                 [&](PathObject& path) { path.Ellipse(ToRect(x, y, width, height)); });
 }
 
-GpStatus WINGDIPAPI GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width, INT height) {
+GpStatus WINGDIPAPI GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width,
+                                     INT height) {
     return GdipFillEllipse(graphics, brush, REAL(x), REAL(y), REAL(width), REAL(height));
 }
 

@@ -100,10 +100,10 @@ void GraphicsObject::Draw(const raster::Rect& around,
         return static_cast<int>(std::isnan(value) ? otherwise : (std::max)(-most, (std::min)(most, value)));
     };
     const double most = raster::kFarthestPixel;
-    const raster::IntRect touched = Intersect(
-        {pixel(std::floor(around.left) - 1, -most), pixel(std::floor(around.top) - 1, -most),
-         pixel(std::ceil(around.right) + 2, most), pixel(std::ceil(around.bottom) + 2, most)},
-        Visible().Bounds());
+    const raster::IntRect touched =
+        Intersect({pixel(std::floor(around.left) - 1, -most), pixel(std::floor(around.top) - 1, -most),
+                   pixel(std::ceil(around.right) + 2, most), pixel(std::ceil(around.bottom) + 2, most)},
+                  Visible().Bounds());
     if (touched.Empty())
         return;
     if (m_dc)
@@ -118,8 +118,8 @@ void GraphicsObject::Draw(const raster::Rect& around,
     style.origin = own.offset == PixelOffsetModeHalf || own.offset == PixelOffsetModeHighQuality
                        ? raster::Settings::Origin::Corner
                        : raster::Settings::Origin::Centre;
-    style.mode =
-        own.compositing == CompositingModeSourceCopy ? raster::Settings::Mode::Copy : raster::Settings::Mode::Over;
+    style.mode = own.compositing == CompositingModeSourceCopy ? raster::Settings::Mode::Copy
+                                                              : raster::Settings::Mode::Over;
     if (!m_dc) {
         renderer.SetClip(Visible());
         body(renderer, ToDevice());
@@ -139,15 +139,17 @@ void GraphicsObject::Draw(const raster::Rect& around,
 
 std::unique_ptr<raster::Paint> GraphicsObject::Paint(const Brush& brush) const {
     const raster::Matrix shift = raster::Matrix::Translation(-m_covered.left, -m_covered.top);
-    return brush.Paint({ToDevice() * shift, m_settings.originX - m_covered.left, m_settings.originY - m_covered.top});
+    return brush.Paint(
+        {ToDevice() * shift, m_settings.originX - m_covered.left, m_settings.originY - m_covered.top});
 }
 
 void GraphicsObject::Fill(const raster::Path& path, raster::FillRule rule, const Brush& brush) {
     if (path.Empty())
         return;
-    Draw(MapBounds(ToDevice(), path.ControlBounds()), [&](raster::Renderer& renderer, const raster::Matrix& matrix) {
-        renderer.Fill(path, matrix, rule, *Paint(brush));
-    });
+    Draw(MapBounds(ToDevice(), path.ControlBounds()),
+         [&](raster::Renderer& renderer, const raster::Matrix& matrix) {
+             renderer.Fill(path, matrix, rule, *Paint(brush));
+         });
 }
 
 void GraphicsObject::FillRectangle(const raster::Rect& rect, const Brush& brush) {

@@ -129,10 +129,10 @@ GpStatus WINGDIPAPI GdipGetCompositingQuality(GpGraphics* graphics, CompositingQ
 }
 
 GpStatus WINGDIPAPI GdipSetInterpolationMode(GpGraphics* graphics, InterpolationMode mode) {
-    const InterpolationMode kept = mode == InterpolationModeDefault || mode == InterpolationModeLowQuality
-                                       ? InterpolationModeBilinear
-                                   : mode == InterpolationModeHighQuality ? InterpolationModeHighQualityBicubic
-                                                                          : mode;
+    const InterpolationMode kept =
+        mode == InterpolationModeDefault || mode == InterpolationModeLowQuality ? InterpolationModeBilinear
+        : mode == InterpolationModeHighQuality ? InterpolationModeHighQualityBicubic
+                                               : mode;
     return Set(graphics, &GraphicsSettings::interpolation, kept,
                mode >= InterpolationModeDefault && mode <= InterpolationModeHighQualityBicubic);
 }
@@ -191,9 +191,11 @@ GpStatus WINGDIPAPI GdipGetWorldTransform(GpGraphics* graphics, GpMatrix* matrix
     return Answer([&] { Get<MatrixObject>(matrix).matrix = Get<GraphicsObject>(graphics).Settings().world; });
 }
 
-GpStatus WINGDIPAPI GdipMultiplyWorldTransform(GpGraphics* graphics, const GpMatrix* matrix, GpMatrixOrder order) {
+GpStatus WINGDIPAPI GdipMultiplyWorldTransform(GpGraphics* graphics, const GpMatrix* matrix,
+                                               GpMatrixOrder order) {
     return Answer([&] {
-        flat::Combine(Get<GraphicsObject>(graphics).Settings().world, Get<MatrixObject>(matrix).matrix, order);
+        flat::Combine(Get<GraphicsObject>(graphics).Settings().world, Get<MatrixObject>(matrix).matrix,
+                      order);
     });
 }
 

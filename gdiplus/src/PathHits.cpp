@@ -21,8 +21,8 @@ GpStatus WINGDIPAPI GdipIsVisiblePathPointI(GpPath* path, INT x, INT y, GpGraphi
     return GdipIsVisiblePathPoint(path, REAL(x), REAL(y), graphics, result);
 }
 
-GpStatus WINGDIPAPI GdipIsOutlineVisiblePathPoint(GpPath* path, REAL x, REAL y, GpPen* pen, GpGraphics* graphics,
-                                                  BOOL* result) {
+GpStatus WINGDIPAPI GdipIsOutlineVisiblePathPoint(GpPath* path, REAL x, REAL y, GpPen* pen,
+                                                  GpGraphics* graphics, BOOL* result) {
     return Answer([&] {
         const PathObject& own = Get<PathObject>(path);
         const PenObject& line = Get<PenObject>(pen);
@@ -38,7 +38,8 @@ GpStatus WINGDIPAPI GdipFlattenPath(GpPath* path, GpMatrix* matrix, REAL flatnes
         PathObject& own = Get<PathObject>(path);
         const MatrixObject* by = GetOrNull<MatrixObject>(matrix);
         raster::Chains chains;
-        Flatten(own.Outline(), by ? by->matrix : raster::Matrix{}, (std::max)(0.001f, flatness), nullptr, chains);
+        Flatten(own.Outline(), by ? by->matrix : raster::Matrix{}, (std::max)(0.001f, flatness), nullptr,
+                chains);
         own.Assign(chains);
     });
 }

@@ -72,19 +72,20 @@ void PathObject::Arc(const raster::Rect& bounds, double start, double sweep) {
         to += 2 * std::numbers::pi;
     while (to - from > wanted + std::numbers::pi)
         to -= 2 * std::numbers::pi;
-    const int parts =
-        (std::max)(1, static_cast<int>(std::ceil(std::abs(to - from) / (std::numbers::pi / 2) - 1e-6)));
-    const double step = (to - from) / parts, reach = 4.0 / 3 * std::tan(step / 4);
+    // Quarters from the start on; the last part is what is left.
+    const double quarter = std::numbers::pi / 2, length = std::abs(to - from), sign = to < from ? -1 : 1;
+    const int parts = (std::max)(1, static_cast<int>(std::ceil(length / quarter - 1e-6)));
     const auto at = [&](double t) {
         return raster::Point{centre.x + x * std::cos(t), centre.y + y * std::sin(t)};
     };
-    const auto along = [&](double t) {
+    const auto along = [&](double t, double reach) {
         return raster::Point{-x * std::sin(t) * reach, y * std::cos(t) * reach};
     };
     Begin(at(from));
     for (int i = 0; i < parts; ++i) {
-        const double a = from + i * step, b = from + (i + 1) * step;
-        Curve(at(a) + along(a), at(b) - along(b), at(b));
+        const double a = from + sign * quarter * i, b = i + 1 == parts ? to : a + sign * quarter;
+        const double reach = 4.0 / 3 * std::tan((b - a) / 4);
+        Curve(at(a) + along(a, reach), at(b) - along(b, reach), at(b));
     }
 }
 

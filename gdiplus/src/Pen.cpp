@@ -21,7 +21,8 @@ namespace {
 
 raster::Cap ToCap(GpLineCap cap) {
     if (cap >= LineCapSquareAnchor && cap <= LineCapArrowAnchor)
-        return static_cast<raster::Cap>(static_cast<int>(raster::Cap::SquareAnchor) + cap - LineCapSquareAnchor);
+        return static_cast<raster::Cap>(static_cast<int>(raster::Cap::SquareAnchor) + cap -
+                                        LineCapSquareAnchor);
     return cap <= LineCapTriangle ? static_cast<raster::Cap>(cap) : raster::Cap::Flat;
 }
 

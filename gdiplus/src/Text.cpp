@@ -79,12 +79,13 @@ struct LinePainter {
     void DrawPath(wchar_t character, double x, double baseline) {
         const raster::Path& outline = face.Of(character).outline;
         if (!outline.Empty())
-            renderer.Fill(outline, raster::Matrix{em, 0, 0, em, x, baseline} * matrix, raster::FillRule::Winding, paint);
+            renderer.Fill(outline, raster::Matrix{em, 0, 0, em, x, baseline} * matrix,
+                          raster::FillRule::Winding, paint);
     }
 };
 
-void DrawRules(GraphicsObject& graphics, const TextLayout& layout, const FontObject& font, Typeface& face, double em,
-               const Brush& brush) {
+void DrawRules(GraphicsObject& graphics, const TextLayout& layout, const FontObject& font, Typeface& face,
+               double em, const Brush& brush) {
     for (const TextLayout::Line& line : layout.lines) {
         const double baseline = line.top + face.Ascent() * em, thick = em / 14;
         if (font.style & FontStyleUnderline)
@@ -127,21 +128,23 @@ GpStatus WINGDIPAPI GdipDrawString(GpGraphics* graphics, const WCHAR* string, IN
         if (clips) {
             const double all = 1e6;
             RegionShape box(ToRect(rect->Width > 0 ? rect->X : -all, rect->Height > 0 ? rect->Y : -all,
-                                   rect->Width > 0 ? rect->Width : 2 * all, rect->Height > 0 ? rect->Height : 2 * all));
+                                   rect->Width > 0 ? rect->Width : 2 * all,
+                                   rect->Height > 0 ? rect->Height : 2 * all));
             box.Transform(own.ToDevice());
             own.Settings().clip.Combine(box, CombineModeIntersect);
             own.ClipChanged();
         }
-        own.Draw(MapBounds(own.ToDevice(), around), [&](raster::Renderer& renderer, const raster::Matrix& matrix) {
-            const bool sharp = own.Settings().hint == TextRenderingHintSingleBitPerPixel ||
-                               own.Settings().hint == TextRenderingHintSingleBitPerPixelGridFit;
-            const auto paint = own.Paint(fill);
-            renderer.Style().edges = sharp ? raster::Edges::Sharp : raster::Edges::Smooth;
-            renderer.Style().origin = raster::Settings::Origin::Corner;
-            LinePainter painter{renderer, matrix, *paint, *face, em, sharp};
-            for (const TextLayout::Line& line : layout.lines)
-                painter.Draw(line);
-        });
+        own.Draw(MapBounds(own.ToDevice(), around),
+                 [&](raster::Renderer& renderer, const raster::Matrix& matrix) {
+                     const bool sharp = own.Settings().hint == TextRenderingHintSingleBitPerPixel ||
+                                        own.Settings().hint == TextRenderingHintSingleBitPerPixelGridFit;
+                     const auto paint = own.Paint(fill);
+                     renderer.Style().edges = sharp ? raster::Edges::Sharp : raster::Edges::Smooth;
+                     renderer.Style().origin = raster::Settings::Origin::Corner;
+                     LinePainter painter{renderer, matrix, *paint, *face, em, sharp};
+                     for (const TextLayout::Line& line : layout.lines)
+                         painter.Draw(line);
+                 });
         DrawRules(own, layout, letters, *face, em, fill);
         if (clips) {
             own.Settings().clip = before;
@@ -150,9 +153,9 @@ GpStatus WINGDIPAPI GdipDrawString(GpGraphics* graphics, const WCHAR* string, IN
     });
 }
 
-GpStatus WINGDIPAPI GdipMeasureString(GpGraphics* graphics, const WCHAR* string, INT length, const GpFont* font,
-                                      const RectF* rect, const GpStringFormat* format, RectF* bounds, INT* characters,
-                                      INT* lines) {
+GpStatus WINGDIPAPI GdipMeasureString(GpGraphics* graphics, const WCHAR* string, INT length,
+                                      const GpFont* font, const RectF* rect, const GpStringFormat* format,
+                                      RectF* bounds, INT* characters, INT* lines) {
     return Answer([&] {
         GraphicsObject& own = Get<GraphicsObject>(graphics);
         const FontObject& letters = Get<FontObject>(font);
@@ -170,8 +173,8 @@ GpStatus WINGDIPAPI GdipMeasureString(GpGraphics* graphics, const WCHAR* string,
             layout.left = rect->X;
             layout.top = rect->Y;
         }
-        *bounds = {static_cast<REAL>(layout.left), static_cast<REAL>(layout.top), static_cast<REAL>(layout.width),
-                   static_cast<REAL>(layout.height)};
+        *bounds = {static_cast<REAL>(layout.left), static_cast<REAL>(layout.top),
+                   static_cast<REAL>(layout.width), static_cast<REAL>(layout.height)};
         if (characters)
             *characters = static_cast<INT>(layout.fitting);
         if (lines)

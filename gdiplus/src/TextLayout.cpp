@@ -32,7 +32,8 @@ size_t Fitting(const std::wstring& text, size_t first, Typeface& face, double em
 }
 
 // Cut so that it fits, with an ellipsis where the format has one.
-std::wstring Trimmed(const std::wstring& text, Typeface& face, double em, double room, StringTrimming trimming) {
+std::wstring Trimmed(const std::wstring& text, Typeface& face, double em, double room,
+                     StringTrimming trimming) {
     if (trimming == StringTrimmingNone || Width(text, face, em) <= room + em * 1e-4)
         return text;
     const std::wstring behind = trimming >= StringTrimmingEllipsisCharacter ? L"\x2026" : L"";
@@ -47,12 +48,15 @@ std::wstring Trimmed(const std::wstring& text, Typeface& face, double em, double
 }
 
 double Aligned(StringAlignment align, double from, double room, double size) {
-    return align == StringAlignmentCenter ? from + (room - size) / 2 : align == StringAlignmentFar ? from + room - size : from;
+    return align == StringAlignmentCenter ? from + (room - size) / 2
+           : align == StringAlignmentFar  ? from + room - size
+                                          : from;
 }
 
 }  // namespace
 
-TextLayout LayOut(const std::wstring& text, Typeface& face, double em, const RectF& rect, const FormatObject& format) {
+TextLayout LayOut(const std::wstring& text, Typeface& face, double em, const RectF& rect,
+                  const FormatObject& format) {
     TextLayout layout;
     layout.lineHeight = face.LineSpacing() * em;
     const double margin = format.margin * em;
@@ -82,10 +86,12 @@ TextLayout LayOut(const std::wstring& text, Typeface& face, double em, const Rec
         if (at == text.size())
             break;
     }
-    // Lines below the rectangle are left out; the last one may stand out of it unless the format forbids that.
+    // Lines below the rectangle are left out; the last one may stand out of it unless the format forbids
+    // that.
     if (rect.Height > 0) {
         const double fits = rect.Height / layout.lineHeight + 1e-4;
-        const double kept = (std::max)(1.0, format.flags & StringFormatFlagsLineLimit ? std::floor(fits) : std::ceil(fits));
+        const double kept =
+            (std::max)(1.0, format.flags & StringFormatFlagsLineLimit ? std::floor(fits) : std::ceil(fits));
         if (kept < static_cast<double>(layout.lines.size()) && !(format.flags & StringFormatFlagsNoClip))
             layout.lines.resize(static_cast<size_t>(kept));
     }
