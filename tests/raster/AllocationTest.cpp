@@ -15,6 +15,10 @@ void* operator new(size_t size) {
         return memory;
     throw std::bad_alloc();
 }
+void* operator new(size_t size, const std::nothrow_t&) noexcept {
+    ++g_allocations;
+    return std::malloc(size != 0 ? size : 1);
+}
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
