@@ -143,7 +143,7 @@ void Save(const BitmapObject& bitmap, IStream* stream, const CLSID* encoderId) {
     Check(encoder->Commit());
 }
 
-void OpenFile(const WCHAR* name, bool write, Com<IStream>& stream) {
+void OpenStream(const WCHAR* name, bool write, Com<IStream>& stream) {
     Require(name);
     Com<IWICImagingFactory> factory;
     MakeFactory(factory);
@@ -159,7 +159,7 @@ GpStatus FromFile(const WCHAR* name, H** out) {
     return Answer([&] {
         Require(out);
         Com<IStream> stream;
-        OpenFile(name, false, stream);
+        OpenStream(name, false, stream);
         Give(out, Load(stream));
     });
 }
@@ -252,7 +252,7 @@ GpStatus WINGDIPAPI GdipSaveImageToFile(GpImage* image, const WCHAR* name, const
     return Answer([&] {
         const BitmapObject& own = Get<BitmapObject>(image);
         Com<IStream> stream;
-        OpenFile(name, true, stream);
+        OpenStream(name, true, stream);
         Save(own, stream, encoder);
     });
 }
