@@ -20,13 +20,21 @@ T* At(RVA place) {
 
 HMODULE Bind() {
     const HMODULE dll = ::LoadLibraryA(At<const char>(descriptor.rvaDLLName));
-    auto* function = At<IMAGE_THUNK_DATA>(descriptor.rvaIAT);
-    auto* name = At<const IMAGE_THUNK_DATA>(descriptor.rvaINT);
-    for (; dll && name->u1.AddressOfData != 0; ++name, ++function) {
-        const auto* entry = At<const IMAGE_IMPORT_BY_NAME>(static_cast<RVA>(name->u1.AddressOfData));
-        if (const FARPROC found = ::GetProcAddress(dll, reinterpret_cast<LPCSTR>(entry->Name)))
-            function->u1.Function = reinterpret_cast<ULONG_PTR>(found);
+    auto* const functions = At<IMAGE_THUNK_DATA>(descriptor.rvaIAT);
+    const auto* const names = At<const IMAGE_THUNK_DATA>(descriptor.rvaINT);
+    size_t count = 0;
+    while (names[count].u1.AddressOfData != 0)
+        ++count;
+    // Some linkers put the table where it can only be read.
+    DWORD protection = 0;
+    if (!dll || !::VirtualProtect(functions, count * sizeof *functions, PAGE_READWRITE, &protection))
+        return nullptr;
+    for (size_t i = 0; i < count; ++i) {
+        const auto* name = At<const IMAGE_IMPORT_BY_NAME>(static_cast<RVA>(names[i].u1.AddressOfData));
+        if (const FARPROC found = ::GetProcAddress(dll, reinterpret_cast<LPCSTR>(name->Name)))
+            functions[i].u1.Function = reinterpret_cast<ULONG_PTR>(found);
     }
+    ::VirtualProtect(functions, count * sizeof *functions, protection, &protection);
     return dll;
 }
 
