@@ -203,8 +203,9 @@ TEST(FileDialog, ShowsWhatItIsGivenAndGivesTheChosenPath) {
         const CString name(row ? _T("plain") : _T("새 page"));
         EXPECT_EQ(0, dialog.GetFolderPath().CompareNoCase(folder.path));
         EXPECT_EQ(name, dialog.GetFileTitle());
-        if (row == 0)  // some systems add one that is missing
+        if (row == 0) {  // some systems add one that is missing
             EXPECT_EQ(_T("cbf"), dialog.GetFileExt());
+        }
         EXPECT_EQ(row + 1u, dialog.m_ofn.nFilterIndex);
         EXPECT_EQ(folder.path.GetLength() + 1, dialog.m_ofn.nFileOffset);
         EXPECT_EQ(dialog.GetPathName().ReverseFind('.') + 1, dialog.m_ofn.nFileExtension);
