@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <imm.h>
 #include <thread>
 
 using namespace Lumo;
@@ -88,6 +89,7 @@ TEST_F(PaintFinishWaiterTest, AnotherThreadsWindowIsWaitedForAndAnswered) {
     std::atomic<HWND> other = nullptr;
     const HWND frame = m_frame;
     std::thread painter([&] {
+        ::ImmDisableIME(0);  // some systems keep memory of each thread that has one
         const HWND window = ::CreateWindow(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 40, 30, nullptr,
                                            nullptr, nullptr, nullptr);
         MSG message;
