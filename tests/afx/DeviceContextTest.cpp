@@ -1,6 +1,7 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
+#include "afx/Expect.h"
 #include "WindowSupport.h"
 
 namespace {
@@ -200,6 +201,12 @@ TEST(GraphicsObjects, AreDeletedWithTheirWrapper) {
         CPen pen(PS_SOLID, 1, 0);
         CBrush brush(RGB(1, 2, 3));
         CFont font;
+        EXPECT_TRUE(Throws<CResourceException>([] { AfxThrowResourceException(); }));
+        ASSERT_TRUE(font.CreatePointFont(7200, _T("Arial")));
+        LOGFONT large = {};
+        font.GetLogFont(&large);
+        EXPECT_EQ(-10 * CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY), large.lfHeight);
+        font.DeleteObject();
         ASSERT_TRUE(font.CreatePointFont(120, _T("Arial")));
         CRgn region;
         ASSERT_TRUE(region.CreateRectRgn(0, 0, 5, 5));

@@ -185,6 +185,13 @@ TEST_F(DialogData, EveryTypeTakesItsRangeOnly) {
     EXPECT_EQ(app.shown[0], _T("Please enter an integer between 0 and 255."));
     EXPECT_EQ(app.shown.back(), _T("Please enter a number."));
     CDataExchange in(&form, TRUE);
+    DDV_MinMaxByte(&in, 2, 1, 3);
+    DDV_MinMaxShort(&in, -2, -3, 1);
+    DDV_MinMaxLong(&in, -2, -3, 1);
+    DDV_MinMaxUInt(&in, 2, 1, 3);
+    DDV_MinMaxDWord(&in, 2, 1, 3);
+    DDV_MinMaxFloat(&in, -2.0f, -2.5f, 1.0f);
+    EXPECT_TRUE(Throws<CUserException>([&] { DDV_MinMaxLong(&in, 2, -3, 1); }));
     EXPECT_TRUE(Throws<CUserException>([&] { DDV_MinMaxDouble(&in, 2.75, -1.5, 2.5); }));
     EXPECT_EQ(app.shown.back(), _T("Please enter a number between -1.5 and 2.5."));
 }

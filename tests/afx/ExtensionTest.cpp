@@ -100,6 +100,8 @@ TEST(ResourceChain, StringsComeByTheirNumbers) {
     EXPECT_FALSE(text.LoadString(5003));
     {
         CDynLinkLibrary chained(program, program);
+        AFX_EXTENSION_MODULE state = {};
+        EXPECT_TRUE(CDynLinkLibrary(state, TRUE).m_bSystem);
         EXPECT_TRUE(text.LoadString(5003));
     }
     AfxSetResourceHandle(program);

@@ -22,9 +22,9 @@ std::wstring Joined(const CStringList& list) {
 
 TEST(StringList, KeepsOrderThroughEveryChange) {
     CStringList list(2);
-    list.AddTail(L"b");
     list.AddTail(L"d");
     list.AddHead(L"a");
+    list.InsertBefore(list.Find(L"d"), L"b");
     const POSITION c = list.InsertAfter(list.Find(L"b"), L"c");
     list.InsertBefore(nullptr, L"0");
     EXPECT_EQ(L"0abcd", Joined(list));
