@@ -4,6 +4,10 @@
 #include <afxcmd_.h>
 #include <afxgdi_.h>
 
+// Controls and frames hide the Create of this class, see afxwin.h; this compiler looks at what is hidden.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Woverloaded-virtual"
+
 class CDataExchange;
 class CFrameWnd;
 class CScrollBar;
@@ -339,3 +343,5 @@ AFX_API_EXPORT LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCur
                                                   HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
 /// Registers a class unless its name is already known to its instance.
 AFX_API_EXPORT BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass);
+
+#pragma GCC diagnostic pop
