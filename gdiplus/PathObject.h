@@ -25,6 +25,8 @@ struct PathObject final : Object {
     void Curve(raster::Point control1, raster::Point control2, raster::Point end);
     void Close();
 
+    /// A beginning and three points for each curve; another number of points is refused.
+    void Curves(const std::vector<raster::Point>& points);
     void Polygon(const std::vector<raster::Point>& corners);
     void Rectangle(const raster::Rect& rect);
     void Ellipse(const raster::Rect& bounds);

@@ -99,11 +99,7 @@ public:
                 m_renderer.Stroke(path, pen, {}, paint);
             },
             [&](int x, int y) {
-                cairo_save(m_cairo);
-                cairo_translate(m_cairo, x + 30, y + 20);
-                cairo_scale(m_cairo, 30, 20);
-                cairo_arc(m_cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
-                cairo_restore(m_cairo);
+                CairoEllipse(x, y);
                 cairo_stroke(m_cairo);
             });
     }
@@ -169,11 +165,7 @@ public:
                 m_renderer.Fill(path, {}, raster::FillRule::Winding, paint);
             },
             [&](int x, int y) {
-                cairo_save(m_cairo);
-                cairo_translate(m_cairo, x + 30, y + 20);
-                cairo_scale(m_cairo, 30, 20);
-                cairo_arc(m_cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
-                cairo_restore(m_cairo);
+                CairoEllipse(x, y);
                 cairo_fill(m_cairo);
             });
     }
@@ -257,6 +249,14 @@ public:
     }
 
 private:
+    void CairoEllipse(int x, int y) {
+        cairo_save(m_cairo);
+        cairo_translate(m_cairo, x + 30, y + 20);
+        cairo_scale(m_cairo, 30, 20);
+        cairo_arc(m_cairo, 0, 0, 1, 0, 2 * std::numbers::pi);
+        cairo_restore(m_cairo);
+    }
+
     std::vector<uint32_t> m_pixels;
     uint8_t* m_bytes;
     raster::Renderer m_renderer;

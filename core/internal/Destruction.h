@@ -26,9 +26,8 @@ class CUIObjectList;
 /// 4. `Release` decides. An object whose override destroys nothing lives on, held by nobody. A group's own
 ///    `Release` leaves the emptied group, which is deleted here; a group lives on when its override keeps
 ///    from calling that one.
-/// 5. The destructor forgets once more, for objects that end in any other way, and clears the pointers that
-/// are
-///    watched: another object may come to lie where this one was.
+/// 5. The destructor forgets once more, for objects that end in any other way, and clears the pointers
+///    that are watched: another object may come to lie where this one was.
 class Destruction {
 public:
     /// A canvas, for its page and its selection, or a group.

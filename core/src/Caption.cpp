@@ -61,7 +61,7 @@ void DrawCaption(Gdiplus::Graphics& graphics, const CUICoordinate& coordinate, c
     const auto& text = coordinate.Format<CUIShapeFormatText>();
     const Gdiplus::RectF position = coordinate.GetPosition();
     const Gdiplus::RectF bounds = CaptionBounds(text, position);
-    if (!HasCaption(coordinate) || !IsDrawable(bounds) || !Touches(part, bounds))
+    if (!IsDrawable(bounds) || !Touches(part, bounds))
         return;
     CaptionCache& cache = CaptionCache::Get();
     const Gdiplus::Font* font = cache.FontOf(text);

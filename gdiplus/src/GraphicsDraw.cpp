@@ -42,13 +42,7 @@ GpStatus DrawLines(GpGraphics* graphics, GpPen* pen, const P* points, INT count)
 
 template <class P>
 GpStatus DrawBeziers(GpGraphics* graphics, GpPen* pen, const P* points, INT count) {
-    return Stroke(graphics, pen, [&](PathObject& path) {
-        const auto all = ToPoints(points, count, 4);
-        Require(all.size() % 3 == 1);
-        path.Begin(all[0]);
-        for (size_t i = 1; i < all.size(); i += 3)
-            path.Curve(all[i], all[i + 1], all[i + 2]);
-    });
+    return Stroke(graphics, pen, [&](PathObject& path) { path.Curves(ToPoints(points, count, 4)); });
 }
 
 template <class P>

@@ -21,11 +21,7 @@ template <class P>
 GpStatus AddBeziers(GpPath* path, const P* points, INT count) {
     return Answer([&] {
         PathObject& own = Get<PathObject>(path);
-        const auto all = ToPoints(points, count, 4);
-        Require(all.size() % 3 == 1);
-        own.Begin(all[0]);
-        for (size_t i = 1; i < all.size(); i += 3)
-            own.Curve(all[i], all[i + 1], all[i + 2]);
+        own.Curves(ToPoints(points, count, 4));
     });
 }
 

@@ -31,6 +31,13 @@ void PathObject::Curve(raster::Point control1, raster::Point control2, raster::P
     Add(end, PathPointTypeBezier);
 }
 
+void PathObject::Curves(const std::vector<raster::Point>& points) {
+    Require(points.size() % 3 == 1);
+    Begin(points[0]);
+    for (size_t i = 1; i < points.size(); i += 3)
+        Curve(points[i], points[i + 1], points[i + 2]);
+}
+
 void PathObject::Close() {
     if (!types.empty())
         types.back() |= PathPointTypeCloseSubpath;
